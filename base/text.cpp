@@ -1,0 +1,109 @@
+#include "base/text.h"
+
+#include "base/errors.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace ornavel {
+namespace {
+
+constexpr char16_t lower(char16_t unit) {
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+}
+
+constexpr char16_t upper(char16_t unit) {
+    return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 32) : unit;
+}
+
+std::size_t count_of(TextView text, TextView search) {
+    std::size_t count = 0;
+    for (auto at = text.find(search); at != TextView::npos; at = text.find(search, at + search.size()))
+        ++count;
+    return count;
+}
+
+} // namespace
+
+Text lower_case(TextView text) {
+    Text result(text);
+    std::ranges::transform(result, result.begin(), lower);
+    return result;
+}
+
+Text upper_case(TextView text) {
+    Text result(text);
+    std::ranges::transform(result, result.begin(), upper);
+    return result;
+}
+
+bool same_name(TextView left, TextView right) { return std::ranges::equal(left, right, {}, upper, upper); }
+
+bool name_before(TextView left, TextView right) {
+    return std::ranges::lexicographical_compare(left, right, {}, upper, upper);
+}
+
+Text trim(TextView text) {
+    const auto first = text.find_first_not_of(u' ');
+    if (first == TextView::npos) return {};
+    return Text(text.substr(first, text.find_last_not_of(u' ') - first + 1));
+}
+
+bool contains(TextView text, TextView part) { return text.find(part) != TextView::npos; }
+
+Text replace_all(TextView text, TextView search, TextView replacement) {
+    const auto count = search.empty() ? 0 : count_of(text, search);
+    if (count == 0) return Text(text);
+
+    const auto kept = text.size() - count * search.size();
+    if (kept > largest_text || (!replacement.empty() && count > (largest_text - kept) / replacement.size()))
+        throw Failure(u"The text grew beyond the largest size");
+
+    Text result;
+    result.reserve(kept + count * replacement.size());
+    std::size_t done = 0;
+    for (auto at = text.find(search); at != TextView::npos; at = text.find(search, done)) {
+        result.append(text.substr(done, at - done)).append(replacement);
+        done = at + search.size();
+    }
+    return result.append(text.substr(done));
+}
+
+std::vector<Text> split(TextView text, TextView separator) {
+    std::vector<Text> pieces;
+    std::size_t begin = 0;
+    for (auto at = text.find(separator); at != TextView::npos; at = text.find(separator, begin)) {
+        pieces.emplace_back(text.substr(begin, at - begin));
+        begin = at + separator.size();
+    }
+    pieces.emplace_back(text.substr(begin));
+    return pieces;
+}
+
+std::vector<Text> lines_of(TextView text) {
+    std::vector<Text> lines;
+    while (!text.empty()) {
+        const auto end = text.find_first_of(line_end);
+        lines.emplace_back(text.substr(0, end));
+        if (end == TextView::npos) break;
+        text.remove_prefix(end + (text.substr(end).starts_with(line_end) ? 2 : 1));
+    }
+    return lines;
+}
+
+int numeric_value(TextView text) {
+    text.remove_prefix(std::min(text.find_first_not_of(u' '), text.size()));
+    long long value = 0;
+    for (const char16_t unit : text) {
+        if (unit < u'0' || unit > u'9') break;
+        value = std::min<long long>(value * 10 + (unit - u'0'), std::numeric_limits<int>::max());
+    }
+    return static_cast<int>(value);
+}
+
+Text to_text(long long number) {
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
+}
+
+} // namespace ornavel

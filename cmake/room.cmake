@@ -1,0 +1,18 @@
+# A room is one folder and one static library. KNOWS lists the rooms it may call; a room that is not
+# listed is not linked, and tools/check_layers refuses its headers.
+function(ornavel_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;KNOWS" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ROOM_KNOWS})
+  ornavel_warnings(${name})
+endfunction()
+
+function(ornavel_warnings target)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Werror)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # GCC 12 sees overlapping copies in operator+ of short texts where there are none (its bug 105329).
+    target_compile_options(${target} PRIVATE -Wno-restrict)
+  endif()
+endfunction()

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "base/clock.h"
+#include "base/errors.h"
+#include "base/files.h"
+#include "base/message_box.h"
+#include "host/mail_item.h"
+#include "settings/store.h"
+
+namespace ornavel::compose {
+
+/// What the composer works with; all of it outlives the composer.
+struct Services {
+    settings::Store& settings;
+    Files& files;
+    const Clock& clock;
+    MessageBoxes& boxes;
+    host::Objects& objects;
+    ErrorSink& errors;
+};
+
+/// What the composer shares with those who call it.
+struct Shared {
+    host::MailItem item;                  ///< the item being sent
+    bool signature_from_settings = false; ///< the name is the setting "Signature", not the form's choice
+    Text form_signature;                  ///< the send-options form's signature list
+};
+
+/// Pours the user's text into an HTML template, adds the signature and fills the placeholder fields.
+/// body: the text that the user wrote; changed in place by the steps before insertion. template_path: the
+/// template's full path; replaced by the first template of the folder when there is no such file. Gives back
+/// the finished HTML. A step that fails is written to the error log, and composition goes on with the text as
+/// it stood. Never throws.
+Text CreateHTMLBody(Services services, Shared& shared, Text& body, Text& template_path) noexcept;
+
+} // namespace ornavel::compose

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "base/clock.h"
+#include "base/files.h"
+#include "base/launcher.h"
+#include "forms/string_table.h"
+#include "forms/windows.h"
+#include "host/object.h"
+#include "settings/store.h"
+
+namespace ornavel::connect {
+
+/// The machine that the add-in runs on. All of it outlives the add-in.
+struct Platform {
+    settings::Store& settings;
+    Files& files;
+    const Clock& clock;
+    Launcher& launcher;
+    host::Objects& objects;
+    forms::Windows& windows;
+    const forms::StringTable& strings;
+    Text addin_folder; ///< the folder of Ornavel.dll, without a backslash at its end
+};
+
+} // namespace ornavel::connect

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "host/mail_item.h"
+
+namespace ornavel::host {
+
+/// A button that the add-in puts on a toolbar.
+class CommandBarButton : public View {
+public:
+    using View::View;
+    Text caption() const { return as_text(get({u"Caption"})); }
+    void set_caption(TextView caption) const { put({u"Caption"}, Text(caption)); }
+    void set_tag(TextView tag) const { put({u"Tag"}, Text(tag)); }
+    void set_face(int face) const { put({u"FaceId"}, static_cast<std::int32_t>(face)); }
+    void show_caption(bool with_face) const;
+    void remove() const { call({u"Delete"}); }
+    Subscription on_click(std::function<void()> handler) const;
+};
+
+class CommandBar : public View {
+public:
+    using View::View;
+    /// A new button that goes when the host closes.
+    CommandBarButton add_temporary_button() const;
+    /// The button with this tag, or one that holds nothing.
+    CommandBarButton find_button(TextView tag) const;
+};
+
+class CommandBars : public View {
+public:
+    using View::View;
+    CommandBar item(TextView name) const { return CommandBar(as_object(get({u"Item"}, {Text(name)}))); }
+};
+
+/// A window that shows folders.
+class Explorer : public View {
+public:
+    using View::View;
+    CommandBars command_bars() const { return CommandBars(as_object(get({u"CommandBars"}))); }
+    Subscription on_close(std::function<void()> handler) const;
+};
+
+/// The pages of the host's Options dialog.
+class PropertyPages : public View {
+public:
+    using View::View;
+    void add(const ObjectPtr& page, TextView title) const { call({u"Add"}, {page, Text(title)}); }
+};
+
+/// What the application tells its add-ins. Handlers never throw.
+struct ApplicationEvents {
+    std::function<void(MailItem item, bool& cancel)> item_send;
+    std::function<void(PropertyPages pages)> options_pages_add;
+};
+
+class Application : public View {
+public:
+    using View::View;
+    Text version() const { return as_text(get({u"Version"})); }
+    int explorer_count() const;
+    /// Holds nothing when no explorer window is open.
+    Explorer active_explorer() const { return Explorer(as_object_or_nothing(call({u"ActiveExplorer"}))); }
+    MailItem create_mail() const;
+    Subscription on_events(ApplicationEvents events) const;
+};
+
+} // namespace ornavel::host

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "host/view.h"
+
+namespace ornavel::host {
+
+/// A named value that an add-in keeps with an item.
+class UserProperty : public View {
+public:
+    using View::View;
+    void set_value(TextView value) const { put({u"Value"}, Text(value)); }
+};
+
+class UserProperties : public View {
+public:
+    using View::View;
+    int count() const { return as_number(get({u"Count"})); }
+    /// Adds a text property.
+    UserProperty add(TextView name) const {
+        constexpr std::int32_t ol_text = 1;
+        return UserProperty(as_object(call({u"Add"}, {Text(name), ol_text})));
+    }
+};
+
+class Attachments : public View {
+public:
+    using View::View;
+    int count() const { return as_number(get({u"Count"})); }
+    void add(TextView path) const { call({u"Add"}, {Text(path)}); }
+};
+
+class Recipient : public View {
+public:
+    using View::View;
+    Text address() const { return as_text(get({u"Address"})); }
+};
+
+class Recipients : public View {
+public:
+    using View::View;
+    int count() const { return as_number(get({u"Count"})); }
+    /// Counts from 1.
+    Recipient item(int index) const {
+        return Recipient(as_object(call({u"Item"}, {static_cast<std::int32_t>(index)})));
+    }
+    void add(TextView address) const { call({u"Add"}, {Text(address)}); }
+};
+
+/// What the editor of an item is, as the host numbers it; other numbers occur and count as HTML.
+enum EditorType : int { plain_text_editor = 1, html_editor = 2, rich_text_editor = 3, word_editor = 4 };
+
+class Inspector : public View {
+public:
+    using View::View;
+    int editor_type() const { return as_number(get({u"EditorType"})); }
+    bool is_word_mail() const { return as_flag(get({u"IsWordMail"})); }
+};
+
+class Folder : public View {
+public:
+    using View::View;
+    Text name() const { return as_text(get({u"Name"})); }
+};
+
+/// An item being written or sent. A `Redemption.SafeMailItem` around one has the same members.
+class MailItem : public View {
+public:
+    using View::View;
+
+    Text message_class() const { return as_text(get({u"MessageClass"})); }
+    Folder parent() const { return Folder(as_object(get({u"Parent"}))); }
+
+    Text subject() const { return as_text(get({u"Subject"})); }
+    void set_subject(TextView subject) const { put({u"Subject"}, Text(subject)); }
+    Text body() const { return as_text(get({u"Body"})); }
+    void set_body(TextView body) const { put({u"Body"}, Text(body)); }
+    Text html_body() const { return as_text(get({u"HTMLBody"})); }
+    void set_html_body(TextView body) const { put({u"HTMLBody"}, Text(body)); }
+
+    Text billing_information() const { return as_text(get({u"BillingInformation"})); }
+    void set_billing_information(TextView text) const { put({u"BillingInformation"}, Text(text)); }
+
+    UserProperties user_properties() const { return UserProperties(as_object(get({u"UserProperties"}))); }
+    Recipients recipients() const { return Recipients(as_object(get({u"Recipients"}))); }
+    Attachments attachments() const { return Attachments(as_object(get({u"Attachments"}))); }
+    Inspector inspector() const { return Inspector(as_object(get({u"GetInspector"}))); }
+
+    void save() const { call({u"Save"}); }
+    void send() const { call({u"Send"}); }
+};
+
+/// The outside wrapper that touches an item without the host's security prompts.
+class SafeMailItem : public MailItem {
+public:
+    using MailItem::MailItem;
+    static SafeMailItem around(Objects& objects, const MailItem& item);
+};
+
+} // namespace ornavel::host

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "settings/catalogue.h"
+
+#include <map>
+#include <optional>
+
+namespace ornavel::settings {
+
+/// The per-user store of named strings. Section and key names compare without case. Nothing fails: what can't
+/// be read is absent, what can't be written changes nothing.
+class Store {
+public:
+    virtual ~Store() = default;
+    /// The stored value, which may be empty; nothing when it is absent.
+    virtual std::optional<Text> find(TextView section, TextView key) const noexcept = 0;
+    virtual void save(TextView section, TextView key, TextView value) noexcept = 0;
+};
+
+/// The stored value, or the key's default.
+Text read(const Store& store, const Key& key);
+
+/// The stored value, or a default other than the catalogue's.
+Text read(const Store& store, const Key& key, TextView fallback);
+
+/// Whether the value is exactly "True"; "true" is off.
+bool is_on(const Store& store, const Key& key);
+
+void save(Store& store, const Key& key, TextView value);
+
+/// A store that lives as long as the program.
+class MemoryStore final : public Store {
+public:
+    struct NameOrder {
+        using is_transparent = void;
+        bool operator()(TextView left, TextView right) const { return name_before(left, right); }
+    };
+    using Section = std::map<Text, Text, NameOrder>;
+
+    std::optional<Text> find(TextView section, TextView key) const noexcept override;
+    void save(TextView section, TextView key, TextView value) noexcept override;
+
+    const std::map<Text, Section, NameOrder>& sections() const { return sections_; }
+
+private:
+    std::map<Text, Section, NameOrder> sections_;
+};
+
+} // namespace ornavel::settings
