@@ -8,6 +8,8 @@
 #include "host/object.h"
 #include "settings/store.h"
 
+#include <functional>
+
 namespace ornavel::connect {
 
 /// The machine that the add-in runs on. All of it outlives the add-in.
@@ -20,6 +22,8 @@ struct Platform {
     forms::Windows& windows;
     const forms::StringTable& strings;
     Text addin_folder; ///< the folder of Ornavel.dll, without a backslash at its end
+    /// Told each gate that a send reaches and whether it passed; empty where nobody watches.
+    std::function<void(TextView gate, bool passed)> on_gate = {};
 };
 
 } // namespace ornavel::connect
