@@ -7,7 +7,8 @@ namespace {
 using namespace settings;
 
 /// A send without the defaults that auto mode needs goes back to the user, and later sends are left alone.
-Verdict refuse_without_default(Send& send) {
+Verdict refuse_without_default(Send& send, TextView prompt_mode) {
+    send.session.prompt.ask(prompt_mode);
     send.cancel = true;
     set_mode(send.session, u"on");
     return Verdict::leave;
@@ -36,12 +37,13 @@ Verdict non_auto_branch(Send& send) {
 
 Verdict default_template(Send& send) {
     const Text name = read(send.settings(), user::Template);
-    return contains(name, u".htm") ? Verdict::next : refuse_without_default(send);
+    return contains(name, u".htm") ? Verdict::next : refuse_without_default(send, u"Auto-no Template");
 }
 
 Verdict default_signature(Send& send) {
     const Text name = read(send.settings(), user::Signature);
-    return contains(name, u".htm") || contains(name, u"none") ? Verdict::next : refuse_without_default(send);
+    if (contains(name, u".htm") || contains(name, u"none")) return Verdict::next;
+    return refuse_without_default(send, u"Auto-no signature");
 }
 
 Verdict auto_preview(Send&) { return Verdict::next; }
