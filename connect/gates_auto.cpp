@@ -37,9 +37,9 @@ Verdict compose_body(Send& send) {
     Text template_path =
         read(send.settings(), admin::HTMFilesPath) + u"\\" + trim(read(send.settings(), user::Template));
     const Platform& platform = session.platform;
-    item.set_html_body(compose::CreateHTMLBody(
-        {platform.settings, platform.files, platform.clock, platform.windows, platform.objects, session.log},
-        session.shared, body, template_path));
+    item.set_html_body(compose::CreateHTMLBody({platform.settings, platform.files, platform.clock,
+                                                platform.windows, platform.objects, session.errors},
+                                               session.shared, body, template_path));
     return Verdict::next;
 }
 

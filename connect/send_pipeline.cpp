@@ -57,7 +57,7 @@ void record_gate(Send& send, TextView label) {
 
 bool passes(const Gate& gate, Send& send) noexcept {
     bool passed = false;
-    trap(send.session.log, {u"ol_ItemSend", gate.name}, [&] {
+    trap(send.session.errors, {u"ol_ItemSend", gate.name}, [&] {
         passed = gate.decide(send) == Verdict::next;
         if (send.session.platform.on_gate) send.session.platform.on_gate(gate.name, passed);
         if (passed) std::ranges::for_each(gate.passed, [&](TextView label) { record_gate(send, label); });
