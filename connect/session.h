@@ -3,6 +3,7 @@
 #include "compose/composer.h"
 #include "connect/platform.h"
 #include "diagnostics/error_log.h"
+#include "forms/frmMessage.h"
 #include "host/application.h"
 
 namespace ornavel::connect {
@@ -27,15 +28,21 @@ struct HostReferences {
 struct Session {
     explicit Session(Platform machine)
         : platform(std::move(machine)),
-          log(platform.settings, platform.files, platform.clock, platform.addin_folder) {}
+          log(platform.settings, platform.files, platform.clock, platform.addin_folder),
+          prompt(platform.windows, platform.strings) {
+        shared.application_path = platform.addin_folder;
+    }
 
     Platform platform;
     diagnostics::ErrorLog log;
+    forms::PromptDialog prompt;
     HostReferences host;
     compose::Shared shared; ///< with the current item: the item being sent
     bool processed = false;
     bool internal = false;
-    bool dialog_answer = true;
+    bool dialog_answer = true; ///< the send-options form's answer
+    bool send_plain = false;   ///< the preview's answer: undressed
+    bool vcard_chosen = false; ///< the preview's or the form's answer
     Text language;
 };
 

@@ -10,7 +10,8 @@ namespace {
 using namespace settings;
 
 constexpr int setup_face = 3271;
-constexpr TextView signature_mode = u"eSignature";
+// The mode and the setting that offers it share their name.
+constexpr TextView signature_mode = admin::eSignature.name;
 
 Text off_caption(const Session& session) { return forms::load_text(session.platform.strings, 5071); }
 // The mode "auto" is shown as "Ornavel On"; so is "on", which only a send writes.
