@@ -11,6 +11,7 @@ enum class Deed {
     put,
     call,
     event,
+    gate,
     read_setting,
     save_setting,
     read_file,
