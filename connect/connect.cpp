@@ -1,19 +1,139 @@
 #include "connect/connect.h"
 
+#include "connect/environment.h"
+#include "connect/send_pipeline.h"
+#include "connect/session.h"
+#include "connect/setup_program.h"
+#include "connect/system_test.h"
+#include "connect/toolbar.h"
+#include "connect/tray.h"
+
 namespace ornavel::connect {
+namespace {
 
-struct Connect::State {
-    Platform platform;
-    host::Application oHostApp;
-};
+using namespace settings;
 
-Connect::Connect(Platform platform) : state_(std::make_unique<State>(State{std::move(platform), {}})) {}
+/// The explorers that are open; nothing when the host can't say.
+std::optional<int> explorer_count(const Session& session) noexcept {
+    std::optional<int> count;
+    attempt([&] { count = session.host.oHostApp.explorer_count(); });
+    return count;
+}
+
+} // namespace
+
+Connect::Connect(Platform platform) : session_(std::make_unique<Session>(std::move(platform))) {}
+
 Connect::~Connect() = default;
 
-void Connect::OnConnection(host::Application application) noexcept { state_->oHostApp = std::move(application); }
-void Connect::OnStartupComplete() noexcept {}
-void Connect::OnAddInsUpdate() noexcept {}
-void Connect::OnBeginShutdown() noexcept {}
-void Connect::OnDisconnection(int) noexcept {}
+void Connect::OnConnection(host::Application application) noexcept {
+    Session& session = *session_;
+    record(session, u"Fired", u"", u"On Connection");
+    session.host.oHostApp = std::move(application);
+    attempt([&] {
+        session.host.application_events = session.host.oHostApp.on_events(
+            {.item_send = [this](host::MailItem item, bool& cancel) { ol_ItemSend(*session_, item, cancel); },
+             .options_pages_add = [this](host::PropertyPages pages) { OptionsPagesAdd(pages); }});
+    });
+    attempt([&] { hook_active_explorer(); });
+    if (is_on(session.platform.settings, admin::SysTray)) show_tray_icon(session);
+    start_setup_program_when_due(session);
+    offer_system_test(session);
+    record(session, u"Exiting sub", u"", u"Bottom");
+}
+
+void Connect::OnStartupComplete() noexcept {
+    Session& session = *session_;
+    session.shared.application_path =
+        read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
+    prepare_environment(session);
+    add_buttons(session);
+    record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
+    Get_Marketing_Info(session);
+    session.dialog_answer = true;
+    session.language = u"English";
+}
+
+void Connect::OnAddInsUpdate() noexcept {
+    record(*session_, u"Fired", u"Top- no code here", u"OnAddInsUpdate");
+}
+
+void Connect::OnBeginShutdown() noexcept {
+    record(*session_, u"Fired", u"", u"OnBeginShutdown");
+    record(*session_, u"Calling VarCleanup", u"", u"OnBeginShutdown");
+    VarCleanup();
+    record(*session_, u"Exiting Sub", u"", u"Bottom");
+}
+
+void Connect::OnDisconnection(int remove_mode) noexcept {
+    Session& session = *session_;
+    record(session, u"Fired", u"", u"OnDisconnection");
+    if (remove_mode != 0) remove_buttons(session);
+    if (is_on(session.platform.settings, admin::SysTray)) record(session, u"True", u"", u"Systray");
+    remove_tray_icon(session);
+
+    // Counted before the first clean-up lets the application go.
+    const bool explorers_left = explorer_count(session).value_or(0) > 0;
+    record(session, u"Calling VarCleanup", u"", u"OnDisconnection");
+    VarCleanup();
+    if (explorers_left) {
+        record(session, u"Explorer count > 0", u"", u"Calling VarCleanup");
+        VarCleanup();
+    }
+    record(session, u"exiting sub", u"", u"Bottom");
+}
+
+void Connect::OptionsPagesAdd(const host::PropertyPages& pages) noexcept {
+    attempt([&] {
+        if (!is_on(session_->platform.settings, admin::ShowOptionsPage)) return;
+        pages.add(host::create_options_page(session_->platform.objects), u"Ornavel");
+    });
+}
+
+void Connect::hook_active_explorer() {
+    HostReferences& host = session_->host;
+    host.explorer_events.reset();
+    host.myActiveExplorer = host.oHostApp.active_explorer();
+    if (host.myActiveExplorer)
+        host.explorer_events = host.myActiveExplorer.on_close([this] { myActiveExplorer_Close(); });
+}
+
+void Connect::myActiveExplorer_Close() noexcept {
+    Session& session = *session_;
+    record(session, u"Fired", u"", u"MyActiveExplorer sub");
+    const auto count = explorer_count(session);
+    if (count && *count < 2) {
+        record(session, u"Calling Varcleanup", u"", u"Explorer count <= 1 (Count is " + to_text(*count));
+        VarCleanup();
+    } else {
+        attempt([&] { hook_active_explorer(); });
+    }
+    if (session.host.myActiveExplorer) record(session, u"Not Nothing", u"", u"MyActiveExplorer sub");
+    record(session, u"Exited", u"", u"Bottom");
+}
+
+void Connect::VarCleanup() noexcept {
+    Session& session = *session_;
+    HostReferences& host = session.host;
+    host.application_events.reset();
+    host.explorer_events.reset();
+    host.mode_button_events.reset();
+    host.setup_button_events.reset();
+    host.myActiveExplorer.release();
+
+    const std::pair<TextView, host::View*> members[] = {
+        {u"oHostApp", &host.oHostApp},
+        {u"oCommandBars", &host.oCommandBars},
+        {u"oStandardBar", &host.oStandardBar},
+        {u"myButtonSetting", &host.myButtonSetting},
+        {u"MyButtonConfigWiz", &host.MyButtonConfigWiz},
+        {u"MyMessItem", &session.shared.item},
+    };
+    for (const auto& [name, member] : members) {
+        if (!*member) continue;
+        member->release();
+        record(session, name, u"Not Nothing", u"VarCleanup");
+    }
+}
 
 } // namespace ornavel::connect

@@ -7,11 +7,10 @@
 
 namespace ornavel::connect {
 
-/// How the mail client disconnects an add-in: 0 when it closes, another number when the user unloads it.
-enum class RemoveMode : int { host_shutdown = 0, user_closed = 1 };
+struct Session;
 
-/// The add-in's connection class: the mail client's calls arrive here, and every reference to a host object
-/// is kept and released here. No handler throws.
+/// The add-in's connection class: the mail client's calls and events arrive here, and every reference to a
+/// host object is kept and released here. No handler throws.
 class Connect {
 public:
     explicit Connect(Platform platform);
@@ -23,11 +22,16 @@ public:
     void OnStartupComplete() noexcept;
     void OnAddInsUpdate() noexcept;
     void OnBeginShutdown() noexcept;
+    /// remove_mode: 0 when the mail client closes, another number when the user unloads the add-in.
     void OnDisconnection(int remove_mode) noexcept;
 
 private:
-    struct State;
-    std::unique_ptr<State> state_;
+    void OptionsPagesAdd(const host::PropertyPages& pages) noexcept;
+    void hook_active_explorer();
+    void myActiveExplorer_Close() noexcept;
+    void VarCleanup() noexcept;
+
+    std::unique_ptr<Session> session_;
 };
 
 } // namespace ornavel::connect

@@ -24,9 +24,14 @@ void pass_item_send(const ApplicationEvents& events, std::span<Value> arguments)
 
 } // namespace
 
-void CommandBarButton::show_caption(bool with_face) const {
-    put({u"Style"}, with_face ? style_face_and_caption : style_caption);
+void CommandBarButton::show_caption() const { put({u"Style"}, style_caption); }
+
+void CommandBarButton::show_face_and_caption(int face) const {
+    put({u"FaceId"}, static_cast<std::int32_t>(face));
+    put({u"Style"}, style_face_and_caption);
 }
+
+ObjectPtr create_options_page(Objects& objects) { return objects.create(u"BrevantPage.PropPage"); }
 
 Subscription CommandBarButton::on_click(std::function<void()> handler) const {
     return advise(EventSource::button, [handler = std::move(handler)](TextView event, std::span<Value>) {

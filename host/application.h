@@ -11,8 +11,10 @@ public:
     Text caption() const { return as_text(get({u"Caption"})); }
     void set_caption(TextView caption) const { put({u"Caption"}, Text(caption)); }
     void set_tag(TextView tag) const { put({u"Tag"}, Text(tag)); }
-    void set_face(int face) const { put({u"FaceId"}, static_cast<std::int32_t>(face)); }
-    void show_caption(bool with_face) const;
+    /// Shows the caption alone.
+    void show_caption() const;
+    /// Shows one of the host's own pictures beside the caption.
+    void show_face_and_caption(int face) const;
     void remove() const { call({u"Delete"}); }
     Subscription on_click(std::function<void()> handler) const;
 };
@@ -46,6 +48,9 @@ public:
     using View::View;
     void add(const ObjectPtr& page, TextView title) const { call({u"Add"}, {page, Text(title)}); }
 };
+
+/// The page that the add-in adds to the Options dialog.
+ObjectPtr create_options_page(Objects& objects);
 
 /// What the application tells its add-ins. Handlers never throw.
 struct ApplicationEvents {

@@ -1,0 +1,51 @@
+#include "connect/gates.h"
+#include "connect/toolbar.h"
+
+namespace ornavel::connect {
+namespace {
+
+using namespace settings;
+
+/// A send without the defaults that auto mode needs goes back to the user, and later sends are left alone.
+Verdict refuse_without_default(Send& send, TextView prompt_mode) {
+    send.session.prompt.ask(prompt_mode);
+    send.cancel = true;
+    set_mode(send.session, u"on");
+    return Verdict::leave;
+}
+
+void attach_selected_vcard(Send& send) {
+    const Text path = read(send.settings(), user::vCardPathSelected);
+    const bool wanted = send.session.dialog_answer && read(send.settings(), user::SendvCard) == on &&
+                        !path.empty() && send.session.vcard_chosen;
+    if (wanted) send.sent.attachments().add(path);
+}
+
+} // namespace
+
+Verdict non_auto_branch(Send& send) {
+    if (read(send.settings(), user::SettingButtonBar, u"on") == u"auto") return Verdict::off;
+    record_gate(send, u"Auto process end check OK");
+    // The item is the current one already, so a send-options form would find it.
+    record_gate(send, u"Ornavel Dialog check OK");
+    send.session.shared.item.release();
+    attach_selected_vcard(send);
+    record_gate(send, u"vCard Attach check OK");
+    send.cancel = !send.session.dialog_answer;
+    return Verdict::leave;
+}
+
+Verdict default_template(Send& send) {
+    const Text name = read(send.settings(), user::Template);
+    return contains(name, u".htm") ? Verdict::next : refuse_without_default(send, u"Auto-no Template");
+}
+
+Verdict default_signature(Send& send) {
+    const Text name = read(send.settings(), user::Signature);
+    if (contains(name, u".htm") || contains(name, u"none")) return Verdict::next;
+    return refuse_without_default(send, u"Auto-no signature");
+}
+
+Verdict auto_preview(Send&) { return Verdict::next; }
+
+} // namespace ornavel::connect

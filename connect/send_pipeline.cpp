@@ -1,0 +1,83 @@
+#include "connect/send_pipeline.h"
+
+#include "connect/gates.h"
+
+#include <array>
+#include <utility>
+
+namespace ornavel::connect {
+namespace {
+
+/// The records that a passed gate leaves while the system check is on.
+using Records = std::array<TextView, 2>;
+
+struct Gate {
+    TextView name;
+    Verdict (*decide)(Send&);
+    Records passed;
+};
+
+constexpr Gate gates[] = {
+    {u"entry mode", entry_mode, {}}, // only "auto" passes; everything else is tagged and leaves
+    {u"already tagged", already_tagged, {}},
+    {u"wrapping", wrap_item, {}}, // from here on the current item is the wrapper, where there is one
+    {u"message class", message_class, {}},
+    {u"resend from the Outbox", resend_from_outbox, {}},
+    {u"resend from Sent Items", resend_from_sent_items, {}},
+    {u"system check switch", system_check_switch, {u"Fired OK"}}, // from here on the gates leave records
+    {u"message class again", message_class, {u"Message Class - IPM.Note", u"HTML Body check OK"}},
+    {u"subject", copy_subject, {u"Subject OK"}},
+    {u"personal stationery", personal_stationery, {u"Wipeout Personal Stationery OK"}},
+    {u"reply marker", load_reply_marker, {}},
+    {u"internal mail", internal_mail, {}}, // asks the reply test itself, before its own answer
+    {u"answers", clear_answers, {u"Send Internal OK"}},
+    {u"send as is", send_as_is, {u"Send As is check OK"}},
+    {u"mode off", mode_off, {u"Mode off check OK"}}, // read again: a gate or a box may have changed it
+    {u"preview stamp", preview_stamp, {u"Preview check OK"}},
+    {u"preview send stamp", preview_send_stamp, {u"Preview send check OK"}},
+    {u"reply test", reply_test, {u"Reply check OK"}},
+    {u"other modes", non_auto_branch, {}},
+    {u"default template", default_template, {u"Auto mode check OK"}},
+    {u"default signature", default_signature, {u"Signature check OK", u"Delivery and Receipt check OK"}},
+    {u"auto preview", auto_preview, {u"Auto Preview check OK"}},
+    {u"composition", compose_body, {u"vCard check OK"}},
+    {u"stamping", stamp, {}},
+};
+
+/// Makes the item the current one, and the outer send's item current again on every way out.
+class CurrentItem {
+public:
+    CurrentItem(Session& session, host::MailItem item)
+        : current_(session.shared.item), outer_(std::exchange(current_, std::move(item))) {}
+    ~CurrentItem() { current_ = std::move(outer_); }
+    CurrentItem(const CurrentItem&) = delete;
+    CurrentItem& operator=(const CurrentItem&) = delete;
+
+private:
+    host::MailItem& current_;
+    host::MailItem outer_;
+};
+
+bool passes(const Gate& gate, Send& send) noexcept {
+    Verdict verdict = Verdict::leave;
+    trap(send.session.log, {u"ol_ItemSend", gate.name}, [&] {
+        verdict = gate.decide(send);
+        if (send.session.platform.on_gate)
+            send.session.platform.on_gate(gate.name, verdict != Verdict::leave);
+        if (verdict != Verdict::next) return;
+        for (const TextView label : gate.passed)
+            if (!label.empty()) record_gate(send, label);
+    });
+    return verdict != Verdict::leave;
+}
+
+} // namespace
+
+void ol_ItemSend(Session& session, const host::MailItem& item, bool& cancel) noexcept {
+    const CurrentItem current(session, item);
+    Send send{.session = session, .sent = item, .cancel = cancel};
+    for (const Gate& gate : gates)
+        if (!passes(gate, send)) return;
+}
+
+} // namespace ornavel::connect

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "compose/composer.h"
+#include "connect/platform.h"
+#include "diagnostics/error_log.h"
+#include "forms/frmMessage.h"
+#include "host/application.h"
+
+namespace ornavel::connect {
+
+/// Every reference to a host object, and the subscriptions to its events, in one place, so that VarCleanup
+/// can let all of them go.
+struct HostReferences {
+    host::Explorer myActiveExplorer;
+    host::Application oHostApp;
+    host::CommandBars oCommandBars;
+    host::CommandBar oStandardBar;
+    host::CommandBarButton myButtonSetting;
+    host::CommandBarButton MyButtonConfigWiz;
+
+    host::Subscription application_events;
+    host::Subscription explorer_events;
+    host::Subscription mode_button_events;
+    host::Subscription setup_button_events;
+};
+
+/// What lives as long as the add-in is loaded. The processed and internal flags outlive a send on purpose.
+struct Session {
+    explicit Session(Platform machine)
+        : platform(std::move(machine)),
+          log(platform.settings, platform.files, platform.clock, platform.addin_folder),
+          prompt(platform.windows, platform.strings) {
+        shared.application_path = platform.addin_folder;
+    }
+
+    Platform platform;
+    diagnostics::ErrorLog log;
+    forms::PromptDialog prompt;
+    HostReferences host;
+    compose::Shared shared; ///< with the current item: the item being sent
+    bool processed = false;
+    bool internal = false;
+    bool dialog_answer = true; ///< the send-options form's answer
+    bool send_plain = false;   ///< the preview's answer: undressed
+    bool vcard_chosen = false; ///< the preview's or the form's answer
+    Text language;
+};
+
+/// A system-check record; written only while the setting "SystemCheck" is on.
+void record(Session& session, TextView label, TextView detail, TextView handler) noexcept;
+
+} // namespace ornavel::connect

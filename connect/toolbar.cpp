@@ -1,0 +1,91 @@
+#include "connect/toolbar.h"
+
+#include "connect/environment.h"
+#include "connect/session.h"
+#include "connect/setup_program.h"
+
+namespace ornavel::connect {
+namespace {
+
+using namespace settings;
+
+constexpr int setup_face = 3271;
+// The mode and the setting that offers it share their name.
+constexpr TextView signature_mode = admin::eSignature.name;
+
+Text off_caption(const Session& session) { return forms::load_text(session.platform.strings, 5071); }
+// The mode "auto" is shown as "Ornavel On"; so is "on", which only a send writes.
+Text on_caption(const Session& session) { return forms::load_text(session.platform.strings, 5072); }
+
+Text caption_of_mode(const Session& session, TextView mode) {
+    if (mode == u"off") return off_caption(session);
+    return mode == signature_mode ? Text(signature_mode) : on_caption(session);
+}
+
+/// The button's caption, not the setting, says where the cycle stands.
+void myButtonSetting_Click(Session& session) noexcept {
+    attempt([&] {
+        const Text caption = session.host.myButtonSetting.caption();
+        if (caption == on_caption(session)) {
+            set_mode(session, u"off");
+        } else if (caption == off_caption(session) && is_on(session.platform.settings, admin::eSignature)) {
+            set_mode(session, signature_mode);
+            write_signature_files(session);
+        } else if (caption == off_caption(session)) {
+            set_mode(session, u"auto");
+        } else if (caption == signature_mode) {
+            set_mode(session, u"auto");
+            reset_host_signatures(session);
+        }
+    });
+}
+
+host::CommandBarButton button_with_tag(const host::CommandBar& bar, TextView tag) {
+    if (host::CommandBarButton button = bar.find_button(tag)) return button;
+    host::CommandBarButton button = bar.add_temporary_button();
+    button.set_tag(tag);
+    return button;
+}
+
+void add_setup_button(Session& session) {
+    HostReferences& host = session.host;
+    host.MyButtonConfigWiz = button_with_tag(host.oStandardBar, u"ButtonWiz");
+    host.MyButtonConfigWiz.set_caption(forms::load_text(session.platform.strings, 5101));
+    host.MyButtonConfigWiz.show_face_and_caption(setup_face);
+    host.setup_button_events = host.MyButtonConfigWiz.on_click([&session] { start_setup_program(session); });
+}
+
+void add_mode_button(Session& session) {
+    HostReferences& host = session.host;
+    host.myButtonSetting = button_with_tag(host.oStandardBar, u"EmailMonitor");
+    host.myButtonSetting.show_caption();
+    host.myButtonSetting.set_caption(
+        caption_of_mode(session, read(session.platform.settings, user::SettingButtonBar)));
+    host.mode_button_events = host.myButtonSetting.on_click([&session] { myButtonSetting_Click(session); });
+}
+
+} // namespace
+
+void set_mode(Session& session, TextView mode) noexcept {
+    attempt([&] { session.host.myButtonSetting.set_caption(caption_of_mode(session, mode)); });
+    save(session.platform.settings, user::SettingButtonBar, mode);
+}
+
+void add_buttons(Session& session) noexcept {
+    const bool on_a_toolbar = attempt([&] {
+        session.host.oCommandBars = session.host.myActiveExplorer.command_bars();
+        session.host.oStandardBar = session.host.oCommandBars.item(u"Standard");
+    });
+    if (!on_a_toolbar) return;
+    const Store& store = session.platform.settings;
+    if (is_on(store, admin::ShowConfigWizButton)) attempt([&] { add_setup_button(session); });
+    if (read(store, user::SuppressToolbar) == off) attempt([&] { add_mode_button(session); });
+}
+
+void remove_buttons(Session& session) noexcept {
+    for (const host::CommandBarButton& button :
+         {session.host.myButtonSetting, session.host.MyButtonConfigWiz})
+        attempt([&] { button.remove(); });
+}
+
+} // namespace ornavel::connect

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/text.h"
+
+namespace ornavel::connect {
+
+struct Session;
+
+/// Puts the setup button and the mode button on the active explorer's Standard bar, each where its setting
+/// asks for it. A button that an earlier start-up left there is used again. Without an explorer there are
+/// none.
+void add_buttons(Session& session) noexcept;
+
+/// Saves the mode and shows it on the mode button, where there is one.
+void set_mode(Session& session, TextView mode) noexcept;
+
+/// Takes the buttons off the toolbar: the user unloads the add-in.
+void remove_buttons(Session& session) noexcept;
+
+} // namespace ornavel::connect

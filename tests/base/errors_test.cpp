@@ -1,0 +1,46 @@
+#include "base/errors.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace ornavel {
+namespace {
+
+class Recorder final : public ErrorSink {
+public:
+    void Write_to_error_file(TextView description, TextView sub_function,
+                             TextView section) noexcept override {
+        line = Text(sub_function) + u"/" + Text(section) + u"/" + Text(description);
+    }
+    Text line;
+};
+
+TEST(Trap, HandsWhatItCatchesToTheSinkWithItsPlace) {
+    Recorder errors;
+    EXPECT_FALSE(trap(errors, {u"routine", u"step"}, [] { throw Failure(u"disk full"); }));
+    EXPECT_EQ(errors.line, u"routine/step/disk full");
+}
+
+TEST(Trap, NamesForeignExceptionsAsWellAsItCan) {
+    Recorder errors;
+    trap(errors, {u"r", u"s"}, [] { throw std::runtime_error("caf\xC3\xA9"); });
+    EXPECT_EQ(errors.line, u"r/s/caf\u00E9");
+    trap(errors, {u"r", u"s"}, [] { throw 7; });
+    EXPECT_EQ(errors.line, u"r/s/Unknown error");
+}
+
+TEST(Trap, SaysNothingWhenTheBodyGetsThrough) {
+    Recorder errors;
+    EXPECT_TRUE(trap(errors, {u"r", u"s"}, [] {}));
+    EXPECT_TRUE(errors.line.empty());
+}
+
+TEST(Attempt, LetsNothingOut) {
+    EXPECT_TRUE(attempt([] {}));
+    EXPECT_FALSE(attempt([] { throw Failure(u"x"); }));
+    EXPECT_FALSE(attempt([] { throw 7; }));
+}
+
+} // namespace
+} // namespace ornavel

@@ -1,0 +1,47 @@
+#include "host/value.h"
+
+#include "host/view.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::host {
+namespace {
+
+TEST(Value, AnEmptyValueIsNothingOfEachType) {
+    EXPECT_EQ(as_text(Empty{}), u"");
+    EXPECT_EQ(as_number(Empty{}), 0);
+    EXPECT_FALSE(as_flag(Empty{}));
+    EXPECT_EQ(as_object_or_nothing(Empty{}), nullptr);
+}
+
+TEST(Value, NumbersAndTextsConvertWhereTheTextIsANumber) {
+    EXPECT_EQ(as_text(std::int32_t{-12}), u"-12");
+    EXPECT_EQ(as_number(Text(u"-12")), -12);
+    EXPECT_EQ(as_number(2.5), 2);
+    EXPECT_TRUE(as_flag(std::int32_t{-1}));
+    EXPECT_TRUE(as_flag(Text(u"true")));
+    EXPECT_FALSE(as_flag(Text(u"0")));
+    EXPECT_EQ(as_text(true), u"True");
+}
+
+TEST(Value, AnythingElseIsAnErrorOfTheHost) {
+    EXPECT_THROW(as_number(Text(u"abc")), Error);
+    EXPECT_THROW(as_number(Text()), Error);
+    EXPECT_THROW(as_number(1e300), Error);
+    EXPECT_THROW(as_text(ObjectPtr{}), Error);
+    EXPECT_THROW(as_object(ObjectPtr{}), Error);
+    EXPECT_THROW(as_object(Text(u"x")), Error);
+    EXPECT_THROW(as_flag(Text(u"yes")), Error);
+}
+
+TEST(View, ThatHoldsNothingFailsInsteadOfCrashing) {
+    struct Named : View {
+        using View::View;
+        Text name() const { return as_text(get({u"Name"})); }
+    };
+    EXPECT_FALSE(Named());
+    EXPECT_THROW(Named().name(), Error);
+}
+
+} // namespace
+} // namespace ornavel::host
