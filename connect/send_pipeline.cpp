@@ -60,7 +60,7 @@ private:
 
 bool passes(const Gate& gate, Send& send) noexcept {
     Verdict verdict = Verdict::leave;
-    trap(send.session.log, {u"ol_ItemSend", gate.name}, [&] {
+    trap(send.session.errors, {u"ol_ItemSend", gate.name}, [&] {
         verdict = gate.decide(send);
         if (send.session.platform.on_gate)
             send.session.platform.on_gate(gate.name, verdict != Verdict::leave);

@@ -2,7 +2,7 @@
 
 #include "compose/composer.h"
 #include "connect/platform.h"
-#include "diagnostics/error_log.h"
+#include "diagnostics/error_reporter.h"
 #include "forms/frmMessage.h"
 #include "host/application.h"
 
@@ -29,14 +29,19 @@ struct Session {
     explicit Session(Platform machine)
         : platform(std::move(machine)),
           log(platform.settings, platform.files, platform.clock, platform.addin_folder),
-          prompt(platform.windows, platform.strings) {
+          prompt(platform.windows, platform.strings),
+          errors({platform.settings, log, prompt, platform.machine, platform.objects, host.oHostApp,
+                  platform.addin_folder}) {
         shared.application_path = platform.addin_folder;
     }
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     Platform platform;
+    HostReferences host;
     diagnostics::ErrorLog log;
     forms::PromptDialog prompt;
-    HostReferences host;
+    diagnostics::ErrorReporter errors;
     compose::Shared shared; ///< with the current item: the item being sent
     bool processed = false;
     bool internal = false;
