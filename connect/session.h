@@ -31,7 +31,9 @@ struct Session {
           log(platform.settings, platform.files, platform.clock, platform.addin_folder),
           prompt(platform.windows, platform.strings),
           errors({platform.settings, log, prompt, platform.machine, platform.objects, host.oHostApp,
-                  platform.addin_folder}) {}
+                  platform.addin_folder}) {
+        shared.application_path = platform.addin_folder;
+    }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
@@ -43,7 +45,9 @@ struct Session {
     compose::Shared shared; ///< with the current item: the item being sent
     bool processed = false;
     bool internal = false;
-    bool dialog_answer = true;
+    bool dialog_answer = true; ///< the send-options form's answer
+    bool send_plain = false;   ///< the preview's answer: undressed
+    bool vcard_chosen = false; ///< the preview's or the form's answer
     Text language;
 };
 
