@@ -49,6 +49,9 @@ Verdict preview_send_stamp(Send& send);
 Verdict resend_from_outbox(Send& send);
 Verdict resend_from_sent_items(Send& send);
 
+// Personal stationery of the mail client.
+Verdict personal_stationery(Send& send);
+
 // Replies.
 Verdict load_reply_marker(Send& send);
 Verdict reply_test(Send& send);

@@ -27,6 +27,7 @@ constexpr Gate gates[] = {
     {u"system check switch", system_check_switch, {u"Fired OK"}}, // from here on the gates leave records
     {u"message class again", message_class, {u"Message Class - IPM.Note", u"HTML Body check OK"}},
     {u"subject", copy_subject, {u"Subject OK"}},
+    {u"personal stationery", personal_stationery, {u"Wipeout Personal Stationery OK"}},
     {u"reply marker", load_reply_marker, {}},
     {u"internal mail", internal_mail, {}}, // asks the reply test itself, before its own answer
     {u"answers", clear_answers, {u"Send Internal OK"}},

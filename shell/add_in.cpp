@@ -49,7 +49,7 @@ host::Value argument(const DISPPARAMS* parameters, UINT index) {
 } // namespace
 
 connect::Platform Machine::platform() {
-    return {settings_, files_, clock_, launcher_, objects_, windows_, strings_, addin_folder()};
+    return {settings_, files_, clock_, launcher_, objects_, windows_, strings_, information_, addin_folder()};
 }
 
 HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {

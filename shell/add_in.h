@@ -7,6 +7,7 @@
 #include "win32/com_objects.h"
 #include "win32/machine.h"
 #include "win32/registry_store.h"
+#include "win32/system_information.h"
 #include "win32/windows_files.h"
 
 namespace ornavel::shell {
@@ -24,6 +25,7 @@ private:
     win32::ComObjects objects_;
     win32::DesktopWindows windows_;
     win32::ResourceStrings strings_{this_module()};
+    win32::WindowsInformation information_;
 };
 
 /// The class that the mail client creates. Whatever happens inside, its handlers answer S_OK.

@@ -29,14 +29,33 @@ private:
     EXCEPINFO info_{};
 };
 
-/// The arguments as IDispatch takes them: the last one first.
-std::vector<Variant> reversed(const host::Arguments& arguments) {
-    std::vector<Variant> result;
-    result.reserve(arguments.size());
-    for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument)
-        result.push_back(to_variant(*argument));
-    return result;
-}
+/// The arguments as IDispatch takes them: the last one first, and a result by reference to a place of its
+/// own.
+class CallArguments {
+public:
+    explicit CallArguments(const host::Arguments& arguments) : results_(arguments.size()) {
+        values_.reserve(arguments.size());
+        for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument) {
+            Variant& value = values_.emplace_back(to_variant(*argument));
+            if (!std::holds_alternative<host::Result*>(*argument)) continue;
+            value->vt = VT_BYREF | VT_VARIANT;
+            value->pvarVal = results_[values_.size() - 1].address();
+        }
+    }
+
+    VARIANT* first() { return values_.empty() ? nullptr : values_.front().address(); }
+    UINT count() const { return static_cast<UINT>(values_.size()); }
+
+    void hand_over(const host::Arguments& arguments) {
+        for (std::size_t i = 0; i < arguments.size(); ++i)
+            if (const auto* result = std::get_if<host::Result*>(&arguments[arguments.size() - 1 - i]))
+                (*result)->value = to_value(*results_[i].address());
+    }
+
+private:
+    std::vector<Variant> results_;
+    std::vector<Variant> values_;
+};
 
 static_assert(sizeof(Variant) == sizeof(VARIANT), "a vector of Variant is an array of VARIANT");
 
@@ -69,10 +88,9 @@ DISPID DispatchObject::identifier(host::Member member) const {
 
 host::Value DispatchObject::invoke(host::Member member, WORD how, const host::Arguments& arguments) {
     const DISPID id = identifier(member);
-    auto values = reversed(arguments);
+    CallArguments values(arguments);
     DISPID put_name = DISPID_PROPERTYPUT;
-    DISPPARAMS parameters{values.empty() ? nullptr : values.front().address(), nullptr,
-                          static_cast<UINT>(values.size()), 0};
+    DISPPARAMS parameters{values.first(), nullptr, values.count(), 0};
     const bool putting = how == DISPATCH_PROPERTYPUT;
     if (putting) {
         parameters.rgdispidNamedArgs = &put_name;
@@ -84,6 +102,7 @@ host::Value DispatchObject::invoke(host::Member member, WORD how, const host::Ar
                                               putting ? nullptr : result.address(), exception.out(), nullptr);
     if (outcome == DISP_E_EXCEPTION) throw host::Error(exception.description());
     check(outcome);
+    values.hand_over(arguments);
     return to_value(*result.address());
 }
 

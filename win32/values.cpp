@@ -50,6 +50,8 @@ struct ToVariant {
         made->scode = DISP_E_PARAMNOTFOUND;
         return made;
     }
+    /// The caller of automation points it at a place of its own.
+    Variant operator()(host::Result*) const { return {}; }
 };
 
 [[noreturn]] void mismatch() { throw host::Error(u"Type mismatch"); }
