@@ -34,8 +34,12 @@ private:
 } // namespace
 
 Json play_natively(const Scenario& scenario, const std::string& source) {
-    Failures failures(scenario.fail);
     Journal journal;
+    return play_natively(scenario, source, journal);
+}
+
+Json play_natively(const Scenario& scenario, const std::string& source, Journal& journal) {
+    Failures failures(scenario.fail);
     MemoryMachine machine(scenario, source, failures, journal);
     machine.prepare(scenario);
     const Snapshot before = machine.snapshot();
@@ -48,7 +52,11 @@ Json play_natively(const Scenario& scenario, const std::string& source) {
                                         .windows = machine.addin_windows(),
                                         .strings = forms::built_in_strings(),
                                         .machine = machine.addin_machine(),
-                                        .addin_folder = scenario.computer.addin_folder});
+                                        .addin_folder = scenario.computer.addin_folder,
+                                        .on_gate = [&journal](TextView gate, bool passed) {
+                                            journal.note(Deed::gate, Text(gate),
+                                                         passed ? u"passed" : u"left");
+                                        }});
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);
