@@ -24,6 +24,17 @@ struct Snapshot {
     ByName<ByName<RegistryValue>> registry;
 };
 
+/// The registry, by full key.
+class Registry {
+public:
+    virtual ~Registry() = default;
+    virtual std::optional<RegistryValue> find(TextView key, TextView name) const = 0;
+    /// Makes the key when it is missing.
+    virtual void set(TextView key, TextView name, RegistryValue value) = 0;
+    /// Whether there was such a key, without keys below it, and it is gone.
+    virtual bool remove_key(TextView key) = 0;
+};
+
 /// The machine that the add-in runs on during a rehearsal: in memory, or a real one. What fails throws
 /// Failure; what the machine has no means for is Unusable.
 class Machine {
@@ -36,6 +47,7 @@ public:
 
     /// The mail client's own files: uses are not the add-in's.
     virtual Files& files() = 0;
+    virtual Registry& registry() = 0;
 
     virtual void change_settings(const SettingsTree& settings) = 0;
     virtual void set_clock(const LocalTime& time) = 0;

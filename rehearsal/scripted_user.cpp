@@ -29,7 +29,8 @@ Json answer_message_box(ScriptedUser& user, TextView title, TextView text, bool 
     const bool answered = entry && (entry->has_answer || !entry->steps.empty());
     if (answered && !fits(*entry, yes_no))
         user.complain(*entry, yes_no ? "the box has Yes and No only" : "the box has OK only");
-    const TextView answer = answered && fits(*entry, yes_no) ? *entry->answer : yes_no ? u"No" : u"OK";
+    Text answer = yes_no ? u"No" : u"OK";
+    if (answered && fits(*entry, yes_no)) answer = *entry->answer;
     Json record{{"message box", to_json(title)},
                 {"text", to_json(text)},
                 {"buttons", yes_no ? "YesNo" : "OK"},

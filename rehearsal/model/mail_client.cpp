@@ -2,6 +2,7 @@
 
 #include "rehearsal/model/application.h"
 #include "rehearsal/model/handle.h"
+#include "rehearsal/model/registry_provider.h"
 
 #include <algorithm>
 
@@ -56,7 +57,11 @@ host::ObjectPtr MailClient::create(TextView prog_id) {
 
 host::ObjectPtr MailClient::get(TextView moniker) {
     journal_.note(Deed::call, u"GetObject", moniker);
-    throw host::Error(u"ActiveX component can't create object");
+    const bool provider =
+        moniker.starts_with(u"winmgmts:") && moniker.ends_with(u"\\root\\default:StdRegProv");
+    if (!provider || !is_there(host(), u"winmgmts"))
+        throw host::Error(u"ActiveX component can't create object");
+    return hand_out(std::make_shared<RegistryProviderNode>());
 }
 
 host::ObjectPtr MailClient::hand_out(NodePtr node) {

@@ -1,6 +1,8 @@
 #include "rehearsal/native/memory_machine.h"
 
 #include "base/encoding.h"
+#include "forms/frmMessage.h"
+#include "rehearsal/native/form_player.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -22,8 +24,9 @@ const char* state_name(WindowState state) {
 
 MemoryMachine::MemoryMachine(const Scenario& scenario, const std::string& source, Failures& failures,
                              Journal& journal)
-    : failures_(failures), journal_(journal), user_(scenario.user, source), now_(scenario.clock),
-      rehearsed_settings_(settings_, failures, journal), rehearsed_disk_(disk_, failures, journal) {}
+    : failures_(failures), journal_(journal), user_(scenario.user, source), computer_(scenario.computer),
+      now_(scenario.clock), rehearsed_settings_(settings_, failures, journal),
+      rehearsed_disk_(disk_, failures, journal) {}
 
 void MemoryMachine::prepare(const Scenario& scenario) {
     disk_.create_folder(scenario.computer.addin_folder);
@@ -33,8 +36,10 @@ void MemoryMachine::prepare(const Scenario& scenario) {
         disk_.write(path, bytes);
     }
     change_settings(scenario.settings);
-    for (const auto& [key, values] : scenario.registry)
-        for (const auto& [name, value] : values) registry_[key][name] = value;
+    for (const auto& [key, values] : scenario.registry) {
+        registry_.make_key(key);
+        for (const auto& [name, value] : values) registry_.set(key, name, value);
+    }
 }
 
 Snapshot MemoryMachine::snapshot() const {
@@ -43,13 +48,28 @@ Snapshot MemoryMachine::snapshot() const {
         for (const auto& [key, value] : keys) snapshot.settings[section][key] = value;
     snapshot.files = disk_.files();
     snapshot.folders = disk_.folders();
-    snapshot.registry = registry_;
+    snapshot.registry = registry_.keys();
     return snapshot;
 }
 
 void MemoryMachine::change_settings(const SettingsTree& settings) {
     for (const auto& [section, keys] : settings)
         for (const auto& [key, value] : keys) settings_.save(section, key, value);
+}
+
+std::optional<Text> MemoryMachine::prompt(TextView mode) {
+    forms::PromptDialog dialog(*this, forms::built_in_strings());
+    dialog.ask(mode);
+    return dialog.values().answer;
+}
+
+OperatingSystem MemoryMachine::operating_system() const {
+    return {computer_.os_platform, computer_.os_major, computer_.os_minor, computer_.os_build};
+}
+
+Memory MemoryMachine::memory() const {
+    return {computer_.total_physical, computer_.available_physical, computer_.total_virtual,
+            computer_.available_virtual};
 }
 
 Json MemoryMachine::tray_outcome() const {
@@ -70,6 +90,19 @@ Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
     const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, yes_no));
     if (!yes_no) return Answer::ok;
     return record.at("answer") == "Yes" ? Answer::yes : Answer::no;
+}
+
+void MemoryMachine::show_modal(forms::Form& form) {
+    form.load();
+    if (!form.is_loaded()) return;
+    journal_.note(Deed::window, form.name(), form.properties.caption);
+    const std::size_t place = windows_.size();
+    windows_.push_back(form_record(form));
+    const auto entry = user_.meet(form.name());
+    if (entry) take_steps(user_, *entry, form);
+    form.unload();
+    windows_[place]["at close"] = changed_controls(windows_[place], form);
+    if (!entry) windows_[place]["unexpected"] = true;
 }
 
 } // namespace ornavel::rehearsal

@@ -40,9 +40,15 @@ Json play_natively(const Scenario& scenario, const std::string& source) {
     machine.prepare(scenario);
     const Snapshot before = machine.snapshot();
     MailClient client(scenario, machine, failures, journal);
-    NativeAddIn addin({machine.addin_settings(), machine.addin_files(), machine.addin_clock(),
-                       machine.addin_launcher(), client, machine.addin_windows(), forms::built_in_strings(),
-                       scenario.computer.addin_folder});
+    NativeAddIn addin(connect::Platform{.settings = machine.addin_settings(),
+                                        .files = machine.addin_files(),
+                                        .clock = machine.addin_clock(),
+                                        .launcher = machine.addin_launcher(),
+                                        .objects = client,
+                                        .windows = machine.addin_windows(),
+                                        .strings = forms::built_in_strings(),
+                                        .machine = machine.addin_machine(),
+                                        .addin_folder = scenario.computer.addin_folder});
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);

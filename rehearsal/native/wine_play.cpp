@@ -66,7 +66,7 @@ Json play_under_wine(const Json& scenario, const std::string& source) {
     const ScratchFolder scratch;
     const auto in = scratch / "scenario.json", out = scratch / "outcome.json";
     std::ofstream(in, std::ios::binary) << to_json_text(scenario);
-    const int code = run({runner(), player(), in, out});
+    const int code = run({runner(), player(), "Z:" + in.string(), "Z:" + out.string()});
     if (code == 2) throw Unusable(source + ": " + (fs::exists(out) ? load_file(out) : "can't be played"));
     if (!fs::exists(out))
         return {{"name", scenario.value("name", "")},
