@@ -22,8 +22,8 @@ host::ObjectPtr ComObjects::create(TextView prog_id) {
     ComPtr<IDispatch> object;
     HRESULT outcome = CLSIDFromProgID(wide(prog_id).c_str(), &class_id);
     if (SUCCEEDED(outcome))
-        outcome = CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IDispatch,
-                                   object.out_untyped());
+        outcome = CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
+                                   IID_IDispatch, object.out_untyped());
     return made(outcome, std::move(object));
 }
 

@@ -28,9 +28,12 @@ constexpr IID button_events = office_interface(0x000C0351);
 
 const IID& event_interface(host::EventSource source) {
     switch (source) {
-    case host::EventSource::application: return application_events;
-    case host::EventSource::explorer: return explorer_events;
-    default: return button_events;
+    case host::EventSource::application:
+        return application_events;
+    case host::EventSource::explorer:
+        return explorer_events;
+    default:
+        return button_events;
     }
 }
 

@@ -38,7 +38,9 @@ HRESULT describe(EXCEPINFO* exception) {
     return DISP_E_EXCEPTION;
 }
 
-class DispatchServer final : public win32::Counted<IDispatch>, public IConnectionPointContainer, public ServedObject {
+class DispatchServer final : public win32::Counted<IDispatch>,
+                             public IConnectionPointContainer,
+                             public ServedObject {
 public:
     DispatchServer(host::ObjectPtr object, std::shared_ptr<Subscriptions> subscriptions)
         : object_(std::move(object)), subscriptions_(std::move(subscriptions)) {}
@@ -46,7 +48,8 @@ public:
     host::ObjectPtr object() const override { return object_; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** result) override {
-        if (wanted == IID_IConnectionPointContainer) return give(static_cast<IConnectionPointContainer*>(this), result);
+        if (wanted == IID_IConnectionPointContainer)
+            return give(static_cast<IConnectionPointContainer*>(this), result);
         if (wanted == IID_ServedObject) return give(static_cast<ServedObject*>(this), result);
         return answer(wanted == IID_IUnknown || wanted == IID_IDispatch, result);
     }
@@ -63,8 +66,8 @@ public:
         ids[0] = members.number(win32::text_of(names[0]));
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD how, DISPPARAMS* parameters, VARIANT* result,
-                                     EXCEPINFO* exception, UINT*) override {
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD how, DISPPARAMS* parameters,
+                                     VARIANT* result, EXCEPINFO* exception, UINT*) override {
         try {
             use(members.name(id), how, *parameters, result);
             return S_OK;
@@ -94,13 +97,17 @@ private:
 
     void use(const Text& name, WORD how, DISPPARAMS& parameters, VARIANT* result) {
         const host::Member member{name.c_str()};
-        host::Arguments arguments = served_arguments(parameters);
+        ServedArguments arguments(parameters);
+        const auto& values = arguments.values();
         if (how & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
-            if (arguments.size() != 1) throw host::Error(u"Wrong number of arguments or invalid property assignment");
-            object_->put(member, arguments[0]);
+            if (values.size() != 1)
+                throw host::Error(u"Wrong number of arguments or invalid property assignment");
+            object_->put(member, values[0]);
             return;
         }
-        const host::Value value = how & DISPATCH_PROPERTYGET ? object_->get(member, arguments) : object_->call(member, arguments);
+        const host::Value value =
+            how & DISPATCH_PROPERTYGET ? object_->get(member, values) : object_->call(member, values);
+        arguments.give_back_results(subscriptions_);
         if (result) *result = served_variant(value, subscriptions_).release();
     }
 

@@ -25,7 +25,8 @@ public:
     }
 
     DISPPARAMS parameters() {
-        return {variants_.empty() ? nullptr : variants_.front().address(), nullptr, static_cast<UINT>(variants_.size()), 0};
+        return {variants_.empty() ? nullptr : variants_.front().address(), nullptr,
+                static_cast<UINT>(variants_.size()), 0};
     }
 
     void take_back_flags() {
@@ -41,7 +42,8 @@ private:
 
 void tell(IDispatch& sink, DISPID event, EventArguments arguments) {
     DISPPARAMS parameters = arguments.parameters();
-    const HRESULT outcome = sink.Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr);
+    const HRESULT outcome = sink.Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                                        nullptr, nullptr, nullptr);
     if (FAILED(outcome)) win32::fail(u"an event handler of the add-in", static_cast<DWORD>(outcome));
     arguments.take_back_flags();
 }
@@ -58,12 +60,15 @@ public:
         *wanted = win32::event_interface(source_);
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE GetConnectionPointContainer(IConnectionPointContainer**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetConnectionPointContainer(IConnectionPointContainer**) override {
+        return E_NOTIMPL;
+    }
     HRESULT STDMETHODCALLTYPE Advise(IUnknown* listener, DWORD* cookie) override {
         win32::ComPtr<IDispatch> sink;
         if (FAILED(listener->QueryInterface(win32::event_interface(source_), sink.out_untyped())))
             return CONNECT_E_CANNOTCONNECT;
-        const bool advised = attempt([&] { *cookie = subscriptions_->add(object_->advise(source_, teller(sink))); });
+        const bool advised =
+            attempt([&] { *cookie = subscriptions_->add(object_->advise(source_, teller(sink))); });
         return advised ? S_OK : CONNECT_E_CANNOTCONNECT;
     }
     HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) override {
@@ -74,7 +79,8 @@ public:
 private:
     host::EventHandler teller(const win32::ComPtr<IDispatch>& sink) const {
         // Weak: the subscriptions keep this handler.
-        return [sink, source = source_, kept = std::weak_ptr(subscriptions_)](TextView event, std::span<host::Value> values) {
+        return [sink, source = source_, kept = std::weak_ptr(subscriptions_)](TextView event,
+                                                                              std::span<host::Value> values) {
             const auto id = win32::event_id(source, event);
             if (id) tell(*win32::ComPtr<IDispatch>(sink).get(), *id, EventArguments(values, kept.lock()));
         };
@@ -89,7 +95,8 @@ private:
 
 win32::ComPtr<IConnectionPoint> make_event_point(host::ObjectPtr object, host::EventSource source,
                                                  std::shared_ptr<Subscriptions> subscriptions) {
-    return win32::ComPtr<IConnectionPoint>::adopt(new EventPoint(std::move(object), source, std::move(subscriptions)));
+    return win32::ComPtr<IConnectionPoint>::adopt(
+        new EventPoint(std::move(object), source, std::move(subscriptions)));
 }
 
 } // namespace ornavel::rehearsal

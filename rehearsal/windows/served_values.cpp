@@ -26,10 +26,24 @@ win32::Variant served_variant(const host::Value& value, const std::shared_ptr<Su
     return variant;
 }
 
-host::Arguments served_arguments(DISPPARAMS& parameters) {
-    host::Arguments arguments;
-    for (UINT i = parameters.cArgs; i-- > 0;) arguments.push_back(as_it_was(win32::to_value(parameters.rgvarg[i])));
-    return arguments;
+ServedArguments::ServedArguments(DISPPARAMS& parameters) {
+    for (UINT i = parameters.cArgs; i-- > 0;) {
+        VARIANT& argument = parameters.rgvarg[i];
+        if (argument.vt == (VT_BYREF | VT_VARIANT)) {
+            places_.push_back({argument.pvarVal, std::make_unique<host::Result>()});
+            values_.push_back(places_.back().result.get());
+        } else {
+            values_.push_back(as_it_was(win32::to_value(argument)));
+        }
+    }
+}
+
+void ServedArguments::give_back_results(const std::shared_ptr<Subscriptions>& subscriptions) {
+    for (auto& place : places_) {
+        win32::Variant variant = served_variant(place.result->value, subscriptions);
+        VariantClear(place.variant);
+        *place.variant = variant.release();
+    }
 }
 
 } // namespace ornavel::rehearsal

@@ -1,11 +1,10 @@
-#include "win32/extensibility.h"
 #include "tests/win32/add_in_dll.h"
 #include "tests/win32/fake_dispatch.h"
+#include "win32/extensibility.h"
 #include "win32/machine.h"
 
 namespace ornavel::win32 {
 namespace {
-
 
 /// The add-in as the mail client gets it: registered, and made by its programmatic identifier.
 class AddIn : public testing::Test {
