@@ -137,8 +137,6 @@ bool RegistryWorld::remove_key(TextView key) {
     return RegDeleteKeyW(HKEY_CURRENT_USER, win32::wide(below_user(key)).c_str()) == ERROR_SUCCESS;
 }
 
-<<<<<<< HEAD
-=======
 void RegistryWorld::change_settings(const SettingsTree& settings) {
     for (const auto& [section, keys] : settings) {
         auto stored = win32::RegistryKey::create(Text(settings_key) + u'\\' + section);
@@ -146,7 +144,6 @@ void RegistryWorld::change_settings(const SettingsTree& settings) {
     }
 }
 
->>>>>>> windows
 void RegistryWorld::add_to(Snapshot& snapshot) const {
     collect({}, snapshot.registry);
     const OpenKey settings(settings_key, KEY_READ);

@@ -17,10 +17,7 @@ public:
     void set(TextView key, TextView name, RegistryValue value) override;
     bool remove_key(TextView key) override;
 
-<<<<<<< HEAD
-=======
     void change_settings(const SettingsTree& settings);
->>>>>>> windows
     void add_to(Snapshot& snapshot) const;
 
 private:
