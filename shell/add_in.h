@@ -1,10 +1,10 @@
 #pragma once
 
 #include "connect/connect.h"
-#include "win32/extensibility.h"
 #include "shell/module.h"
 #include "win32/com.h"
 #include "win32/com_objects.h"
+#include "win32/extensibility.h"
 #include "win32/machine.h"
 #include "win32/registry_store.h"
 #include "win32/system_information.h"
