@@ -137,6 +137,13 @@ bool RegistryWorld::remove_key(TextView key) {
     return RegDeleteKeyW(HKEY_CURRENT_USER, win32::wide(below_user(key)).c_str()) == ERROR_SUCCESS;
 }
 
+void RegistryWorld::change_settings(const SettingsTree& settings) {
+    for (const auto& [section, keys] : settings) {
+        auto stored = win32::RegistryKey::create(Text(settings_key) + u'\\' + section);
+        for (const auto& [key, value] : keys) stored.set(key, value);
+    }
+}
+
 void RegistryWorld::add_to(Snapshot& snapshot) const {
     collect({}, snapshot.registry);
     const OpenKey settings(settings_key, KEY_READ);

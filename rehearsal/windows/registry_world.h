@@ -17,6 +17,7 @@ public:
     void set(TextView key, TextView name, RegistryValue value) override;
     bool remove_key(TextView key) override;
 
+    void change_settings(const SettingsTree& settings);
     void add_to(Snapshot& snapshot) const;
 
 private:

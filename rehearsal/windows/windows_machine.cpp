@@ -1,7 +1,5 @@
 #include "rehearsal/windows/windows_machine.h"
 
-#include "win32/registry_store.h"
-
 namespace ornavel::rehearsal {
 
 WindowsMachine::WindowsMachine(const Scenario& scenario, const std::string& source)
@@ -29,11 +27,7 @@ Snapshot WindowsMachine::snapshot() const {
     return snapshot;
 }
 
-void WindowsMachine::change_settings(const SettingsTree& settings) {
-    win32::RegistryStore store;
-    for (const auto& [section, keys] : settings)
-        for (const auto& [key, value] : keys) store.save(section, key, value);
-}
+void WindowsMachine::change_settings(const SettingsTree& settings) { registry_.change_settings(settings); }
 
 Json WindowsMachine::tray_outcome() const {
     return {{"shown", false}, {"tip", ""}, {"times shown", 0}, {"times removed", 0}, {"menu", Json::array()}};
