@@ -12,7 +12,7 @@ function(ornavel_warnings target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Werror)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # GCC 12 sees overlapping and overlong copies of short texts where there are none (its bugs 105329, 105651).
-    target_compile_options(${target} PRIVATE -Wno-restrict -Wno-stringop-overflow)
+    # GCC 12 sees overlapping copies of short texts where there are none (its bug 105329).
+    target_compile_options(${target} PRIVATE -Wno-restrict)
   endif()
 endfunction()
