@@ -26,12 +26,14 @@ bool begins_at(TextView text, std::size_t at, const Pair& pair) {
 
 std::size_t find_one_by_one(TextView text, std::size_t from, std::span<const Pair> pairs) {
     for (std::size_t at = from; at < text.size(); ++at)
-        if (std::ranges::any_of(pairs, [&](const Pair& pair) { return begins_at(text, at, pair); })) return at;
+        if (std::ranges::any_of(pairs, [&](const Pair& pair) { return begins_at(text, at, pair); }))
+            return at;
     return nowhere;
 }
 
 #ifdef ORNAVEL_SSE2
-// Processors of the time may lack SSE2, so that only this part of the file is compiled for it, and asked for first.
+// Processors of the time may lack SSE2, so that only this part of the file is compiled for it, and asked for
+// first.
 #pragma GCC push_options
 #pragma GCC target("sse2")
 
@@ -52,7 +54,8 @@ __m128i beginnings(__m128i units, __m128i next_units, const WidePair& pair) {
 }
 
 /// Bits 2i and 2i+1 are set where a pair begins at units[i]; reads nine units.
-template <std::size_t count> unsigned beginnings_in_block(const char16_t* units, const WidePair* pairs, std::size_t number) {
+template <std::size_t count>
+unsigned beginnings_in_block(const char16_t* units, const WidePair* pairs, std::size_t number) {
     const __m128i here = load(units), next = load(units + 1);
     __m128i found = beginnings(here, next, pairs[0]);
     for (std::size_t i = 1; i < (count != 0 ? count : number); ++i)
@@ -78,7 +81,8 @@ std::size_t find_in_blocks(TextView text, std::size_t from, const WidePair* pair
 std::size_t find_wide(TextView text, std::size_t from, std::span<const Pair> pairs) {
     std::array<WidePair, most_pairs> wide_pairs;
     for (std::size_t i = 0; i < pairs.size(); ++i)
-        wide_pairs[i] = {wide(pairs[i].first), wide(pairs[i].second), wide(pairs[i].first_fold), wide(pairs[i].second_fold)};
+        wide_pairs[i] = {wide(pairs[i].first), wide(pairs[i].second), wide(pairs[i].first_fold),
+                         wide(pairs[i].second_fold)};
     const auto found = pairs.size() == 1 ? find_in_blocks<1>(text, from, wide_pairs.data(), 1)
                                          : find_in_blocks<0>(text, from, wide_pairs.data(), pairs.size());
     return found != nowhere ? found : find_one_by_one(text, std::max(from, text.size() - 1), pairs);
@@ -97,7 +101,8 @@ bool has_sse2() {
 #endif
 
 /// Where `begins` holds for one of the places at which the pair stands.
-template <typename Begins> std::size_t find_where(TextView text, std::size_t from, const Pair& pair, const Begins& begins) {
+template <typename Begins>
+std::size_t find_where(TextView text, std::size_t from, const Pair& pair, const Begins& begins) {
     auto at = find_pair(text, from, {&pair, 1});
     while (at != nowhere && !begins(text.substr(at))) at = find_pair(text, at + 1, {&pair, 1});
     return at;
@@ -133,7 +138,8 @@ std::size_t find_in_either_case(TextView text, TextView lower_part, std::size_t 
     const bool alone = lower_part.size() == 1;
     const Pair pair{lower_part[0], alone ? any_unit : lower_part[1], fold_of(lower_part[0]),
                     alone ? any_unit : fold_of(lower_part[1])};
-    return find_where(text, from, pair, [&](TextView rest) { return begins_in_either_case(rest, lower_part); });
+    return find_where(text, from, pair,
+                      [&](TextView rest) { return begins_in_either_case(rest, lower_part); });
 }
 
 } // namespace ornavel

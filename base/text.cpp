@@ -19,7 +19,8 @@ constexpr char16_t upper(char16_t unit) {
 
 std::size_t count_of(TextView text, TextView search) {
     std::size_t count = 0;
-    for (auto at = find_text(text, search); at != TextView::npos; at = find_text(text, search, at + search.size()))
+    for (auto at = find_text(text, search); at != TextView::npos;
+         at = find_text(text, search, at + search.size()))
         ++count;
     return count;
 }
@@ -50,7 +51,9 @@ Text trim(TextView text) {
     return Text(text.substr(first, text.find_last_not_of(u' ') - first + 1));
 }
 
-bool contains(TextView text, TextView part) { return part.empty() || find_text(text, part) != TextView::npos; }
+bool contains(TextView text, TextView part) {
+    return part.empty() || find_text(text, part) != TextView::npos;
+}
 
 Text replace_all(TextView text, TextView search, TextView replacement) {
     const auto count = search.empty() ? 0 : count_of(text, search);
@@ -58,7 +61,7 @@ Text replace_all(TextView text, TextView search, TextView replacement) {
 
     const auto kept = text.size() - count * search.size();
     if (kept > largest_text || (!replacement.empty() && count > (largest_text - kept) / replacement.size()))
-        throw Failure(u"The text grew beyond the largest size");
+        throw TextTooLarge();
 
     Text result;
     result.reserve(kept + count * replacement.size());

@@ -22,7 +22,8 @@ struct Composition {
 
 bool file_exists(const Composition& c, TextView path) { return c.services.files.file_exists(path); }
 
-/// The path itself, or the first HTML file of the folder when there is no such file; an empty folder leaves the path.
+/// The path itself, or the first HTML file of the folder when there is no such file; an empty folder leaves
+/// the path.
 Text path_or_first_of(const Composition& c, const Text& path, const Key& folder_setting) {
     if (file_exists(c, path)) return path;
     const Text folder = read(c.services.settings, folder_setting);
@@ -35,14 +36,16 @@ void find_template(Composition& c) {
 }
 
 void choose_signature(Composition& c) {
-    c.signature_name = c.shared.signature_from_settings ? trim(read(c.services.settings, user::Signature, u"none"))
-                                                        : trim(c.shared.form_signature);
+    c.signature_name = c.shared.signature_from_settings
+                           ? trim(read(c.services.settings, user::Signature, u"none"))
+                           : trim(c.shared.form_signature);
 }
 
 void append_signature(Composition& c) {
     if (c.signature_name.empty() || c.signature_name == u"none") return;
     const Text path = read(c.services.settings, admin::SignaturesPath) + u"\\" + c.signature_name;
-    const Text text = read_lines(c.services.files, path_or_first_of(c, path, admin::SignaturesPath), line_end);
+    const Text text =
+        read_lines(c.services.files, path_or_first_of(c, path, admin::SignaturesPath), line_end);
     c.message += u"<P>" + text;
 }
 

@@ -43,7 +43,7 @@ TEST(Find, FindsTheFirstOfSeveralPairs) {
         const Text text = random_text(random, u"[#fixyz", 40);
         const std::size_t from = random() % 45;
         const auto expected = std::min({TextView(text).find(u"[#", from), TextView(text).find(u"fi", from),
-                                  TextView(text).find(u"z", from)});
+                                        TextView(text).find(u"z", from)});
         ASSERT_EQ(find_pair(text, from, pairs), expected);
     }
 }
