@@ -110,12 +110,6 @@ std::size_t find_where(TextView text, std::size_t from, const Pair& pair, const 
 
 char16_t fold_of(char16_t unit) { return unit >= u'a' && unit <= u'z' ? either_case : char16_t{0}; }
 
-bool begins_in_either_case(TextView text, TextView lower_part) {
-    return text.size() >= lower_part.size() &&
-           std::equal(lower_part.begin(), lower_part.end(), text.begin(),
-                      [](char16_t sought, char16_t unit) { return same(unit, sought, fold_of(sought)); });
-}
-
 } // namespace
 
 std::size_t find_pair(TextView text, std::size_t from, std::span<const Pair> pairs) noexcept {
@@ -131,6 +125,12 @@ std::size_t find_text(TextView text, TextView part, std::size_t from) noexcept {
     const bool alone = part.size() == 1;
     const Pair pair{part[0], alone ? any_unit : part[1], 0, alone ? any_unit : char16_t{0}};
     return find_where(text, from, pair, [&](TextView rest) { return rest.starts_with(part); });
+}
+
+bool begins_in_either_case(TextView text, TextView lower_part) noexcept {
+    return text.size() >= lower_part.size() &&
+           std::equal(lower_part.begin(), lower_part.end(), text.begin(),
+                      [](char16_t sought, char16_t unit) { return same(unit, sought, fold_of(sought)); });
 }
 
 std::size_t find_in_either_case(TextView text, TextView lower_part, std::size_t from) noexcept {

@@ -33,4 +33,6 @@ std::size_t find_text(TextView text, TextView part, std::size_t from = 0) noexce
 /// U+0040 and U+005F.
 std::size_t find_in_either_case(TextView text, TextView lower_part, std::size_t from = 0) noexcept;
 
+bool begins_in_either_case(TextView text, TextView lower_part) noexcept;
+
 } // namespace ornavel
