@@ -24,6 +24,12 @@ struct Shared {
     host::MailItem item;                  ///< the item being sent
     bool signature_from_settings = false; ///< the name is the setting "Signature", not the form's choice
     Text form_signature;                  ///< the send-options form's signature list
+    bool reply = false;                   ///< the item's body holds the reply marker
+    Text reply_marker;                    ///< the text that marks a reply in this mail client
+    Text reply_search_value = u"1";       ///< how far in front of the marker the new text ends, plus one
+    Text reply_insert_value = u"1";       ///< how far behind the marker the quoted part begins, plus one
+    Text application_path;                ///< the folder of scratch files and of the disclaimer
+    bool template_refused = false;        ///< the user did not want the template's script
 };
 
 /// Pours the user's text into an HTML template, adds the signature and fills the placeholder fields.

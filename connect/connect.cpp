@@ -44,6 +44,8 @@ void Connect::OnConnection(host::Application application) noexcept {
 
 void Connect::OnStartupComplete() noexcept {
     Session& session = *session_;
+    session.shared.application_path =
+        read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
     prepare_environment(session);
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");

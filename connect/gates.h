@@ -18,23 +18,54 @@ struct Send {
     settings::Store& settings() const { return session.platform.settings; }
 };
 
-/// What a gate answers: the next gate is asked, or the send leaves with cancel as it stands.
-enum class Verdict { next, leave };
+/// What a gate answers: the next gate is asked; the gate is switched off and leaves no record; or the send
+/// leaves with cancel as it stands.
+enum class Verdict { next, off, leave };
 
 /// Appends the rule of the outside signature product to the subject and saves, while the setting
 /// "UseExclaimer" is on.
 void tag_for_Exclaimer(Send& send);
 Verdict tag_and_leave(Send& send);
 
+/// A gate's record, numbered; written only while the system check is on.
+void record_gate(Send& send, TextView label);
+/// A line that follows the send's progress; written only while the system check is on.
+void trace(Send& send, TextView text, TextView detail = {});
+
+// Modes and stamps.
 Verdict entry_mode(Send& send);
 Verdict already_tagged(Send& send);
 Verdict wrap_item(Send& send);
 Verdict message_class(Send& send);
 Verdict system_check_switch(Send& send);
 Verdict copy_subject(Send& send);
+Verdict clear_answers(Send& send);
+Verdict send_as_is(Send& send);
 Verdict mode_off(Send& send);
+Verdict preview_stamp(Send& send);
+Verdict preview_send_stamp(Send& send);
+
+// Resends.
+Verdict resend_from_outbox(Send& send);
+Verdict resend_from_sent_items(Send& send);
+
+// Personal stationery of the mail client.
+Verdict personal_stationery(Send& send);
+
+// Replies.
+Verdict load_reply_marker(Send& send);
+Verdict reply_test(Send& send);
+
+// Internal mail.
+Verdict internal_mail(Send& send);
+
+// Auto mode.
+Verdict non_auto_branch(Send& send);
 Verdict default_template(Send& send);
 Verdict default_signature(Send& send);
+Verdict auto_preview(Send& send);
+
+// Composition and stamping.
 Verdict compose_body(Send& send);
 Verdict stamp(Send& send);
 

@@ -7,50 +7,45 @@ namespace {
 using namespace settings;
 
 /// A send without the defaults that auto mode needs goes back to the user, and later sends are left alone.
-Verdict refuse_without_default(Send& send) {
+Verdict refuse_without_default(Send& send, TextView prompt_mode) {
+    send.session.prompt.ask(prompt_mode);
     send.cancel = true;
     set_mode(send.session, u"on");
     return Verdict::leave;
 }
 
+void attach_selected_vcard(Send& send) {
+    const Text path = read(send.settings(), user::vCardPathSelected);
+    const bool wanted = send.session.dialog_answer && read(send.settings(), user::SendvCard) == on &&
+                        !path.empty() && send.session.vcard_chosen;
+    if (wanted) send.sent.attachments().add(path);
+}
+
 } // namespace
+
+Verdict non_auto_branch(Send& send) {
+    if (read(send.settings(), user::SettingButtonBar, u"on") == u"auto") return Verdict::off;
+    record_gate(send, u"Auto process end check OK");
+    // The item is the current one already, so a send-options form would find it.
+    record_gate(send, u"Ornavel Dialog check OK");
+    send.session.shared.item.release();
+    attach_selected_vcard(send);
+    record_gate(send, u"vCard Attach check OK");
+    send.cancel = !send.session.dialog_answer;
+    return Verdict::leave;
+}
 
 Verdict default_template(Send& send) {
     const Text name = read(send.settings(), user::Template);
-    return contains(name, u".htm") ? Verdict::next : refuse_without_default(send);
+    return contains(name, u".htm") ? Verdict::next : refuse_without_default(send, u"Auto-no Template");
 }
 
 Verdict default_signature(Send& send) {
     const Text name = read(send.settings(), user::Signature);
-    return contains(name, u".htm") || contains(name, u"none") ? Verdict::next : refuse_without_default(send);
+    if (contains(name, u".htm") || contains(name, u"none")) return Verdict::next;
+    return refuse_without_default(send, u"Auto-no signature");
 }
 
-Verdict compose_body(Send& send) {
-    const host::MailItem& item = send.item();
-    if (item.inspector().editor_type() == host::plain_text_editor) return Verdict::leave;
-    Text body = item.html_body();
-    if (body.empty()) return Verdict::leave;
-
-    Session& session = send.session;
-    session.processed = true;
-    session.shared.signature_from_settings = true;
-    Text template_path =
-        read(send.settings(), admin::HTMFilesPath) + u"\\" + trim(read(send.settings(), user::Template));
-    const Platform& platform = session.platform;
-    item.set_html_body(compose::CreateHTMLBody(
-        {platform.settings, platform.files, platform.clock, platform.windows, platform.objects, session.log},
-        session.shared, body, template_path));
-    return Verdict::next;
-}
-
-Verdict stamp(Send& send) {
-    send.cancel = !send.session.processed;
-    if (!send.session.processed) return Verdict::leave;
-    send.item().set_billing_information(u"Ornavel from Brevant");
-    send.item().user_properties().add(u"BrevantOrnavel").set_value(u"Version 3.9.9");
-    tag_for_Exclaimer(send);
-    send.item().save();
-    return Verdict::next;
-}
+Verdict auto_preview(Send&) { return Verdict::next; }
 
 } // namespace ornavel::connect

@@ -15,6 +15,15 @@ Verdict tag_and_leave(Send& send) {
     return Verdict::leave;
 }
 
+void record_gate(Send& send, TextView label) {
+    if (!send.system_check) return;
+    send.session.log.SystemCheck(label, u"Check " + to_text(send.check_number++), u"Send Event");
+}
+
+void trace(Send& send, TextView text, TextView detail) {
+    if (send.system_check) send.session.log.SystemCheck(text, u"", detail);
+}
+
 Verdict entry_mode(Send& send) {
     const Text mode = read(send.settings(), user::SettingButtonBar, u"");
     return mode == u"auto" ? Verdict::next : tag_and_leave(send);
@@ -25,7 +34,7 @@ Verdict already_tagged(Send& send) {
 }
 
 Verdict wrap_item(Send& send) {
-    if (!is_on(send.settings(), admin::UseRedemption)) return Verdict::next;
+    if (!is_on(send.settings(), admin::UseRedemption)) return Verdict::off;
     const auto wrapped = host::SafeMailItem::around(send.session.platform.objects, send.sent);
     wrapped.save();
     send.session.shared.item = wrapped;
@@ -46,8 +55,30 @@ Verdict copy_subject(Send& send) {
     return Verdict::next;
 }
 
+Verdict clear_answers(Send& send) {
+    send.session.send_plain = false;
+    send.session.vcard_chosen = false;
+    return Verdict::next;
+}
+
+Verdict send_as_is(Send& send) {
+    if (!is_on(send.settings(), user::SendAsIs)) return Verdict::next;
+    save(send.settings(), user::SendAsIs, off);
+    return Verdict::leave;
+}
+
 Verdict mode_off(Send& send) {
     return read(send.settings(), user::SettingButtonBar, u"on") == u"off" ? Verdict::leave : Verdict::next;
+}
+
+Verdict preview_stamp(Send& send) {
+    return send.item().billing_information() == u"Preview" ? Verdict::leave : Verdict::next;
+}
+
+Verdict preview_send_stamp(Send& send) {
+    if (send.item().billing_information() != u"Preview Send") return Verdict::next;
+    send.cancel = false;
+    return Verdict::leave;
 }
 
 } // namespace ornavel::connect

@@ -3,6 +3,7 @@
 #include "base/clock.h"
 #include "base/files.h"
 #include "base/launcher.h"
+#include "base/system_information.h"
 #include "forms/string_table.h"
 #include "forms/windows.h"
 #include "host/object.h"
@@ -21,6 +22,7 @@ struct Platform {
     host::Objects& objects;
     forms::Windows& windows;
     const forms::StringTable& strings;
+    const SystemInformation& machine;
     Text addin_folder; ///< the folder of Ornavel.dll, without a backslash at its end
     /// Told each gate that a send reaches and whether it passed; empty where nobody watches.
     std::function<void(TextView gate, bool passed)> on_gate = {};

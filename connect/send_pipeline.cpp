@@ -2,7 +2,6 @@
 
 #include "connect/gates.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -10,7 +9,7 @@ namespace ornavel::connect {
 namespace {
 
 /// The records that a passed gate leaves while the system check is on.
-using Records = std::array<TextView, 4>;
+using Records = std::array<TextView, 2>;
 
 struct Gate {
     TextView name;
@@ -21,17 +20,26 @@ struct Gate {
 constexpr Gate gates[] = {
     {u"entry mode", entry_mode, {}}, // only "auto" passes; everything else is tagged and leaves
     {u"already tagged", already_tagged, {}},
-    {u"wrapping", wrap_item, {}},
+    {u"wrapping", wrap_item, {}}, // from here on the current item is the wrapper, where there is one
     {u"message class", message_class, {}},
+    {u"resend from the Outbox", resend_from_outbox, {}},
+    {u"resend from Sent Items", resend_from_sent_items, {}},
     {u"system check switch", system_check_switch, {u"Fired OK"}}, // from here on the gates leave records
     {u"message class again", message_class, {u"Message Class - IPM.Note", u"HTML Body check OK"}},
     {u"subject", copy_subject, {u"Subject OK"}},
-    {u"mode off", mode_off, {u"Mode off check OK"}},
+    {u"personal stationery", personal_stationery, {u"Wipeout Personal Stationery OK"}},
+    {u"reply marker", load_reply_marker, {}},
+    {u"internal mail", internal_mail, {}}, // asks the reply test itself, before its own answer
+    {u"answers", clear_answers, {u"Send Internal OK"}},
+    {u"send as is", send_as_is, {u"Send As is check OK"}},
+    {u"mode off", mode_off, {u"Mode off check OK"}}, // read again: a gate or a box may have changed it
+    {u"preview stamp", preview_stamp, {u"Preview check OK"}},
+    {u"preview send stamp", preview_send_stamp, {u"Preview send check OK"}},
+    {u"reply test", reply_test, {u"Reply check OK"}},
+    {u"other modes", non_auto_branch, {}},
     {u"default template", default_template, {u"Auto mode check OK"}},
-    {u"default signature",
-     default_signature,
-     {u"Signature check OK", u"Delivery and Receipt check OK", u"Auto Preview check OK",
-      u"Auto Preview Send Plain check OK"}},
+    {u"default signature", default_signature, {u"Signature check OK", u"Delivery and Receipt check OK"}},
+    {u"auto preview", auto_preview, {u"Auto Preview check OK"}},
     {u"composition", compose_body, {u"vCard check OK"}},
     {u"stamping", stamp, {}},
 };
@@ -50,19 +58,17 @@ private:
     host::MailItem outer_;
 };
 
-void record_gate(Send& send, TextView label) {
-    if (label.empty() || !send.system_check) return;
-    send.session.log.SystemCheck(label, u"Check " + to_text(send.check_number++), u"Send Event");
-}
-
 bool passes(const Gate& gate, Send& send) noexcept {
-    bool passed = false;
-    trap(send.session.log, {u"ol_ItemSend", gate.name}, [&] {
-        passed = gate.decide(send) == Verdict::next;
-        if (send.session.platform.on_gate) send.session.platform.on_gate(gate.name, passed);
-        if (passed) std::ranges::for_each(gate.passed, [&](TextView label) { record_gate(send, label); });
+    Verdict verdict = Verdict::leave;
+    trap(send.session.errors, {u"ol_ItemSend", gate.name}, [&] {
+        verdict = gate.decide(send);
+        if (send.session.platform.on_gate)
+            send.session.platform.on_gate(gate.name, verdict != Verdict::leave);
+        if (verdict != Verdict::next) return;
+        for (const TextView label : gate.passed)
+            if (!label.empty()) record_gate(send, label);
     });
-    return passed;
+    return verdict != Verdict::leave;
 }
 
 } // namespace

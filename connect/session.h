@@ -2,7 +2,8 @@
 
 #include "compose/composer.h"
 #include "connect/platform.h"
-#include "diagnostics/error_log.h"
+#include "diagnostics/error_reporter.h"
+#include "forms/frmMessage.h"
 #include "host/application.h"
 
 namespace ornavel::connect {
@@ -27,15 +28,26 @@ struct HostReferences {
 struct Session {
     explicit Session(Platform machine)
         : platform(std::move(machine)),
-          log(platform.settings, platform.files, platform.clock, platform.addin_folder) {}
+          log(platform.settings, platform.files, platform.clock, platform.addin_folder),
+          prompt(platform.windows, platform.strings),
+          errors({platform.settings, log, prompt, platform.machine, platform.objects, host.oHostApp,
+                  platform.addin_folder}) {
+        shared.application_path = platform.addin_folder;
+    }
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     Platform platform;
-    diagnostics::ErrorLog log;
     HostReferences host;
+    diagnostics::ErrorLog log;
+    forms::PromptDialog prompt;
+    diagnostics::ErrorReporter errors;
     compose::Shared shared; ///< with the current item: the item being sent
     bool processed = false;
     bool internal = false;
-    bool dialog_answer = true;
+    bool dialog_answer = true; ///< the send-options form's answer
+    bool send_plain = false;   ///< the preview's answer: undressed
+    bool vcard_chosen = false; ///< the preview's or the form's answer
     Text language;
 };
 

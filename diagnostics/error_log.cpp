@@ -1,5 +1,7 @@
 #include "diagnostics/error_log.h"
 
+#include "base/errors.h"
+
 namespace ornavel::diagnostics {
 namespace {
 
@@ -9,16 +11,18 @@ Text two_digits(int number) { return (number < 10 ? u"0" : u"") + to_text(number
 
 } // namespace
 
-void ErrorLog::Write_to_error_file(TextView description, TextView sub_function, TextView section) noexcept {
-    attempt([&] {
-        const Text what(description), routine(sub_function), step(section);
-        if (is_on(settings_, admin::ErrorFileSuppressEmail)) {
-            write_note(what + u" - " + routine + u" - " + step);
-            return;
-        }
-        if (contains(read(settings_, admin::ErrorFileExceptions), what)) return;
-        append_line(location(), u"Date: " + date() + u", " + routine + u", " + step + u", " + what);
-    });
+Text log_date(const LocalTime& time) {
+    return two_digits(time.month) + u"-" + two_digits(time.day) + u"-" + to_text(time.year) + u" " +
+           two_digits(time.hour) + u":" + two_digits(time.minute) + u":" + two_digits(time.second);
+}
+
+void ErrorLog::append_error(TextView description, TextView sub_function, TextView section) {
+    append_line(location(), u"Date: " + date() + u", " + Text(sub_function) + u", " + Text(section) + u", " +
+                                Text(description));
+}
+
+void ErrorLog::write_note(TextView text) noexcept {
+    attempt([&] { append_line(location(), u"Date: " + date() + u", " + Text(text)); });
 }
 
 void ErrorLog::SystemCheck(TextView first, TextView second, TextView third) noexcept {
@@ -30,15 +34,11 @@ void ErrorLog::SystemCheck(TextView first, TextView second, TextView third) noex
     });
 }
 
-void ErrorLog::write_note(TextView text) noexcept {
-    attempt([&] { append_line(location(), u"Date: " + date() + u", " + Text(text)); });
-}
-
 Text ErrorLog::Create_Error_Log_File() {
-    const Text folder = addin_folder_ + u"\\Support\\";
+    const Text folder = addin_folder_ + u"\\Support";
     files_.create_folder(folder);
-    files_.write(folder + u"SupportLog.txt", {});
-    return folder + u"SupportLog.txt";
+    files_.write(folder + u"\\SupportLog.txt", {});
+    return folder + u"\\SupportLog.txt";
 }
 
 Text ErrorLog::location() {
@@ -47,12 +47,6 @@ Text ErrorLog::location() {
     path = Create_Error_Log_File();
     save(settings_, admin::ErrorFileLocation, path);
     return path;
-}
-
-Text ErrorLog::date() const {
-    const LocalTime now = clock_.now();
-    return two_digits(now.month) + u"-" + two_digits(now.day) + u"-" + to_text(now.year) + u" " +
-           two_digits(now.hour) + u":" + two_digits(now.minute) + u":" + two_digits(now.second);
 }
 
 void ErrorLog::append_line(TextView path, TextView line) {

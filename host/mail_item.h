@@ -80,6 +80,8 @@ public:
     Text billing_information() const { return as_text(get({u"BillingInformation"})); }
     void set_billing_information(TextView text) const { put({u"BillingInformation"}, Text(text)); }
 
+    void set_delete_after_submit(bool forget) const { put({u"DeleteAfterSubmit"}, forget); }
+
     UserProperties user_properties() const { return UserProperties(as_object(get({u"UserProperties"}))); }
     Recipients recipients() const { return Recipients(as_object(get({u"Recipients"}))); }
     Attachments attachments() const { return Attachments(as_object(get({u"Attachments"}))); }

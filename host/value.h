@@ -26,8 +26,15 @@ struct Date {
     bool operator==(const Date&) const = default;
 };
 
+/// As an argument: where the callee leaves a value.
+struct Result;
+
 /// What crosses the seam. A null ObjectPtr is the host's "Nothing".
-using Value = std::variant<Empty, bool, std::int32_t, double, Date, Text, ObjectPtr, Omitted>;
+using Value = std::variant<Empty, bool, std::int32_t, double, Date, Text, ObjectPtr, Omitted, Result*>;
+
+struct Result {
+    Value value;
+};
 
 /// A member of a host object that fails, is missing, or gives back another type. Its description is the
 /// host's own where there is one.

@@ -1,0 +1,49 @@
+#include "connect/gates.h"
+
+namespace ornavel::connect {
+namespace {
+
+using namespace settings;
+
+/// The number that the first two characters of the host's version form; one that can't be read counts as 0.
+int host_major_version(Send& send) {
+    int major = 0;
+    trap(send.session.errors,
+         {u"ol_ItemSend", u"Error establishing the Outlook Version, MyVersion_err in OL_itemsend"}, [&] {
+             const Text version = send.session.host.oHostApp.version();
+             if (version.find_first_of(u"0123456789") != 0) throw Failure(u"Type mismatch");
+             major = numeric_value(TextView(version).substr(0, 2));
+         });
+    return major;
+}
+
+bool is_plain_text(const Send& send) {
+    return send.item().inspector().editor_type() == host::plain_text_editor;
+}
+
+} // namespace
+
+Verdict load_reply_marker(Send& send) {
+    const bool older_host = host_major_version(send) < 11;
+    trace(send, u"Just before MyMessItem is called- line 1001");
+    const Key& marker =
+        older_host || is_plain_text(send) ? system::MyReplySearchString : system::Office2003SearchString;
+    trace(send, u"Just after MyMessItem is called- line 1002");
+    send.session.shared.reply_marker = read(send.settings(), marker);
+    return Verdict::next;
+}
+
+Verdict reply_test(Send& send) {
+    compose::Shared& shared = send.session.shared;
+    const Text& marker = shared.reply_marker;
+    shared.reply = !marker.empty() &&
+                   (contains(send.item().html_body(), marker) || contains(send.item().body(), marker));
+    if (!shared.reply) return Verdict::next;
+    shared.reply_search_value = read(send.settings(), system::ReplySearchStringVal);
+    shared.reply_insert_value = read(send.settings(), system::ReplyInsertStringVal);
+    if (read(send.settings(), user::ReplyAsIs) != u"1") return Verdict::next;
+    shared.reply = false;
+    return Verdict::leave;
+}
+
+} // namespace ornavel::connect

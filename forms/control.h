@@ -1,0 +1,73 @@
+#pragma once
+
+#include "base/text.h"
+
+#include <vector>
+
+namespace ornavel::forms {
+
+enum class Kind {
+    form,
+    command_button,
+    check_box,
+    combo_box,
+    text_box,
+    label,
+    frame,
+    image,
+    menu,
+    web_browser,
+    tab_strip,
+    toolbar,
+    list_view
+};
+
+/// Where something stands, in twips. A control counts from the inner corner of its form (or of its frame), a
+/// form from the corner of the screen, title bar and borders included.
+struct Place {
+    int left = 0, top = 0, width = 0, height = 0;
+    bool operator==(const Place&) const = default;
+};
+
+/// A tab of a tab strip, a button of a toolbar, a column header of a list view.
+struct Part {
+    Text tag{}, caption{}, tool_tip{}, text{};
+    bool operator==(const Part&) const = default;
+};
+
+/// What a user sees of a form's control. Code may change any member; that fires no handler.
+struct Control {
+    Kind kind = Kind::label;
+    Text name{};
+    Place place{};
+    Text tag{};
+    Text caption{};
+    Text tool_tip{};
+    Text text{};               ///< of a text box or a combo box
+    std::vector<Text> items{}; ///< of a combo box
+    int index = -1;            ///< the chosen entry of a combo box; -1 when its text is none of them
+    bool ticked = false;       ///< of a check box
+    Text page{};               ///< the file or address that a web browser shows
+    Text picture{};            ///< the file that an image shows
+    std::vector<Part> parts{}; ///< of a tab strip, a toolbar or a list view
+    Text frame{};              ///< the name of the frame that it stands in; empty on the form itself
+    bool visible = true;
+    bool enabled = true;
+    bool locked = false;        ///< a text box that the user reads but can't change
+    bool several_lines = false; ///< a text box that wraps and scrolls
+    bool is_default = false;    ///< the button that the Enter key presses
+    bool is_cancel = false;     ///< the button that the Escape key presses
+
+    bool operator==(const Control&) const = default;
+
+    /// Makes a combo box show this text: the first entry that reads so, else the text alone with index -1.
+    void choose(TextView wanted);
+    /// Makes a combo box show the entry at this index; an index that it does not have shows an empty text.
+    void select(int wanted);
+    void clear_items();
+};
+
+/// Controls of the other kinds have no caption.
+bool has_caption(Kind kind);
+
+} // namespace ornavel::forms

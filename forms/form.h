@@ -1,0 +1,57 @@
+#pragma once
+
+#include "base/errors.h"
+#include "forms/control.h"
+
+#include <functional>
+#include <map>
+#include <vector>
+
+namespace ornavel::forms {
+
+/// What a user does to a control. drop_down comes before an entry of a combo box is chosen.
+enum class Event { click, double_click, change, drop_down };
+
+/// A window as its code sees it: named controls, in the order of the Tab key, and the form's own properties.
+/// Windows::show_modal shows it; FormUser acts on it as a user does.
+class Form {
+public:
+    using Handler = std::function<void()>;
+
+    /// The form's own properties are a control of the kind form.
+    Form(Control properties, std::vector<Control> controls);
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    Control properties;
+    bool topmost = false; ///< stays above all other windows
+    bool sizable = false; ///< the user may resize it by its frame
+    bool centred = true;  ///< appears in the middle of the screen rather than at its place
+
+    const Text& name() const { return properties.name; }
+    std::vector<Control>& controls() { return controls_; }
+    const std::vector<Control>& controls() const { return controls_; }
+    /// Throws Failure when the form has no control of this name. Names compare without case.
+    Control& operator[](TextView control);
+    Control* find(TextView control);
+
+    /// What the user's own action on a control runs; code that changes a control runs nothing.
+    void on(TextView control, Event event, Handler handler);
+    Handler on_load, on_unload, on_resize;
+
+    /// Runs on_load. A form that is loaded stays as it is.
+    void load();
+    /// Runs on_unload, once; the form's window closes. Does nothing to a form that is not loaded.
+    void unload();
+    bool is_loaded() const { return loaded_; }
+
+    /// Runs the handler of the user's action, if there is one.
+    void fire(TextView control, Event event);
+
+private:
+    std::vector<Control> controls_;
+    std::map<std::pair<Text, Event>, Handler> handlers_;
+    bool loaded_ = false;
+};
+
+} // namespace ornavel::forms

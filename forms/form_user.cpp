@@ -1,0 +1,82 @@
+#include "forms/form_user.h"
+
+namespace ornavel::forms {
+
+void FormUser::require_open() const {
+    if (!form_.is_loaded()) throw UnusableStep(form_.name() + u" is closed");
+}
+
+Control& FormUser::reach(TextView name) {
+    require_open();
+    Control* control = form_.find(name);
+    if (!control) throw UnusableStep(form_.name() + u" has no control " + Text(name));
+    if (!control->visible) throw UnusableStep(control->name + u" is hidden");
+    if (!control->enabled) throw UnusableStep(control->name + u" is disabled");
+    return *control;
+}
+
+Control& FormUser::reach(TextView name, Kind kind) {
+    Control& control = reach(name);
+    if (control.kind != kind) throw UnusableStep(control.name + u" is a control of another kind");
+    return control;
+}
+
+void FormUser::click(TextView name) {
+    Control& control = reach(name);
+    if (control.kind == Kind::check_box) control.ticked = !control.ticked;
+    form_.fire(name, Event::click);
+}
+
+void FormUser::double_click(TextView name) {
+    reach(name);
+    form_.fire(name, Event::double_click);
+}
+
+void FormUser::set_text(TextView name, TextView text) {
+    Control& control = reach(name);
+    if (control.kind == Kind::combo_box) {
+        // Lists that are filled only when the user opens them must be full before the entry is looked for.
+        form_.fire(name, Event::drop_down);
+        control.choose(text);
+        form_.fire(name, control.index < 0 ? Event::change : Event::click);
+        return;
+    }
+    if (reach(name, Kind::text_box).locked) throw UnusableStep(control.name + u" can't be changed");
+    control.text = text;
+    form_.fire(name, Event::change);
+}
+
+void FormUser::select(TextView name, int index) {
+    Control& control = reach(name, Kind::combo_box);
+    form_.fire(name, Event::drop_down);
+    if (index < 0 || static_cast<std::size_t>(index) >= control.items.size())
+        throw UnusableStep(control.name + u" has no entry " + to_text(index));
+    control.select(index);
+    form_.fire(name, Event::click);
+}
+
+void FormUser::tick(TextView name, bool ticked) {
+    if (reach(name, Kind::check_box).ticked == ticked)
+        throw UnusableStep(Text(name) + u" is " + (ticked ? u"ticked" : u"not ticked") + u" already");
+    click(name);
+}
+
+void FormUser::resize(int width, int height) {
+    require_open();
+    form_.properties.place.width = width;
+    form_.properties.place.height = height;
+    if (form_.on_resize) form_.on_resize();
+}
+
+void FormUser::move(int left, int top) {
+    require_open();
+    form_.properties.place.left = left;
+    form_.properties.place.top = top;
+}
+
+void FormUser::close() {
+    require_open();
+    form_.unload();
+}
+
+} // namespace ornavel::forms

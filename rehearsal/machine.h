@@ -1,0 +1,69 @@
+#pragma once
+
+#include "base/files.h"
+#include "rehearsal/scenario.h"
+
+#include <map>
+#include <set>
+
+namespace ornavel::rehearsal {
+
+/// The registry's and the disk's order: names without case.
+struct NameOrder {
+    using is_transparent = void;
+    bool operator()(TextView left, TextView right) const { return name_before(left, right); }
+};
+template <class Value>
+using ByName = std::map<Text, Value, NameOrder>;
+
+/// Everything that an add-in can leave behind on a machine, at one moment.
+struct Snapshot {
+    ByName<ByName<Text>> settings;
+    ByName<std::string> files; ///< full path and bytes
+    std::set<Text, NameOrder> folders;
+    ByName<ByName<RegistryValue>> registry;
+};
+
+/// The registry, by full key.
+class Registry {
+public:
+    virtual ~Registry() = default;
+    virtual std::optional<RegistryValue> find(TextView key, TextView name) const = 0;
+    /// Makes the key when it is missing.
+    virtual void set(TextView key, TextView name, RegistryValue value) = 0;
+    /// Whether there was such a key, without keys below it, and it is gone.
+    virtual bool remove_key(TextView key) = 0;
+};
+
+/// The machine that the add-in runs on during a rehearsal: in memory, or a real one. What fails throws
+/// Failure; what the machine has no means for is Unusable.
+class Machine {
+public:
+    virtual ~Machine() = default;
+
+    /// Makes the scenario's world out of nothing.
+    virtual void prepare(const Scenario& scenario) = 0;
+    virtual Snapshot snapshot() const = 0;
+
+    /// The mail client's own files: uses are not the add-in's.
+    virtual Files& files() = 0;
+    virtual Registry& registry() = 0;
+
+    virtual void change_settings(const SettingsTree& settings) = 0;
+    virtual void set_clock(const LocalTime& time) = 0;
+
+    /// An act of the user at the tray icon. Whether there is an icon, and the entry it asks for.
+    virtual bool tray(const Act& act) = 0;
+    /// A caller shows the prompt form in that mode; the prompt answer. Nothing where there is no such form.
+    virtual std::optional<Text> prompt(TextView mode) = 0;
+
+    /// Why the scripted user could not go on, when that is so.
+    virtual std::optional<std::string> complaint() const = 0;
+
+    /// What was started and shown, in order, as the outcome writes it.
+    virtual Json launched() const = 0;
+    virtual Json windows() const = 0;
+    virtual Json tray_outcome() const = 0;
+};
+
+} // namespace ornavel::rehearsal

@@ -1,0 +1,116 @@
+#include "rehearsal/model/items.h"
+
+#include "rehearsal/model/handle.h"
+#include "rehearsal/model/mail_client.h"
+
+namespace ornavel::rehearsal {
+namespace {
+
+using host::Value;
+
+/// A collection or another part of the item, made anew for each use, as the mail client does.
+template <class Part>
+Value part(const Call& call) {
+    auto item = std::static_pointer_cast<MailItemNode>(call.self.shared_from_this());
+    return call.client.hand_out(std::make_shared<Part>(std::move(item)));
+}
+
+Value parent_folder(const Call& call) {
+    return call.client.hand_out(std::make_shared<FolderNode>(call.as<MailItemNode>().parent, Text()));
+}
+
+Value save(const Call& call) {
+    ++call.as<MailItemNode>().saves;
+    return {};
+}
+
+Value send(const Call& call) {
+    auto& item = call.as<MailItemNode>();
+    item.through = call.used.what().name;
+    if (call.client.host().own_mails_raise_item_send)
+        call.client.send(item);
+    else
+        call.client.send_silently(item);
+    if (item.made_by_addin)
+        call.client.sent_mails.push_back(std::static_pointer_cast<MailItemNode>(item.shared_from_this()));
+    return {};
+}
+
+constexpr MemberRow mail_item_members[] = {
+    property<MailItemNode, &Item::message_class>(u"MessageClass"),
+    property<MailItemNode, &Item::subject>(u"Subject"),
+    property<MailItemNode, &Item::body>(u"Body"),
+    property<MailItemNode, &Item::html_body>(u"HTMLBody"),
+    property<MailItemNode, &Item::billing_information>(u"BillingInformation"),
+    property<MailItemNode, &Item::importance>(u"Importance"),
+    property<MailItemNode, &Item::sensitivity>(u"Sensitivity"),
+    property<MailItemNode, &Item::read_receipt_requested>(u"ReadReceiptRequested"),
+    property<MailItemNode, &Item::delivery_report_requested>(u"OriginatorDeliveryReportRequested"),
+    property<MailItemNode, &Item::categories>(u"Categories"),
+    property<MailItemNode, &Item::flag_request>(u"FlagRequest"),
+    property<MailItemNode, &MailItemNode::delete_after_submit>(u"DeleteAfterSubmit"),
+    method(u"Parent", parent_folder),
+    method(u"Recipients", part<RecipientsNode>),
+    method(u"Attachments", part<AttachmentsNode>),
+    method(u"UserProperties", part<UserPropertiesNode>),
+    method(u"Links", part<LinksNode>),
+    method(u"GetInspector", part<InspectorNode>),
+    method(u"Save", save),
+    method(u"Send", send),
+};
+
+void wrap(const Call& call, const Value& value) {
+    auto item = std::dynamic_pointer_cast<MailItemNode>(node_of(value));
+    if (!item) throw host::Error(u"Type mismatch");
+    call.as<SafeMailItemNode>().item = std::move(item);
+}
+
+Value wrapped(const Call& call) {
+    const auto& item = call.as<SafeMailItemNode>().item;
+    return item ? call.client.hand_out(item) : host::ObjectPtr();
+}
+
+constexpr MemberRow safe_members[] = {{u"Item", wrapped, wrap}};
+
+MailItemNode& item_of(const Call& call) { return *call.as<InspectorNode>().item; }
+
+constexpr MemberRow inspector_members[] = {
+    method(u"EditorType", [](const Call& call) -> Value { return item_of(call).editor_type; }),
+    method(u"CurrentItem",
+           [](const Call& call) -> Value { return call.client.hand_out(call.as<InspectorNode>().item); }),
+    method(u"IsWordMail", [](const Call& call) -> Value { return item_of(call).is_word_mail; }),
+    method(u"CommandBars",
+           [](const Call& call) -> Value {
+               return call.client.hand_out(std::make_shared<BarsNode>(item_of(call).inspector_bar));
+           }),
+};
+
+} // namespace
+
+MailItemNode::MailItemNode(Item item) : Item(std::move(item)), inspector_bar(std::make_shared<BarNode>()) {
+    for (const auto& entry : recipients) recipient_nodes.push_back(std::make_shared<RecipientNode>(entry));
+    for (const auto& path : attachments) attachment_nodes.push_back(std::make_shared<AttachmentNode>(path));
+    for (const auto& contact : links) contacts.push_back(std::make_shared<ContactNode>(contact));
+    for (const auto& [name, value] : user_properties) {
+        auto& node = user_property_nodes.emplace_back(std::make_shared<UserPropertyNode>());
+        node->name = name;
+        node->value = value;
+    }
+}
+
+const Class& MailItemNode::what() const {
+    static constexpr Class table{u"MailItem", mail_item_members};
+    return table;
+}
+
+const Class& SafeMailItemNode::what() const {
+    static constexpr Class table{u"SafeMailItem", safe_members};
+    return table;
+}
+
+const Class& InspectorNode::what() const {
+    static constexpr Class table{u"Inspector", inspector_members};
+    return table;
+}
+
+} // namespace ornavel::rehearsal

@@ -1,0 +1,126 @@
+#include "rehearsal/model/mail_client.h"
+
+#include "rehearsal/model/application.h"
+#include "rehearsal/model/handle.h"
+#include "rehearsal/model/registry_provider.h"
+
+#include <algorithm>
+
+namespace ornavel::rehearsal {
+namespace {
+
+using host::Value;
+
+struct Creatable {
+    TextView prog_id;
+    NodePtr (*make)();
+};
+
+template <class Kind>
+NodePtr make() {
+    return std::make_shared<Kind>();
+}
+
+constexpr Creatable creatables[] = {
+    {u"Redemption.SafeMailItem", make<SafeMailItemNode>},
+    {u"BrevantPage.PropPage", make<OptionsPageNode>},
+    {u"ADODB.Connection", make<ConnectionNode>},
+};
+
+bool is_there(const Host& host, TextView prog_id) {
+    return std::none_of(host.objects.begin(), host.objects.end(),
+                        [&](const auto& entry) { return same_name(entry.first, prog_id) && !entry.second; });
+}
+
+} // namespace
+
+bool Call::given(std::size_t index) const {
+    return index < arguments.size() && !std::holds_alternative<host::Omitted>(arguments[index]);
+}
+
+MailClient::MailClient(const Scenario& scenario, Machine& machine, Failures& failures, Journal& journal)
+    : standard_bar(std::make_shared<BarNode>()), scenario_(scenario), machine_(machine), failures_(failures),
+      journal_(journal), application_(std::make_shared<ApplicationNode>()) {
+    for (const auto& item : scenario.items) items.push_back(std::make_shared<MailItemNode>(item));
+    add_explorers(scenario.host.explorers);
+}
+
+host::ObjectPtr MailClient::create(TextView prog_id) {
+    journal_.note(Deed::call, u"CreateObject", prog_id);
+    const auto entry =
+        std::find_if(std::begin(creatables), std::end(creatables),
+                     [&](const Creatable& candidate) { return same_name(candidate.prog_id, prog_id); });
+    if (entry == std::end(creatables) || !is_there(host(), prog_id))
+        throw host::Error(u"ActiveX component can't create object");
+    return hand_out(entry->make());
+}
+
+host::ObjectPtr MailClient::get(TextView moniker) {
+    journal_.note(Deed::call, u"GetObject", moniker);
+    const bool provider =
+        moniker.starts_with(u"winmgmts:") && moniker.ends_with(u"\\root\\default:StdRegProv");
+    if (!provider || !is_there(host(), u"winmgmts"))
+        throw host::Error(u"ActiveX component can't create object");
+    return hand_out(std::make_shared<RegistryProviderNode>());
+}
+
+host::ObjectPtr MailClient::hand_out(NodePtr node) {
+    return std::make_shared<Handle>(*this, std::move(node));
+}
+
+host::ObjectPtr MailClient::application() { return hand_out(application_); }
+
+bool MailClient::send(MailItemNode& item) {
+    Value arguments[] = {hand_out(item.shared_from_this()), false};
+    raise_event(*this, *application_, u"ItemSend", arguments);
+    item.cancelled = host::as_flag(arguments[1]);
+    item.sent = !item.cancelled;
+    return item.cancelled;
+}
+
+void MailClient::send_silently(MailItemNode& item) {
+    item.cancelled = false;
+    item.sent = true;
+}
+
+void MailClient::click(ButtonNode& button) {
+    Value arguments[] = {hand_out(button.shared_from_this()), false};
+    raise_event(*this, button, u"Click", arguments);
+}
+
+void MailClient::ask_for_pages() {
+    Value arguments[] = {hand_out(std::make_shared<PropertyPagesNode>())};
+    raise_event(*this, *application_, u"OptionsPagesAdd", arguments);
+}
+
+void MailClient::add_explorers(int count) {
+    const bool none = open_explorers().empty();
+    if (none && count > 0) active_ = explorers_.size();
+    for (int made = 0; made < count; ++made) explorers_.push_back(std::make_shared<ExplorerNode>());
+}
+
+void MailClient::close_explorer(int number) {
+    const auto index = static_cast<std::size_t>(number);
+    const auto closing = explorers_.at(index);
+    for (std::size_t other = 0; index == active_ && other < explorers_.size(); ++other) {
+        if (other == index || explorers_[other]->gone) continue;
+        active_ = other;
+        break;
+    }
+    raise_event(*this, *closing, u"Close");
+    closing->gone = true;
+}
+
+std::vector<std::shared_ptr<ExplorerNode>> MailClient::open_explorers() const {
+    std::vector<std::shared_ptr<ExplorerNode>> open;
+    for (const auto& explorer : explorers_)
+        if (!explorer->gone) open.push_back(explorer);
+    return open;
+}
+
+std::shared_ptr<ExplorerNode> MailClient::active_explorer() const {
+    if (active_ >= explorers_.size() || explorers_[active_]->gone) return nullptr;
+    return explorers_[active_];
+}
+
+} // namespace ornavel::rehearsal

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "rehearsal/failures.h"
+#include "rehearsal/journal.h"
+#include "rehearsal/machine.h"
+#include "rehearsal/model/items.h"
+#include "rehearsal/model/toolbars.h"
+#include "rehearsal/references.h"
+
+namespace ornavel::rehearsal {
+
+struct ApplicationNode;
+struct ExplorerNode;
+struct ConnectionNode;
+
+/// The stand-in mail client: its items, windows and toolbars, and whatever else can be created by name. The
+/// rehearsal works on its nodes; the add-in gets counted handles.
+class MailClient final : public host::Objects {
+public:
+    MailClient(const Scenario& scenario, Machine& machine, Failures& failures, Journal& journal);
+
+    host::ObjectPtr create(TextView prog_id) override;
+    host::ObjectPtr get(TextView moniker) override;
+
+    /// A new handle, to be given to the add-in.
+    host::ObjectPtr hand_out(NodePtr node);
+    host::ObjectPtr application();
+
+    /// Raises ItemSend for the item and lets it go unless it is cancelled. Returns whether it was.
+    bool send(MailItemNode& item);
+    /// Sends without telling anyone.
+    void send_silently(MailItemNode& item);
+    void click(ButtonNode& button);
+    /// The Options dialog asks for pages.
+    void ask_for_pages();
+    void add_explorers(int count);
+    void close_explorer(int number);
+
+    std::vector<std::shared_ptr<ExplorerNode>> open_explorers() const;
+    std::shared_ptr<ExplorerNode> active_explorer() const;
+
+    void count_use(TextView member) { failures_.use(Failing::Kind::member, member); }
+    Journal& journal() { return journal_; }
+    Machine& machine() { return machine_; }
+    const Host& host() const { return scenario_.host; }
+    const std::shared_ptr<References>& references() { return references_; }
+
+    std::vector<std::shared_ptr<MailItemNode>> items;
+    std::shared_ptr<BarNode> standard_bar;                 ///< one for all explorer windows
+    std::vector<std::shared_ptr<MailItemNode>> sent_mails; ///< that the add-in made itself
+    std::vector<Text> pages, statements;
+    std::vector<std::shared_ptr<ConnectionNode>> connections;
+    Json browser = Json::array();
+
+private:
+    const Scenario& scenario_;
+    Machine& machine_;
+    Failures& failures_;
+    Journal& journal_;
+    std::shared_ptr<References> references_ = std::make_shared<References>();
+    std::shared_ptr<ApplicationNode> application_;
+    std::vector<std::shared_ptr<ExplorerNode>> explorers_;
+    std::size_t active_ = 0;
+};
+
+} // namespace ornavel::rehearsal

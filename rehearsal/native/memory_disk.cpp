@@ -1,0 +1,102 @@
+#include "rehearsal/native/memory_disk.h"
+
+#include "base/errors.h"
+
+namespace ornavel::rehearsal {
+namespace {
+
+TextView without_end(TextView folder) {
+    while (folder.ends_with(u'\\')) folder.remove_suffix(1);
+    return folder;
+}
+
+TextView parent_of(TextView path) {
+    const auto end = path.find_last_of(u'\\');
+    return end == TextView::npos ? TextView() : path.substr(0, end);
+}
+
+bool is_below(TextView path, TextView folder) {
+    return path.size() > folder.size() && path[folder.size()] == u'\\' &&
+           same_name(path.substr(0, folder.size()), folder);
+}
+
+bool is_drive(TextView path) { return path.size() == 2 && path[1] == u':'; }
+
+} // namespace
+
+bool MemoryDisk::folder_exists(TextView path) const {
+    const auto folder = without_end(path);
+    return is_drive(folder) || folders_.contains(folder);
+}
+
+std::vector<Text> MemoryDisk::list(TextView folder) const {
+    std::vector<Text> names;
+    for (const auto& [path, bytes] : files_)
+        if (same_name(parent_of(path), without_end(folder)))
+            names.push_back(path.substr(parent_of(path).size() + 1));
+    return names;
+}
+
+std::string MemoryDisk::read(TextView path) const {
+    const auto file = files_.find(path);
+    if (file == files_.end()) throw Failure(u"File not found");
+    return file->second;
+}
+
+std::string& MemoryDisk::open_for_writing(TextView path) {
+    if (folder_exists(path)) throw Failure(u"Path/File access error");
+    if (!folder_exists(parent_of(path))) throw Failure(u"Path not found");
+    return files_.try_emplace(Text(path)).first->second;
+}
+
+void MemoryDisk::write(TextView path, std::string_view bytes) { open_for_writing(path) = bytes; }
+
+void MemoryDisk::append(TextView path, std::string_view bytes) { open_for_writing(path) += bytes; }
+
+void MemoryDisk::remove(TextView path) {
+    const auto file = files_.find(path);
+    if (file == files_.end()) throw Failure(u"File not found");
+    files_.erase(file);
+}
+
+void MemoryDisk::create_folder(TextView path) {
+    const auto folder = without_end(path);
+    if (folder.empty() || folder_exists(folder)) return;
+    if (file_exists(folder)) throw Failure(u"Path/File access error");
+    create_folder(parent_of(folder));
+    folders_.emplace(folder);
+}
+
+void MemoryDisk::remove_folder(TextView path) {
+    const auto folder = without_end(path);
+    if (!folders_.contains(folder)) throw Failure(u"Path not found");
+    std::erase_if(files_, [&](const auto& file) { return is_below(file.first, folder); });
+    std::erase_if(folders_,
+                  [&](const auto& other) { return same_name(other, folder) || is_below(other, folder); });
+}
+
+std::string RehearsedDisk::read(TextView path) const {
+    journal_.note(Deed::read_file, Text(path));
+    failures_.use(Failing::Kind::read_file, path);
+    return disk_.read(path);
+}
+
+void RehearsedDisk::write(TextView path, std::string_view bytes) {
+    journal_.note(Deed::write_file, Text(path));
+    failures_.use(Failing::Kind::write_file, path);
+    disk_.write(path, bytes);
+}
+
+void RehearsedDisk::append(TextView path, std::string_view bytes) {
+    journal_.note(Deed::write_file, Text(path));
+    failures_.use(Failing::Kind::write_file, path);
+    disk_.append(path, bytes);
+}
+
+void RehearsedDisk::remove(TextView path) {
+    journal_.note(Deed::delete_file, Text(path));
+    failures_.use(Failing::Kind::delete_file, path);
+    disk_.remove(path);
+}
+
+} // namespace ornavel::rehearsal

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "rehearsal/failures.h"
+#include "rehearsal/journal.h"
+#include "rehearsal/machine.h"
+
+namespace ornavel::rehearsal {
+
+/// A disk in memory: names compare without case and keep the case in which they were first written.
+class MemoryDisk final : public Files {
+public:
+    bool file_exists(TextView path) const override { return files_.contains(path); }
+    bool folder_exists(TextView path) const override;
+    std::vector<Text> list(TextView folder) const override;
+    std::string read(TextView path) const override;
+    void write(TextView path, std::string_view bytes) override;
+    void append(TextView path, std::string_view bytes) override;
+    void remove(TextView path) override;
+    void create_folder(TextView path) override;
+    const CodePage& ansi() const override { return windows_1252(); }
+
+    /// With everything in it.
+    void remove_folder(TextView path);
+
+    const ByName<std::string>& files() const { return files_; }
+    const std::set<Text, NameOrder>& folders() const { return folders_; }
+
+private:
+    std::string& open_for_writing(TextView path);
+
+    ByName<std::string> files_;
+    std::set<Text, NameOrder> folders_;
+};
+
+/// The disk as the add-in sees it: each use is noted, and fails where the scenario says so.
+class RehearsedDisk final : public Files {
+public:
+    RehearsedDisk(MemoryDisk& disk, Failures& failures, Journal& journal)
+        : disk_(disk), failures_(failures), journal_(journal) {}
+
+    bool file_exists(TextView path) const override { return disk_.file_exists(path); }
+    bool folder_exists(TextView path) const override { return disk_.folder_exists(path); }
+    std::vector<Text> list(TextView folder) const override { return disk_.list(folder); }
+    std::string read(TextView path) const override;
+    void write(TextView path, std::string_view bytes) override;
+    void append(TextView path, std::string_view bytes) override;
+    void remove(TextView path) override;
+    void create_folder(TextView path) override { disk_.create_folder(path); }
+    const CodePage& ansi() const override { return disk_.ansi(); }
+
+private:
+    MemoryDisk& disk_;
+    Failures& failures_;
+    Journal& journal_;
+};
+
+} // namespace ornavel::rehearsal

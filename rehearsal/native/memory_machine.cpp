@@ -1,0 +1,108 @@
+#include "rehearsal/native/memory_machine.h"
+
+#include "base/encoding.h"
+#include "forms/frmMessage.h"
+#include "rehearsal/native/form_player.h"
+
+namespace ornavel::rehearsal {
+namespace {
+
+TextView file_name(TextView path) { return path.substr(path.find_last_of(u'\\') + 1); }
+
+/// A Windows program is recorded without its folder, which is another on every machine.
+TextView recorded_program(TextView program) {
+    const auto name = file_name(program);
+    return same_name(name, u"regedit.exe") || same_name(name, u"regedit") ? name : program;
+}
+
+const char* state_name(WindowState state) {
+    if (state == WindowState::minimised) return "minimised";
+    return state == WindowState::hidden ? "hidden" : "normal";
+}
+
+} // namespace
+
+MemoryMachine::MemoryMachine(const Scenario& scenario, const std::string& source, Failures& failures,
+                             Journal& journal)
+    : failures_(failures), journal_(journal), user_(scenario.user, source), computer_(scenario.computer),
+      now_(scenario.clock), rehearsed_settings_(settings_, failures, journal),
+      rehearsed_disk_(disk_, failures, journal) {}
+
+void MemoryMachine::prepare(const Scenario& scenario) {
+    disk_.create_folder(scenario.computer.addin_folder);
+    for (const auto& folder : scenario.folders) disk_.create_folder(folder);
+    for (const auto& [path, bytes] : scenario.files) {
+        disk_.create_folder(TextView(path).substr(0, path.find_last_of(u'\\')));
+        disk_.write(path, bytes);
+    }
+    change_settings(scenario.settings);
+    for (const auto& [key, values] : scenario.registry) {
+        registry_.make_key(key);
+        for (const auto& [name, value] : values) registry_.set(key, name, value);
+    }
+}
+
+Snapshot MemoryMachine::snapshot() const {
+    Snapshot snapshot;
+    for (const auto& [section, keys] : settings_.sections())
+        for (const auto& [key, value] : keys) snapshot.settings[section][key] = value;
+    snapshot.files = disk_.files();
+    snapshot.folders = disk_.folders();
+    snapshot.registry = registry_.keys();
+    return snapshot;
+}
+
+void MemoryMachine::change_settings(const SettingsTree& settings) {
+    for (const auto& [section, keys] : settings)
+        for (const auto& [key, value] : keys) settings_.save(section, key, value);
+}
+
+std::optional<Text> MemoryMachine::prompt(TextView mode) {
+    forms::PromptDialog dialog(*this, forms::built_in_strings());
+    dialog.ask(mode);
+    return dialog.values().answer;
+}
+
+OperatingSystem MemoryMachine::operating_system() const {
+    return {computer_.os_platform, computer_.os_major, computer_.os_minor, computer_.os_build};
+}
+
+Memory MemoryMachine::memory() const {
+    return {computer_.total_physical, computer_.available_physical, computer_.total_virtual,
+            computer_.available_virtual};
+}
+
+Json MemoryMachine::tray_outcome() const {
+    return {{"shown", false}, {"tip", ""}, {"times shown", 0}, {"times removed", 0}, {"menu", Json::array()}};
+}
+
+void MemoryMachine::launch(TextView program, TextView arguments, WindowState window) {
+    journal_.note(Deed::launch, Text(program), arguments);
+    failures_.use(Failing::Kind::launch, file_name(program));
+    launched_.push_back({{"program", to_json(recorded_program(program))},
+                         {"arguments", to_json(arguments)},
+                         {"window", state_name(window)}});
+}
+
+Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
+    journal_.note(Deed::window, Text(title), text);
+    const bool yes_no = buttons == Buttons::yes_no;
+    const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, yes_no));
+    if (!yes_no) return Answer::ok;
+    return record.at("answer") == "Yes" ? Answer::yes : Answer::no;
+}
+
+void MemoryMachine::show_modal(forms::Form& form) {
+    form.load();
+    if (!form.is_loaded()) return;
+    journal_.note(Deed::window, form.name(), form.properties.caption);
+    const std::size_t place = windows_.size();
+    windows_.push_back(form_record(form));
+    const auto entry = user_.meet(form.name());
+    if (entry) take_steps(user_, *entry, form);
+    form.unload();
+    windows_[place]["at close"] = changed_controls(windows_[place], form);
+    if (!entry) windows_[place]["unexpected"] = true;
+}
+
+} // namespace ornavel::rehearsal

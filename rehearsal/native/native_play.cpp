@@ -1,0 +1,57 @@
+#include "rehearsal/native/native_play.h"
+
+#include "connect/connect.h"
+#include "forms/string_table.h"
+#include "rehearsal/native/memory_machine.h"
+#include "rehearsal/outcome.h"
+
+namespace ornavel::rehearsal {
+namespace {
+
+/// A disconnected add-in stays until the end, or until the next connection, so that what it failed to
+/// release is seen.
+class NativeAddIn final : public AddIn {
+public:
+    explicit NativeAddIn(connect::Platform platform)
+        : platform_(std::move(platform)), connect_(std::make_unique<connect::Connect>(platform_)) {}
+
+    void connect(const host::ObjectPtr& application, int) override {
+        if (was_connected_) connect_ = std::make_unique<connect::Connect>(platform_);
+        was_connected_ = true;
+        connect_->OnConnection(host::Application(application));
+    }
+    void start() override { connect_->OnStartupComplete(); }
+    void update() override { connect_->OnAddInsUpdate(); }
+    void shutdown() override { connect_->OnBeginShutdown(); }
+    void disconnect(int remove_mode) override { connect_->OnDisconnection(remove_mode); }
+
+private:
+    connect::Platform platform_;
+    std::unique_ptr<connect::Connect> connect_;
+    bool was_connected_ = false;
+};
+
+} // namespace
+
+Json play_natively(const Scenario& scenario, const std::string& source) {
+    Failures failures(scenario.fail);
+    Journal journal;
+    MemoryMachine machine(scenario, source, failures, journal);
+    machine.prepare(scenario);
+    const Snapshot before = machine.snapshot();
+    MailClient client(scenario, machine, failures, journal);
+    NativeAddIn addin(connect::Platform{.settings = machine.addin_settings(),
+                                        .files = machine.addin_files(),
+                                        .clock = machine.addin_clock(),
+                                        .launcher = machine.addin_launcher(),
+                                        .objects = client,
+                                        .windows = machine.addin_windows(),
+                                        .strings = forms::built_in_strings(),
+                                        .machine = machine.addin_machine(),
+                                        .addin_folder = scenario.computer.addin_folder});
+    Player player(scenario, source, client, machine, addin);
+    player.play();
+    return write_outcome(scenario, player, client, machine, before);
+}
+
+} // namespace ornavel::rehearsal

@@ -1,0 +1,103 @@
+#include "rehearsal/player.h"
+
+#include <chrono>
+
+namespace ornavel::rehearsal {
+namespace {
+
+double milliseconds_since(std::chrono::steady_clock::time_point start) {
+    const std::chrono::duration<double, std::milli> passed = std::chrono::steady_clock::now() - start;
+    return passed.count();
+}
+
+} // namespace
+
+Player::Player(const Scenario& scenario, std::string source, MailClient& client, Machine& machine,
+               AddIn& addin)
+    : scenario_(scenario), source_(std::move(source)), client_(client), machine_(machine), addin_(addin) {}
+
+void Player::play() {
+    for (const Act& act : scenario_.acts) {
+        client_.journal().begin_act(acts_.size());
+        Json record{{"act", act.given}};
+        const auto start = std::chrono::steady_clock::now();
+        try {
+            play_act(act, record);
+        } catch (const Unusable&) {
+            throw;
+        } catch (...) {
+            error_ = to_json(current_description());
+        }
+        record["milliseconds"] = milliseconds_since(start);
+        acts_.push_back(std::move(record));
+        if (const auto complaint = machine_.complaint()) throw Unusable(*complaint);
+        if (!error_.is_null()) return;
+    }
+}
+
+void Player::play_act(const Act& act, Json& record) {
+    using Kind = Act::Kind;
+    switch (act.kind) {
+    case Kind::connect:
+        connected_ = true;
+        return addin_.connect(client_.application(), act.number);
+    case Kind::start:
+        return addin_.start();
+    case Kind::update:
+        return addin_.update();
+    case Kind::shutdown:
+        return addin_.shutdown();
+    case Kind::disconnect:
+        addin_.disconnect(act.number);
+        connected_ = false;
+        return;
+    case Kind::send:
+        return send(act.number, record);
+    case Kind::click:
+        return click(act);
+    case Kind::options:
+        return client_.ask_for_pages();
+    case Kind::new_explorer:
+        return client_.add_explorers(act.number);
+    case Kind::close_explorer:
+        return client_.close_explorer(act.number);
+    case Kind::set:
+        return machine_.change_settings(act.settings);
+    case Kind::clock:
+        return machine_.set_clock(act.time);
+    case Kind::dress:
+        refuse(act, "the add-in offers no form for this item");
+    case Kind::tray:
+    case Kind::tray_entry:
+    case Kind::tray_message:
+        if (!machine_.tray(act)) refuse(act, "no tray icon is shown");
+        return;
+    case Kind::prompt:
+        const auto answer = machine_.prompt(act.text);
+        if (!answer) refuse(act, "there is no prompt form");
+        record["answer"] = to_json(*answer);
+        return;
+    }
+}
+
+void Player::send(int item, Json& record) {
+    auto& node = *client_.items[static_cast<std::size_t>(item)];
+    if (!connected_) {
+        client_.send_silently(node);
+        record["cancel"] = false;
+        return;
+    }
+    record["cancel"] = client_.send(node);
+}
+
+void Player::click(const Act& act) {
+    const auto button = client_.standard_bar->find(act.text);
+    if (!button) refuse(act, "no such button");
+    client_.click(*button);
+}
+
+void Player::refuse(const Act& act, const std::string& reason) const {
+    throw Unusable(source_ + ": " + act.path + ": " + reason);
+}
+
+} // namespace ornavel::rehearsal

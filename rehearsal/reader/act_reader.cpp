@@ -1,0 +1,171 @@
+#include "rehearsal/reader/parts.h"
+
+#include <algorithm>
+
+namespace ornavel::rehearsal {
+namespace {
+
+using Kind = Act::Kind;
+
+struct ActShape {
+    const char* name;
+    Kind kind;
+    void (*read)(Act&, const Place&); ///< null for an act without a value
+};
+
+void read_number(Act& act, const Place& at) { act.number = at.small_number(); }
+void read_index(Act& act, const Place& at) { act.number = at.small_number(0); }
+void read_text(Act& act, const Place& at) { act.text = at.text(); }
+
+void read_tag(Act& act, const Place& at) {
+    act.text = at.is_text() ? at.text() : to_text(static_cast<long long>(at.number()));
+}
+
+void read_tray(Act& act, const Place& at) {
+    if (at.is_text()) return read_text(act, at);
+    if (!at.is_object() || at.size() != 1) at.refuse("expected a caption or {\"entry\": …}");
+    act.kind = Kind::tray_entry;
+    at.fields({{"entry", [&](const Place& key) { act.text = key.text(); }}});
+}
+
+constexpr ActShape bare_acts[] = {
+    {"connect", Kind::connect, nullptr},   {"start", Kind::start, nullptr},
+    {"update", Kind::update, nullptr},     {"options", Kind::options, nullptr},
+    {"shutdown", Kind::shutdown, nullptr},
+};
+
+constexpr ActShape valued_acts[] = {
+    {"connect", Kind::connect, read_number},
+    {"send", Kind::send, read_index},
+    {"click", Kind::click, read_tag},
+    {"dress", Kind::dress, read_index},
+    {"new explorer", Kind::new_explorer,
+     [](Act& act, const Place& at) { act.number = static_cast<int>(at.number(0, 1000)); }},
+    {"close explorer", Kind::close_explorer, read_index},
+    {"tray", Kind::tray, read_tray},
+    {"tray message", Kind::tray_message, read_number},
+    {"prompt", Kind::prompt, read_text},
+    {"disconnect", Kind::disconnect, read_number},
+    {"set", Kind::set, [](Act& act, const Place& at) { act.settings = read_settings(at); }},
+    {"clock", Kind::clock, [](Act& act, const Place& at) { act.time = at.time(); }},
+};
+
+template <std::size_t count>
+const ActShape& find_shape(const ActShape (&shapes)[count], const std::string& name, const Place& place) {
+    const auto shape = std::find_if(std::begin(shapes), std::end(shapes),
+                                    [&](const ActShape& entry) { return entry.name == name; });
+    if (shape == std::end(shapes)) place.refuse("unknown act \"" + name + "\"");
+    return *shape;
+}
+
+struct FailShape {
+    const char* name;
+    Failing::Kind kind;
+};
+
+constexpr FailShape fail_shapes[] = {
+    {"member", Failing::Kind::member},
+    {"read file", Failing::Kind::read_file},
+    {"write file", Failing::Kind::write_file},
+    {"delete file", Failing::Kind::delete_file},
+    {"read setting", Failing::Kind::read_setting},
+    {"save setting", Failing::Kind::save_setting},
+    {"launch", Failing::Kind::launch},
+};
+
+bool is_member_name(TextView text) {
+    const auto dot = text.find(u'.');
+    return dot != TextView::npos && dot > 0 && dot + 1 < text.size() &&
+           text.find(u'.', dot + 1) == TextView::npos;
+}
+
+/// Follows the explorer windows through the acts: which numbers exist, and which are open.
+class OpenExplorers {
+public:
+    explicit OpenExplorers(int count) : open_(static_cast<std::size_t>(count), true) {}
+    void add(int count) { open_.resize(open_.size() + static_cast<std::size_t>(count), true); }
+    bool close(int number) {
+        const auto index = static_cast<std::size_t>(number);
+        if (index >= open_.size() || !open_[index]) return false;
+        open_[index] = false;
+        return true;
+    }
+
+private:
+    std::vector<bool> open_;
+};
+
+} // namespace
+
+Failing read_failing(const Place& place) {
+    Failing failing;
+    int subjects = 0;
+    place.must_be_object();
+    for (const auto& [name, value] : place.json().items()) {
+        const Place at = place.member(name);
+        const auto shape = std::find_if(std::begin(fail_shapes), std::end(fail_shapes),
+                                        [&](const FailShape& entry) { return entry.name == name; });
+        if (shape != std::end(fail_shapes)) {
+            failing.kind = shape->kind;
+            failing.subject = at.text();
+            if (++subjects > 1) at.refuse("only one thing can fail in an entry");
+            if (failing.kind == Failing::Kind::member && !is_member_name(failing.subject))
+                at.refuse("expected Object.Member");
+        } else if (name == "use") {
+            failing.use = at.small_number(1);
+        } else if (name == "says") {
+            failing.says = at.text();
+        } else {
+            at.refuse("unknown member");
+        }
+    }
+    if (subjects == 0) place.refuse("member: missing");
+    return failing;
+}
+
+Act read_act(const Place& place) {
+    Act act;
+    act.given = place.json();
+    act.path = place.path();
+    if (place.is_text()) {
+        act.kind = find_shape(bare_acts, place.bytes(), place).kind;
+        return act;
+    }
+    if (!place.is_object() || place.size() != 1) place.refuse("expected an act");
+    const std::string name = place.json().items().begin().key();
+    const auto& shape = find_shape(valued_acts, name, place);
+    act.kind = shape.kind;
+    shape.read(act, place.member(name));
+    return act;
+}
+
+void check_acts(const Scenario& scenario, const std::string& source) {
+    OpenExplorers explorers(scenario.host.explorers);
+    for (const Act& act : scenario.acts) {
+        const Place place(act.given, source, act.path);
+        const bool of_an_item = act.kind == Kind::send || act.kind == Kind::dress;
+        if (of_an_item && static_cast<std::size_t>(act.number) >= scenario.items.size())
+            place.refuse("no such item");
+        if (act.kind == Kind::new_explorer) explorers.add(act.number);
+        if (act.kind == Kind::close_explorer && !explorers.close(act.number))
+            place.refuse("no such explorer");
+    }
+}
+
+void check_native_only(const Place& scenario) {
+    const auto refuse = [](const Place& place) { place.refuse("native only"); };
+    const Json& json = scenario.json();
+    if (json.contains("clock")) refuse(scenario.member("clock"));
+    if (json.contains("computer"))
+        for (const auto& [name, value] : json["computer"].items())
+            if (name != "addin folder") refuse(scenario.member("computer").member(name));
+    if (json.contains("fail"))
+        scenario.member("fail").each_element([&](const Place& entry) {
+            if (!entry.json().contains("member")) refuse(entry);
+        });
+    scenario.member("do").each_element([&](const Place& act) {
+        if (act.is_object() && (act.json().contains("clock") || act.json().contains("prompt"))) refuse(act);
+    });
+}
+
+} // namespace ornavel::rehearsal

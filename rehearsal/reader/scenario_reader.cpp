@@ -1,0 +1,69 @@
+#include "rehearsal/reader/parts.h"
+
+#include <fstream>
+#include <sstream>
+
+namespace ornavel::rehearsal {
+namespace {
+
+template <class Entry, class Read>
+std::vector<Entry> read_list(const Place& place, Read read) {
+    std::vector<Entry> list;
+    place.each_element([&](const Place& element) { list.push_back(read(element)); });
+    return list;
+}
+
+void read_members(Scenario& scenario, const Place& place) {
+    place.fields({
+        {"name", [&](const Place& at) { scenario.name = at.text(); }},
+        {"clock", [&](const Place& at) { scenario.clock = at.time(); }},
+        {"settings", [&](const Place& at) { scenario.settings = read_settings(at); }},
+        {"files", [&](const Place& at) { scenario.files = read_files(at); }},
+        {"folders", [](const Place&) {}},
+        {"registry", [&](const Place& at) { scenario.registry = read_registry(at); }},
+        {"computer", [&](const Place& at) { scenario.computer = read_computer(at); }},
+        {"host", [&](const Place& at) { scenario.host = read_host(at); }},
+        {"items", [&](const Place& at) { scenario.items = read_list<Item>(at, read_item); }},
+        {"user", [&](const Place& at) { scenario.user = read_user(at); }},
+        {"fail", [&](const Place& at) { scenario.fail = read_list<Failing>(at, read_failing); }},
+        {"do", [&](const Place& at) { scenario.acts = read_list<Act>(at, read_act); }},
+        {"expect",
+         [&](const Place& at) {
+             check_expectation(at);
+             scenario.expect = at.json();
+         }},
+    });
+}
+
+} // namespace
+
+Scenario read_scenario(const Json& json, const std::string& file, Binding binding) {
+    const Place place(json, file);
+    Scenario scenario;
+    read_members(scenario, place);
+    if (json.contains("folders")) scenario.folders = read_folders(place.member("folders"), scenario.files);
+    if (!json.contains("do")) place.refuse("do: missing");
+    check_acts(scenario, file);
+    if (binding != Binding::native) check_native_only(place);
+    return scenario;
+}
+
+Json with_files_inside(Json json, const Scenario& scenario) {
+    if (!json.contains("files")) return json;
+    auto file = scenario.files.begin();
+    for (auto& [path, contents] : json["files"].items()) {
+        if (contents.is_object()) contents = Json{{"base64", encode_base64(file->second)}};
+        ++file;
+    }
+    return json;
+}
+
+std::string load_file(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    std::ostringstream bytes;
+    if (!stream || !(bytes << stream.rdbuf() || stream.peek() == std::ifstream::traits_type::eof()))
+        throw Unusable(path + ": can't be read");
+    return bytes.str();
+}
+
+} // namespace ornavel::rehearsal

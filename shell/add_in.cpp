@@ -1,0 +1,120 @@
+#include "shell/add_in.h"
+
+#include "win32/dispatch_object.h"
+#include "win32/values.h"
+#include "win32/wide.h"
+
+namespace ornavel::shell {
+namespace {
+
+enum Handler : DISPID {
+    on_connection = 1,
+    on_disconnection,
+    on_addins_update,
+    on_startup_complete,
+    on_begin_shutdown
+};
+
+struct HandlerName {
+    TextView name;
+    Handler handler;
+};
+
+constexpr HandlerName handlers[] = {
+    {u"OnConnection", on_connection},        {u"OnDisconnection", on_disconnection},
+    {u"OnAddInsUpdate", on_addins_update},   {u"OnStartupComplete", on_startup_complete},
+    {u"OnBeginShutdown", on_begin_shutdown},
+};
+
+DISPID find_handler(TextView name) {
+    for (const auto& row : handlers)
+        if (same_name(row.name, name)) return row.handler;
+    return DISPID_UNKNOWN;
+}
+
+/// Runs a handler on behalf of the mail client: nothing gets out, and the object stays until it has ended.
+template <class Body>
+HRESULT at_boundary(IUnknown* object, Body body) noexcept {
+    const win32::ComPtr<IUnknown> kept(object);
+    attempt(body);
+    return S_OK;
+}
+
+/// One argument of a late-bound call, counted from the first; one that is not there is empty.
+host::Value argument(const DISPPARAMS* parameters, UINT index) {
+    if (!parameters || index >= parameters->cArgs) return host::Empty{};
+    return win32::to_value(parameters->rgvarg[parameters->cArgs - 1 - index]);
+}
+
+} // namespace
+
+connect::Platform Machine::platform() {
+    return {settings_, files_, clock_, launcher_, objects_, windows_, strings_, information_, addin_folder()};
+}
+
+HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {
+    return answer(wanted == IID_IUnknown || wanted == IID_IDispatch || wanted == IID_IDTExtensibility2,
+                  object);
+}
+
+HRESULT AddIn::GetTypeInfoCount(UINT* count) {
+    if (!count) return E_POINTER;
+    *count = 0;
+    return S_OK;
+}
+
+HRESULT AddIn::GetTypeInfo(UINT, LCID, ITypeInfo**) { return E_NOTIMPL; }
+
+HRESULT AddIn::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
+    if (!names || !ids || count == 0) return E_INVALIDARG;
+    // The first name is the handler's; its parameters have no names here.
+    for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
+    attempt([&] { ids[0] = find_handler(win32::text_of(names[0])); });
+    return count > 1 || ids[0] == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
+}
+
+HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) {
+    if (id < on_connection || id > on_begin_shutdown) return DISP_E_MEMBERNOTFOUND;
+    return at_boundary(this, [&] {
+        switch (id) {
+        case on_connection:
+            connect_.OnConnection(host::Application(host::as_object_or_nothing(argument(parameters, 0))));
+            break;
+        case on_disconnection:
+            connect_.OnDisconnection(host::as_number(argument(parameters, 0)));
+            break;
+        case on_addins_update:
+            connect_.OnAddInsUpdate();
+            break;
+        case on_startup_complete:
+            connect_.OnStartupComplete();
+            break;
+        default:
+            connect_.OnBeginShutdown();
+            break;
+        }
+    });
+}
+
+HRESULT AddIn::OnConnection(IDispatch* Application, LONG, IDispatch*, SAFEARRAY**) {
+    return at_boundary(this,
+                       [&] { connect_.OnConnection(host::Application(win32::object_of(Application))); });
+}
+
+HRESULT AddIn::OnDisconnection(LONG RemoveMode, SAFEARRAY**) {
+    return at_boundary(this, [&] { connect_.OnDisconnection(RemoveMode); });
+}
+
+HRESULT AddIn::OnAddInsUpdate(SAFEARRAY**) {
+    return at_boundary(this, [&] { connect_.OnAddInsUpdate(); });
+}
+
+HRESULT AddIn::OnStartupComplete(SAFEARRAY**) {
+    return at_boundary(this, [&] { connect_.OnStartupComplete(); });
+}
+
+HRESULT AddIn::OnBeginShutdown(SAFEARRAY**) {
+    return at_boundary(this, [&] { connect_.OnBeginShutdown(); });
+}
+
+} // namespace ornavel::shell

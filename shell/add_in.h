@@ -1,0 +1,57 @@
+#pragma once
+
+#include "connect/connect.h"
+#include "shell/extensibility.h"
+#include "shell/module.h"
+#include "win32/com.h"
+#include "win32/com_objects.h"
+#include "win32/machine.h"
+#include "win32/registry_store.h"
+#include "win32/system_information.h"
+#include "win32/windows_files.h"
+
+namespace ornavel::shell {
+
+/// The machine that the add-in runs on: the real one.
+class Machine {
+public:
+    connect::Platform platform();
+
+private:
+    win32::RegistryStore settings_;
+    win32::WindowsFiles files_;
+    win32::SystemClock clock_;
+    win32::ShellLauncher launcher_;
+    win32::ComObjects objects_;
+    win32::DesktopWindows windows_;
+    win32::ResourceStrings strings_{this_module()};
+    win32::WindowsInformation information_;
+};
+
+/// The class that the mail client creates. Whatever happens inside, its handlers answer S_OK.
+class AddIn final : public win32::Counted<IDTExtensibility2> {
+public:
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override;
+
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale,
+                                            DISPID* ids) override;
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID locale, WORD how,
+                                     DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+                                     UINT* bad_argument) override;
+
+    HRESULT STDMETHODCALLTYPE OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch* AddInInst,
+                                           SAFEARRAY** custom) override;
+    HRESULT STDMETHODCALLTYPE OnDisconnection(LONG RemoveMode, SAFEARRAY** custom) override;
+    HRESULT STDMETHODCALLTYPE OnAddInsUpdate(SAFEARRAY** custom) override;
+    HRESULT STDMETHODCALLTYPE OnStartupComplete(SAFEARRAY** custom) override;
+    HRESULT STDMETHODCALLTYPE OnBeginShutdown(SAFEARRAY** custom) override;
+
+private:
+    ModuleUse use_;
+    Machine machine_;
+    connect::Connect connect_{machine_.platform()};
+};
+
+} // namespace ornavel::shell

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/text.h"
+
+#include <windows.h>
+
+namespace ornavel::shell {
+
+/// Ornavel.dll itself.
+HINSTANCE this_module();
+
+/// The folder of Ornavel.dll, without a backslash at its end.
+Text addin_folder();
+
+/// Every object that lives, and every lock on the class factory, keeps the DLL in memory by one of these.
+class ModuleUse {
+public:
+    ModuleUse() { begin(); }
+    ~ModuleUse() { end(); }
+    ModuleUse(const ModuleUse&) = delete;
+    ModuleUse& operator=(const ModuleUse&) = delete;
+
+    static void begin();
+    static void end();
+    static bool any();
+};
+
+} // namespace ornavel::shell

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/text.h"
+
+#include <windows.h>
+
+namespace ornavel::shell {
+
+/// The class of the add-in, as COM and the mail client know it.
+inline constexpr CLSID CLSID_Connect{
+    0x01F2687D, 0x003D, 0x4805, {0x87, 0x44, 0x2B, 0x39, 0x21, 0x01, 0x9D, 0xBC}};
+
+/// Writes, for the current user, what COM and the mail client need to find the add-in. When a part can't be
+/// written, nothing stays and Failure is thrown.
+void register_add_in(TextView dll_path);
+
+/// Removes all of it, and the parent keys that are empty then. Nothing to remove is no failure.
+void unregister_add_in();
+
+} // namespace ornavel::shell

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "base/errors.h"
+#include "base/files.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+
+namespace ornavel {
+
+/// A disk in memory. A path in `refused` can't be read, written or removed.
+class MemoryFiles final : public Files {
+public:
+    struct NameOrder {
+        bool operator()(const Text& left, const Text& right) const { return name_before(left, right); }
+    };
+    std::map<Text, std::string, NameOrder> contents;
+    std::set<Text, NameOrder> folders;
+    std::set<Text, NameOrder> refused;
+
+    bool file_exists(TextView path) const override { return contents.count(Text(path)) != 0; }
+    bool folder_exists(TextView path) const override { return folders.count(Text(path)) != 0; }
+
+    std::vector<Text> list(TextView folder) const override {
+        std::vector<Text> names;
+        const Text prefix = Text(folder) + u"\\";
+        for (const auto& [path, bytes] : contents)
+            if (same_name(TextView(path).substr(0, prefix.size()), prefix) &&
+                path.find(u'\\', prefix.size()) == Text::npos)
+                names.push_back(path.substr(prefix.size()));
+        return names;
+    }
+
+    std::string read(TextView path) const override {
+        require_access(path);
+        const auto found = contents.find(Text(path));
+        if (found == contents.end()) throw Failure(u"File not found");
+        return found->second;
+    }
+    void write(TextView path, std::string_view bytes) override {
+        require_access(path);
+        contents[Text(path)] = bytes;
+    }
+    void append(TextView path, std::string_view bytes) override {
+        require_access(path);
+        contents[Text(path)] += bytes;
+    }
+    void remove(TextView path) override {
+        require_access(path);
+        if (contents.erase(Text(path)) == 0) throw Failure(u"File not found");
+    }
+    void create_folder(TextView path) override {
+        require_access(path);
+        folders.insert(Text(path));
+    }
+    const CodePage& ansi() const override { return windows_1252(); }
+
+private:
+    void require_access(TextView path) const {
+        if (path.empty() || refused.count(Text(path))) throw Failure(u"Path/File access error");
+    }
+};
+
+} // namespace ornavel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "forms/form_user.h"
+#include "forms/windows.h"
+
+#include <functional>
+#include <utility>
+
+namespace ornavel {
+
+/// A screen in front of which a scripted user sits: what it does is called for every form that appears. A
+/// form that is still open afterwards is closed by its frame; message boxes are closed without a choice.
+class ScriptedWindows final : public forms::Windows {
+public:
+    explicit ScriptedWindows(std::function<void(forms::Form&, forms::FormUser)> script = {})
+        : script_(std::move(script)) {}
+
+    Answer show(TextView, TextView, Buttons buttons) override {
+        return buttons == Buttons::ok ? Answer::ok : Answer::no;
+    }
+
+    void show_modal(forms::Form& form) override {
+        form.load();
+        ++forms_shown;
+        if (script_ && form.is_loaded()) script_(form, forms::FormUser(form));
+        form.unload();
+    }
+
+    int forms_shown = 0;
+
+private:
+    std::function<void(forms::Form&, forms::FormUser)> script_;
+};
+
+} // namespace ornavel

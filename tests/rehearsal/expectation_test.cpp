@@ -1,0 +1,53 @@
+#include "rehearsal/expectation.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::rehearsal {
+namespace {
+
+const char* const outcome =
+    R"({"name": "hello", "items": [{"Subject": "One", "saves": 1}, {"Subject": "Two"}],
+                                "error": null, "toolbar": []})";
+
+std::vector<std::string> compare(const char* expected) {
+    return mismatches(Json::parse(expected), Json::parse(outcome));
+}
+
+TEST(Expectation, IsMetByMoreThanItNames) {
+    for (const char* met : {
+             R"({})",
+             R"({"name": "hello", "error": null})",
+             R"({"items": [{"Subject": "One"}, {}]})",
+             R"({"items": {"count": 2}, "toolbar": {"count": 0}})",
+             R"({"name": {"contains": "ell"}})",
+             R"({"name": {"absent": "x"}})",
+             R"({"name": {"matches": "^h.*o$"}})",
+             R"({"nothing": {"missing": true}, "items": [{"saves": 1}, {"saves": {"missing": true}}]})",
+         })
+        EXPECT_EQ(compare(met), std::vector<std::string>()) << met;
+}
+
+TEST(Expectation, NamesThePathOfEachMismatch) {
+    constexpr const char* unmet[][2] = {
+        {R"({"name": "other"})", R"(name: expected "other", got "hello")"},
+        {R"({"items": [{}, {"Subject": "Three"}]})", R"(items[1].Subject: expected "Three", got "Two")"},
+        {R"({"nothing": 1})", R"(nothing: expected 1, got nothing is there)"},
+        {R"({"name": {"missing": true}})", R"(name: expected {"missing":true}, got "hello")"},
+        {R"({"name": {"contains": "x"}})", R"(name: expected {"contains":"x"}, got "hello")"},
+        {R"({"name": {"absent": "ell"}})", R"(name: expected {"absent":"ell"}, got "hello")"},
+        {R"({"nothing": {"absent": "x"}})", R"(nothing: expected {"absent":"x"}, got nothing is there)"},
+        {R"({"name": {"matches": "^e"}})", R"(name: expected {"matches":"^e"}, got "hello")"},
+        {R"({"toolbar": {"count": 1}})", R"(toolbar: expected {"count":1}, got [])"},
+        {R"({"toolbar": [1]})", R"(toolbar: expected 1 elements, got 0: [])"},
+        {R"({"error": false})", R"(error: expected false, got null)"},
+        {R"({"name": {"first": 1}})", R"(name: expected {"first":1}, got "hello")"},
+    };
+    for (const auto& [expected, line] : unmet) {
+        const auto lines = compare(expected);
+        ASSERT_EQ(lines.size(), 1u) << expected;
+        EXPECT_EQ(lines[0], line);
+    }
+}
+
+} // namespace
+} // namespace ornavel::rehearsal

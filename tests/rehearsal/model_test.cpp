@@ -1,0 +1,243 @@
+#include "rehearsal/model/mail_client.h"
+
+#include "host/application.h"
+#include "rehearsal/native/memory_machine.h"
+#include "rehearsal/outcome.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::rehearsal {
+namespace {
+
+/// A mail client on a machine in memory, out of a scenario's text.
+struct Stage {
+    explicit Stage(const std::string& json)
+        : scenario(read_scenario(parse_json(json, "stage"), "stage", Binding::native)),
+          failures(scenario.fail), machine(scenario, "stage", failures, journal),
+          client(scenario, machine, failures, journal) {
+        machine.prepare(scenario);
+    }
+    host::Application application() { return host::Application(client.application()); }
+    host::MailItem item(std::size_t index) { return host::MailItem(client.hand_out(client.items[index])); }
+    std::size_t held() { return client.references()->held(); }
+
+    Scenario scenario;
+    Failures failures;
+    Journal journal;
+    MemoryMachine machine;
+    MailClient client;
+};
+
+const char* const one_item = R"({"do": [], "items": [{"Subject": "Hello", "Recipients": ["ann@example.com"],
+    "UserProperties": {"Colour": "blue"}, "EditorType": 3}], "files": {"C:\\a.txt": "x"}})";
+
+Text description_of(const std::function<void()>& body) {
+    try {
+        body();
+    } catch (const host::Error& error) {
+        return error.description();
+    }
+    return u"nothing failed";
+}
+
+TEST(ObjectModel, AnItemIsReadAndWrittenThroughItsViews) {
+    Stage stage(one_item);
+    const auto item = stage.item(0);
+    EXPECT_EQ(item.subject(), u"Hello");
+    EXPECT_EQ(item.parent().name(), u"Drafts");
+    EXPECT_EQ(item.inspector().editor_type(), 3);
+    EXPECT_EQ(item.recipients().item(1).address(), u"ann@example.com");
+    item.set_html_body(u"<p>");
+    item.user_properties().add(u"BrevantOrnavel").set_value(u"Version 3.9.9");
+    item.attachments().add(u"c:\\A.TXT");
+    item.save();
+    const auto& node = *stage.client.items[0];
+    EXPECT_EQ(node.html_body, u"<p>");
+    EXPECT_EQ(node.user_property_nodes.at(1)->value, u"Version 3.9.9");
+    EXPECT_EQ(node.attachment_nodes.size(), 1u);
+    EXPECT_EQ(node.saves, 1);
+    EXPECT_EQ(node.body, u"");
+}
+
+TEST(ObjectModel, StrictAboutMembersArgumentsAndTypes) {
+    Stage stage(one_item);
+    const auto item = stage.item(0).object();
+    const auto unsupported = u"Object doesn't support this property or method";
+    EXPECT_EQ(description_of([&] { item->get({u"Sbuject"}); }), unsupported);
+    EXPECT_EQ(description_of([&] { item->put({u"Parent"}, Text(u"Inbox")); }), unsupported);
+    EXPECT_EQ(description_of([&] { item->put({u"Save"}, true); }), unsupported);
+    EXPECT_EQ(description_of([&] { item->call({u"Save"}, {Text(u"now")}); }),
+              u"Wrong number of arguments or invalid property assignment");
+    EXPECT_EQ(description_of([&] { item->put({u"Subject"}, item); }), u"Type mismatch");
+    EXPECT_EQ(description_of([&] { item->put({u"Importance"}, Text(u"high")); }), u"Type mismatch");
+    EXPECT_EQ(description_of([&] { stage.item(0).recipients().item(2); }), u"Array index out of bounds.");
+    EXPECT_EQ(description_of([&] { stage.item(0).attachments().add(u"C:\\b.txt"); }),
+              u"Cannot find this file. Verify the path and file name are correct.");
+    EXPECT_EQ(host::as_text(item->get({u"SUBJECT"})), u"Hello");
+}
+
+TEST(ObjectModel, CountsWhatTheAddInHolds) {
+    Stage stage(one_item);
+    EXPECT_EQ(stage.held(), 0u);
+    {
+        const auto application = stage.application();
+        const auto item = stage.item(0);
+        const auto copy = item;
+        EXPECT_EQ(stage.held(), 2u);
+        const auto events = application.on_events({});
+        EXPECT_EQ(stage.client.references()->names(),
+                  (std::vector<Text>{u"Application", u"MailItem", u"Application events"}));
+        item.recipients().item(1);
+        EXPECT_EQ(stage.held(), 3u);
+    }
+    EXPECT_EQ(stage.held(), 0u);
+}
+
+TEST(ObjectModel, ItemSendCarriesTheItemAndComesBackWithCancel) {
+    Stage stage(one_item);
+    Text seen;
+    const auto application = stage.application();
+    auto events = application.on_events({[&](host::MailItem item, bool& cancel) {
+                                             seen = item.subject();
+                                             cancel = true;
+                                         },
+                                         {}});
+    EXPECT_TRUE(stage.client.send(*stage.client.items[0]));
+    EXPECT_EQ(seen, u"Hello");
+    EXPECT_TRUE(stage.client.items[0]->cancelled);
+    EXPECT_FALSE(stage.client.items[0]->sent);
+    events.reset();
+    EXPECT_FALSE(stage.client.send(*stage.client.items[0]));
+    EXPECT_TRUE(stage.client.items[0]->sent);
+}
+
+TEST(ObjectModel, FailsTheUseThatTheScenarioNames) {
+    Stage stage(R"({"do": [], "items": [{}], "fail": [{"member": "mailitem.save", "use": 2, "says": "full"},
+                    {"member": "Application.Version"}]})");
+    const auto item = stage.item(0);
+    item.save();
+    EXPECT_EQ(description_of([&] { item.save(); }), u"full");
+    item.save();
+    EXPECT_EQ(stage.client.items[0]->saves, 2);
+    EXPECT_EQ(description_of([&] { stage.application().version(); }), u"rehearsed failure");
+}
+
+TEST(ObjectModel, TheWrapperUsesTheItem) {
+    Stage stage(R"({"do": [], "items": [{"Subject": "Hello"}],
+                    "fail": [{"member": "MailItem.Save", "use": 2}, {"member": "SafeMailItem.Subject", "use": 2}]})");
+    const auto item = stage.item(0);
+    const auto safe = host::SafeMailItem::around(stage.client, item);
+    EXPECT_EQ(safe.subject(), u"Hello");
+    EXPECT_EQ(description_of([&] { safe.subject(); }), u"rehearsed failure");
+    safe.save();
+    EXPECT_EQ(description_of([&] { safe.save(); }), u"rehearsed failure");
+    EXPECT_EQ(stage.client.items[0]->saves, 1);
+    EXPECT_EQ(description_of([&] { safe.object()->get({u"Nonsense"}); }),
+              u"Object doesn't support this property or method");
+}
+
+TEST(ObjectModel, AMailThatTheAddInSendsIsRecorded) {
+    Stage stage(R"({"do": [], "files": {"C:\\log.txt": ""}})");
+    const auto mail = stage.application().create_mail();
+    const auto safe = host::SafeMailItem::around(stage.client, mail);
+    safe.set_subject(u"Ornavel Error");
+    safe.recipients().add(u"help@example.com");
+    safe.attachments().add(u"C:\\log.txt");
+    safe.send();
+    ASSERT_EQ(stage.client.sent_mails.size(), 1u);
+    EXPECT_EQ(stage.client.sent_mails[0]->subject, u"Ornavel Error");
+    EXPECT_EQ(stage.client.sent_mails[0]->through, u"SafeMailItem");
+    EXPECT_TRUE(stage.client.sent_mails[0]->sent);
+}
+
+TEST(ObjectModel, OwnMailsRaiseItemSendWhereTheScenarioSaysSo) {
+    for (const bool raises : {false, true}) {
+        Stage stage(raises ? R"({"do": [], "host": {"own mails raise ItemSend": true}})" : R"({"do": []})");
+        int raised = 0;
+        const auto application = stage.application();
+        const auto events = application.on_events({[&](host::MailItem, bool&) { ++raised; }, {}});
+        application.create_mail().send();
+        EXPECT_EQ(raised, raises ? 1 : 0);
+        EXPECT_EQ(stage.client.sent_mails.size(), 1u);
+    }
+}
+
+TEST(ObjectModel, WhatIsNotInstalledCannotBeCreated) {
+    Stage stage(R"({"do": [], "host": {"objects": {"redemption.safemailitem": false}}})");
+    const auto refused = u"ActiveX component can't create object";
+    EXPECT_EQ(description_of([&] { stage.client.create(u"Redemption.SafeMailItem"); }), refused);
+    EXPECT_EQ(description_of([&] { stage.client.create(u"No.Such"); }), refused);
+    EXPECT_NE(stage.client.create(u"BrevantPage.PropPage"), nullptr);
+}
+
+TEST(ObjectModel, ButtonsAreFoundByTagClickedAndDeleted) {
+    Stage stage(R"({"do": []})");
+    const auto bar = stage.application().active_explorer().command_bars().item(u"Standard");
+    const auto button = bar.add_temporary_button();
+    button.set_tag(u"EmailMonitor");
+    int clicks = 0;
+    const auto subscription = button.on_click([&] { ++clicks; });
+    stage.client.click(*stage.client.standard_bar->find(u"EmailMonitor"));
+    EXPECT_EQ(clicks, 1);
+    EXPECT_TRUE(bar.find_button(u"EmailMonitor"));
+    EXPECT_FALSE(bar.find_button(u"ButtonWiz"));
+    button.remove();
+    EXPECT_FALSE(bar.find_button(u"EmailMonitor"));
+    EXPECT_NE(description_of([&] { button.set_caption(u"x"); }), u"nothing failed");
+}
+
+TEST(ObjectModel, AClosingExplorerStillCountsWhileItSaysSo) {
+    Stage stage(R"({"do": [], "host": {"explorers": 2}})");
+    const auto application = stage.application();
+    int count = 0;
+    bool other_is_active = false;
+    const auto first = stage.client.active_explorer();
+    const auto explorer = application.active_explorer();
+    const auto events = explorer.on_close([&] {
+        count = application.explorer_count();
+        other_is_active = stage.client.active_explorer() != first;
+    });
+    stage.client.close_explorer(0);
+    EXPECT_EQ(count, 2);
+    EXPECT_TRUE(other_is_active);
+    EXPECT_EQ(application.explorer_count(), 1);
+    stage.client.close_explorer(1);
+    EXPECT_FALSE(application.active_explorer());
+}
+
+TEST(ObjectModel, PagesCollectTheirTitles) {
+    Stage stage(R"({"do": []})");
+    const auto application = stage.application();
+    const auto events =
+        application.on_events({{}, [&](host::PropertyPages pages) {
+                                   pages.add(stage.client.create(u"BrevantPage.PropPage"), u"Ornavel");
+                               }});
+    stage.client.ask_for_pages();
+    EXPECT_EQ(stage.client.pages, std::vector<Text>{u"Ornavel"});
+}
+
+TEST(ObjectModel, AConnectionKeepsItsStatements) {
+    Stage stage(R"({"do": []})");
+    const auto connection = stage.client.create(u"ADODB.Connection");
+    EXPECT_NE(description_of([&] { connection->call({u"Execute"}, {Text(u"insert")}); }), u"nothing failed");
+    connection->call({u"Open"}, {Text(u"dsn")});
+    connection->call({u"Execute"}, {Text(u"insert")});
+    connection->call({u"Close"});
+    EXPECT_EQ(stage.client.statements, std::vector<Text>{u"insert"});
+    EXPECT_EQ(stage.client.connections.size(), 1u);
+}
+
+TEST(ObjectModel, TheJournalTellsEachUseInOrder) {
+    Stage stage(one_item);
+    stage.journal.begin_act(3);
+    const auto item = stage.item(0);
+    item.set_subject(item.subject() + u"!");
+    item.save();
+    EXPECT_EQ(stage.journal.host_uses(3), 3u);
+    EXPECT_EQ(stage.journal.host_uses(0), 0u);
+    EXPECT_EQ(stage.journal.entries()[1].what, u"MailItem.Subject");
+    EXPECT_EQ(stage.journal.entries()[1].value, u"Hello!");
+}
+
+} // namespace
+} // namespace ornavel::rehearsal

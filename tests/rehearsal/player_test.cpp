@@ -1,0 +1,211 @@
+#include "rehearsal/player.h"
+
+#include "host/application.h"
+#include "rehearsal/native/memory_machine.h"
+#include "rehearsal/outcome.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::rehearsal {
+namespace {
+
+/// An add-in that writes down what it is told, and cancels what it is asked to.
+struct NotingAddIn final : AddIn {
+    std::vector<std::string> told;
+    host::Subscription events;
+    bool cancels = false;
+    std::function<void()> on_start = [] {};
+
+    void connect(const host::ObjectPtr& application, int mode) override {
+        told.push_back("connect " + std::to_string(mode));
+        const auto send = [this](host::MailItem, bool& cancel) {
+            told.push_back("send");
+            cancel = cancels;
+        };
+        events = host::Application(application).on_events({send, [](host::PropertyPages) {}});
+    }
+    void start() override {
+        told.push_back("start");
+        on_start();
+    }
+    void update() override { told.push_back("update"); }
+    void shutdown() override { told.push_back("shutdown"); }
+    void disconnect(int remove_mode) override { told.push_back("disconnect " + std::to_string(remove_mode)); }
+};
+
+struct Stage {
+    explicit Stage(const std::string& json)
+        : scenario(read_scenario(parse_json(json, "stage"), "stage", Binding::native)),
+          failures(scenario.fail), machine(scenario, "stage", failures, journal),
+          client(scenario, machine, failures, journal), player(scenario, "stage", client, machine, addin) {
+        machine.prepare(scenario);
+        before = machine.snapshot();
+    }
+    Json outcome() {
+        player.play();
+        return write_outcome(scenario, player, client, machine, before);
+    }
+    std::string refusal() {
+        try {
+            player.play();
+        } catch (const Unusable& error) {
+            return error.what();
+        }
+        return "played";
+    }
+
+    Scenario scenario;
+    Failures failures;
+    Journal journal;
+    MemoryMachine machine;
+    MailClient client;
+    NotingAddIn addin;
+    Player player;
+    Snapshot before;
+};
+
+TEST(Player, PlaysTheActsInOrder) {
+    Stage stage(R"({"do": [{"connect": 4}, "start", "update", {"send": 0}, "shutdown", {"disconnect": 1}],
+                    "items": [{}]})");
+    stage.outcome();
+    EXPECT_EQ(stage.addin.told,
+              (std::vector<std::string>{"connect 4", "start", "update", "send", "shutdown", "disconnect 1"}));
+}
+
+TEST(Player, ASendOutsideTheConnectionReachesNobodyAndGoesOut) {
+    Stage stage(R"({"do": [{"send": 0}, "connect", {"disconnect": 0}, {"send": 1}], "items": [{}, {}]})");
+    stage.addin.cancels = true;
+    const Json outcome = stage.outcome();
+    EXPECT_EQ(stage.addin.told, (std::vector<std::string>{"connect 0", "disconnect 0"}));
+    EXPECT_EQ(outcome["items"][0]["sent"], true);
+    EXPECT_EQ(outcome["items"][1]["sent"], true);
+    EXPECT_EQ(outcome["acts"][3]["cancel"], false);
+}
+
+TEST(Player, ACancelledItemIsNotSent) {
+    Stage stage(R"({"do": ["connect", {"send": 0}], "items": [{}]})");
+    stage.addin.cancels = true;
+    const Json outcome = stage.outcome();
+    EXPECT_EQ(outcome["acts"][1]["cancel"], true);
+    EXPECT_EQ(outcome["items"][0]["cancelled"], true);
+    EXPECT_EQ(outcome["items"][0]["sent"], false);
+    EXPECT_EQ(outcome["references"]["names"], Json::array({"Application events"}));
+}
+
+TEST(Player, WhatTheAddInLetsOutIsTheOutcomesErrorAndTheEnd) {
+    Stage stage(R"({"do": ["connect", "start", "update"]})");
+    stage.addin.on_start = [] { throw Failure(u"no way"); };
+    const Json outcome = stage.outcome();
+    EXPECT_EQ(outcome["error"], "no way");
+    EXPECT_EQ(stage.addin.told.size(), 2u);
+}
+
+TEST(Player, AnActWithoutMeansMakesTheScenarioUnusable) {
+    constexpr const char* without_means[][2] = {
+        {R"({"tray": "Hide"})", "stage: do[0]: no tray icon is shown"},
+        {R"({"tray message": 517})", "stage: do[0]: no tray icon is shown"},
+        {R"({"dress": 0})", "stage: do[0]: the add-in offers no form for this item"},
+        {R"({"click": "EmailMonitor"})", "stage: do[0]: no such button"},
+    };
+    for (const auto& [act, refused] : without_means) {
+        Stage stage(std::string(R"({"items": [{}], "do": [)") + act + "]}");
+        EXPECT_EQ(stage.refusal(), refused);
+    }
+}
+
+TEST(Player, TheUserAnswersMessageBoxesInTheirOrder) {
+    Stage stage(R"({"do": ["connect", "start"], "user": [{"at": "First", "answer": "Yes"},
+                                                         {"at": "*", "answer": "OK"}]})");
+    auto& boxes = stage.machine.addin_windows();
+    stage.addin.on_start = [&] {
+        EXPECT_FALSE(boxes.ask(u"Unasked", u"?"));
+        EXPECT_TRUE(boxes.ask(u"First", u"?"));
+        boxes.inform(u"Second", u"!");
+        boxes.inform(u"Third", u"!");
+    };
+    const Json windows = stage.outcome()["windows"];
+    ASSERT_EQ(windows.size(), 4u);
+    EXPECT_EQ(windows[0], (Json{{"message box", "Unasked"},
+                                {"text", "?"},
+                                {"buttons", "YesNo"},
+                                {"icon", "Question"},
+                                {"answer", "No"},
+                                {"unexpected", true}}));
+    EXPECT_EQ(windows[1], (Json{{"message box", "First"},
+                                {"text", "?"},
+                                {"buttons", "YesNo"},
+                                {"icon", "Question"},
+                                {"answer", "Yes"}}));
+    EXPECT_EQ(windows[2]["icon"], "Information");
+    EXPECT_FALSE(windows[2].contains("unexpected"));
+    EXPECT_EQ(windows[3]["unexpected"], true);
+}
+
+TEST(Player, AnAnswerThatTheBoxDoesNotHaveMakesTheScenarioUnusable) {
+    Stage stage(R"({"do": ["connect", "start"], "user": [{"at": "Box", "answer": "OK"}]})");
+    stage.addin.on_start = [&] { stage.machine.addin_windows().ask(u"Box", u"?"); };
+    EXPECT_EQ(stage.refusal(), "stage: user[0]: the box has Yes and No only");
+}
+
+TEST(Outcome, HasEveryMemberEvenWhenNothingHappened) {
+    const Json outcome = Stage(R"({"do": []})").outcome();
+    for (const char* member :
+         {"name", "acts", "items", "settings", "files", "registry", "windows", "toolbar", "tray", "pages",
+          "launched", "statements", "connections", "mails", "browser", "references", "error"})
+        EXPECT_TRUE(outcome.contains(member)) << member;
+    EXPECT_EQ(outcome["windows"], Json::array());
+    EXPECT_EQ(outcome["references"], (Json{{"held", 0}, {"names", Json::array()}}));
+    EXPECT_EQ(outcome["tray"]["times shown"], 0);
+}
+
+TEST(Outcome, ListsFilesThatChangedAndOnlyThose) {
+    Stage stage(R"({"do": ["connect", "start"], "folders": ["C:\\gone"], "files": {"C:\\a.txt": "a",
+        "C:\\same.txt": "s", "C:\\gone\\b.txt": "b", "C:\\old.txt": "o", "C:\\new\\x": ""}})");
+    auto& files = stage.machine.addin_files();
+    stage.addin.on_start = [&] {
+        files.append(u"C:\\A.TXT", "b");
+        files.write(u"C:\\same.txt", "s");
+        files.write(u"C:\\new\\mark.html", "\xEF\xBB\xBFx");
+        files.write(u"C:\\new\\bytes", "\xFF\x00\x80");
+        files.write(u"C:\\brief.txt", "");
+        files.remove(u"C:\\brief.txt");
+        files.remove(u"C:\\old.txt");
+        stage.machine.remove_folder(u"C:\\gone");
+    };
+    EXPECT_EQ(stage.outcome()["files"],
+              Json::parse(R"({"C:\\a.txt": "ab", "C:\\new\\bytes": {"base64": "/w=="},
+        "C:\\new\\mark.html": {"text": "x", "mark": "UTF-8"}, "C:\\gone\\b.txt": null, "C:\\old.txt": null,
+        "C:\\gone\\": null})"));
+}
+
+TEST(Outcome, ListsRegistryValuesThatChanged) {
+    Snapshot before, after;
+    before.registry[u"K"] = {{u"same", 1u}, {u"changed", 1u}, {u"gone", Text(u"x")}};
+    before.registry[u"L"] = {{u"a", 1u}};
+    after.registry[u"K"] = {{u"same", 1u}, {u"changed", 2u}, {u"new", ExpandText{u"%x%"}}};
+    EXPECT_EQ(changed_registry(before, after),
+              Json::parse(R"({"K": {"changed": 2, "new": {"expand": "%x%"}, "gone": null}, "L": null})"));
+}
+
+TEST(MemoryMachine, FailsWhatTheScenarioNames) {
+    Stage stage(
+        R"({"do": [], "settings": {"User Settings": {"Template": "a"}}, "files": {"C:\\a": "a", "C:\\b": "b"},
+        "fail": [{"read file": "c:\\A"}, {"write file": "C:\\b", "use": 1}, {"delete file": "C:\\b"},
+                 {"read setting": "template"}, {"save setting": "Signature"}, {"launch": "x.exe", "says": "no"}]})");
+    auto& machine = stage.machine;
+    EXPECT_THROW(machine.addin_files().read(u"C:\\a"), Failure);
+    EXPECT_EQ(machine.addin_files().read(u"C:\\b"), "b");
+    EXPECT_THROW(machine.addin_files().append(u"C:\\b", "b"), Failure);
+    machine.addin_files().append(u"C:\\b", "c");
+    EXPECT_THROW(machine.addin_files().remove(u"C:\\b"), Failure);
+    EXPECT_EQ(machine.addin_settings().find(u"User Settings", u"Template"), std::nullopt);
+    machine.addin_settings().save(u"User Settings", u"Signature", u"s");
+    EXPECT_EQ(machine.snapshot().settings[u"User Settings"].size(), 1u);
+    EXPECT_THROW(machine.addin_launcher().launch(u"C:\\p\\x.exe", u"", WindowState::normal), Failure);
+    machine.addin_launcher().launch(u"C:\\WINDOWS\\regedit.exe", u"/s a", WindowState::minimised);
+    EXPECT_EQ(machine.launched(),
+              Json::parse(R"([{"program": "regedit.exe", "arguments": "/s a", "window": "minimised"}])"));
+}
+
+} // namespace
+} // namespace ornavel::rehearsal

@@ -1,0 +1,131 @@
+#include "win32/event_sink.h"
+
+#include "win32/dispatch_object.h"
+#include "win32/values.h"
+
+#include <algorithm>
+#include <ocidl.h>
+
+namespace ornavel::win32 {
+namespace {
+
+struct Event {
+    host::EventSource source;
+    DISPID id;
+    TextView name;
+};
+
+constexpr Event events[] = {
+    {host::EventSource::application, 0xF002, u"ItemSend"},
+    {host::EventSource::application, 0xF005, u"OptionsPagesAdd"},
+    {host::EventSource::explorer, 0xF008, u"Close"},
+    {host::EventSource::button, 1, u"Click"},
+};
+
+/// The event interface of a source: the host's application and explorer, the command bars' button.
+constexpr IID event_interface(host::EventSource source) {
+    switch (source) {
+    case host::EventSource::application:
+        return {0x0006304E, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+    case host::EventSource::explorer:
+        return {0x0006304F, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+    default:
+        return {0x000C0351, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+    }
+}
+
+/// The arguments in their order; automation passes the last one first.
+std::vector<host::Value> in_order(const DISPPARAMS& parameters) {
+    std::vector<host::Value> values;
+    for (UINT i = parameters.cArgs; i-- > 0;) values.push_back(to_value(parameters.rgvarg[i]));
+    return values;
+}
+
+/// Where a flag that was passed by reference is kept, or null.
+VARIANT_BOOL* flag_behind(const VARIANT& argument) {
+    if (argument.vt == (VT_BYREF | VT_BOOL)) return argument.pboolVal;
+    const bool by_variant = argument.vt == (VT_BYREF | VT_VARIANT) && argument.pvarVal;
+    return by_variant && argument.pvarVal->vt == VT_BOOL ? &argument.pvarVal->boolVal : nullptr;
+}
+
+void give_back_flags(const DISPPARAMS& parameters, const std::vector<host::Value>& values) {
+    for (UINT i = 0; i < parameters.cArgs; ++i) {
+        VARIANT_BOOL* flag = flag_behind(parameters.rgvarg[parameters.cArgs - 1 - i]);
+        if (flag) *flag = host::as_flag(values[i]) ? VARIANT_TRUE : VARIANT_FALSE;
+    }
+}
+
+class EventSink final : public Counted<IDispatch> {
+public:
+    EventSink(host::EventSource source, host::EventHandler handler)
+        : source_(source), handler_(std::make_shared<host::EventHandler>(std::move(handler))) {}
+
+    void disconnect() { handler_.reset(); }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override {
+        return answer(wanted == IID_IUnknown || wanted == IID_IDispatch || wanted == event_interface(source_),
+                      object);
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+        if (count) *count = 0;
+        return count ? S_OK : E_POINTER;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+        return DISP_E_UNKNOWNNAME;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*,
+                                     EXCEPINFO*, UINT*) override {
+        attempt([&] { pass_on(id, parameters ? *parameters : DISPPARAMS{}); });
+        return S_OK;
+    }
+
+private:
+    void pass_on(DISPID id, const DISPPARAMS& parameters) {
+        const auto event = std::ranges::find_if(
+            events, [&](const Event& row) { return row.source == source_ && row.id == id; });
+        // The handler may drop its subscription, and this sink with it.
+        const auto handler = handler_;
+        if (event == std::end(events) || !handler) return;
+        auto values = in_order(parameters);
+        (*handler)(event->name, values);
+        give_back_flags(parameters, values);
+    }
+
+    host::EventSource source_;
+    std::shared_ptr<host::EventHandler> handler_;
+};
+
+/// One connection between a sink and the object whose events it takes.
+class Connection {
+public:
+    Connection(ComPtr<IConnectionPoint> point, ComPtr<EventSink> sink)
+        : point_(std::move(point)), sink_(std::move(sink)) {
+        check(point_->Advise(sink_.get(), &cookie_));
+    }
+    ~Connection() {
+        sink_->disconnect();
+        // A host that is gone already answers with an error, which changes nothing.
+        point_->Unadvise(cookie_);
+    }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+private:
+    ComPtr<IConnectionPoint> point_;
+    ComPtr<EventSink> sink_;
+    DWORD cookie_ = 0;
+};
+
+} // namespace
+
+host::Subscription advise(IUnknown* object, host::EventSource source, host::EventHandler handler) {
+    ComPtr<IConnectionPointContainer> container;
+    check(object->QueryInterface(IID_IConnectionPointContainer, container.out_untyped()));
+    ComPtr<IConnectionPoint> point;
+    check(container->FindConnectionPoint(event_interface(source), point.out()));
+    return std::make_shared<Connection>(std::move(point),
+                                        ComPtr<EventSink>::adopt(new EventSink(source, std::move(handler))));
+}
+
+} // namespace ornavel::win32

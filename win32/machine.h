@@ -1,0 +1,39 @@
+#pragma once
+
+#include "base/clock.h"
+#include "base/launcher.h"
+#include "forms/string_table.h"
+#include "forms/windows.h"
+
+#include <windows.h>
+
+namespace ornavel::win32 {
+
+class SystemClock final : public Clock {
+public:
+    LocalTime now() const override;
+};
+
+/// Starts programs as the shell does when the user opens them.
+class ShellLauncher final : public Launcher {
+public:
+    void launch(TextView program, TextView arguments, WindowState window) override;
+};
+
+/// The windows of the user's desktop, in front of the window that is active in this thread.
+class DesktopWindows final : public forms::Windows {
+public:
+    Answer show(TextView title, TextView text, Buttons buttons) override;
+};
+
+/// The numbered texts in a module's resources.
+class ResourceStrings final : public forms::StringTable {
+public:
+    explicit ResourceStrings(HINSTANCE module) : module_(module) {}
+    std::optional<Text> find(int id) const override;
+
+private:
+    HINSTANCE module_;
+};
+
+} // namespace ornavel::win32

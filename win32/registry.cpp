@@ -1,0 +1,96 @@
+#include "win32/registry.h"
+
+#include "win32/wide.h"
+
+namespace ornavel::win32 {
+namespace {
+
+void check_key(LSTATUS status, TextView path) {
+    if (status != ERROR_SUCCESS) fail(path, static_cast<DWORD>(status));
+}
+
+DWORD byte_count(const std::wstring& text) { return static_cast<DWORD>(text.size() * sizeof(wchar_t)); }
+
+} // namespace
+
+RegistryKey RegistryKey::create(TextView path) {
+    HKEY key = nullptr;
+    check_key(RegCreateKeyExW(HKEY_CURRENT_USER, wide(path).c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE,
+                              nullptr, &key, nullptr),
+              path);
+    return RegistryKey(key);
+}
+
+std::optional<RegistryKey> RegistryKey::open(TextView path, REGSAM access) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, wide(path).c_str(), 0, access, &key) != ERROR_SUCCESS) return {};
+    return RegistryKey(key);
+}
+
+std::optional<Text> RegistryKey::text(TextView name) const {
+    const std::wstring wanted = wide(name);
+    std::wstring value(256, L'\0');
+    DWORD type = REG_NONE;
+    LSTATUS status = ERROR_MORE_DATA;
+    DWORD size = 0;
+    while (status == ERROR_MORE_DATA) {
+        size = byte_count(value);
+        status = RegQueryValueExW(key_, wanted.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(value.data()),
+                                  &size);
+        if (status == ERROR_MORE_DATA) value.resize(size / sizeof(wchar_t) + 1);
+    }
+    if (status != ERROR_SUCCESS || type != REG_SZ) return {};
+    value.resize(size / sizeof(wchar_t));
+    // The closing NUL is stored with the text, by some programs more than once and by others not at all.
+    value.resize(value.find_last_not_of(L'\0') + 1);
+    return text_of(value);
+}
+
+void RegistryKey::set(TextView name, TextView text) {
+    std::wstring value = wide(text);
+    value.push_back(L'\0');
+    check_key(RegSetValueExW(key_, wide(name).c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.data()),
+                             byte_count(value)),
+              name);
+}
+
+void RegistryKey::set(TextView name, DWORD number) {
+    check_key(RegSetValueExW(key_, wide(name).c_str(), 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number),
+                             sizeof number),
+              name);
+}
+
+bool RegistryKey::empty() const {
+    DWORD keys = 0;
+    DWORD values = 0;
+    const LSTATUS status = RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
+                                            nullptr, nullptr, nullptr, nullptr);
+    return status == ERROR_SUCCESS && keys == 0 && values == 0;
+}
+
+std::optional<Text> RegistryKey::first_subkey() const {
+    wchar_t name[256];
+    DWORD length = ARRAYSIZE(name);
+    const LSTATUS status = RegEnumKeyExW(key_, 0, name, &length, nullptr, nullptr, nullptr, nullptr);
+    if (status != ERROR_SUCCESS) return {};
+    return text_of({name, length});
+}
+
+void remove_key(TextView path) {
+    while (true) {
+        std::optional<Text> child;
+        if (const auto key = RegistryKey::open(path)) child = key->first_subkey();
+        if (!child) break;
+        remove_key(Text(path) + u"\\" + *child);
+    }
+    const LSTATUS status = RegDeleteKeyW(HKEY_CURRENT_USER, wide(path).c_str());
+    if (status != ERROR_FILE_NOT_FOUND) check_key(status, path);
+}
+
+void remove_empty_key(TextView path) {
+    bool holds_nothing = false;
+    if (const auto key = RegistryKey::open(path)) holds_nothing = key->empty();
+    if (holds_nothing) remove_key(path);
+}
+
+} // namespace ornavel::win32

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/object.h"
+#include "win32/com.h"
+
+namespace ornavel::win32 {
+
+/// The value as automation passes it. Throws host::Error for an object that is not one of automation's.
+Variant to_variant(const host::Value& value);
+
+/// What automation passed, by value or by reference. Throws host::Error for what the seam has no type for.
+host::Value to_value(VARIANT& variant);
+
+} // namespace ornavel::win32

@@ -1,0 +1,99 @@
+#include "win32/windows_files.h"
+
+#include "win32/ansi_code_page.h"
+#include "win32/handle.h"
+#include "win32/wide.h"
+
+#include <algorithm>
+
+namespace ornavel::win32 {
+namespace {
+
+enum class Kind { missing, file, folder };
+
+Kind kind_of(TextView path) {
+    const DWORD attributes = GetFileAttributesW(wide(path).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return Kind::missing;
+    return attributes & FILE_ATTRIBUTE_DIRECTORY ? Kind::folder : Kind::file;
+}
+
+Handle open(TextView path, DWORD access, DWORD disposition) {
+    Handle file(CreateFileW(wide(path).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                            disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file) fail(path, GetLastError());
+    return file;
+}
+
+void write_all(const Handle& file, TextView path, std::string_view bytes) {
+    while (!bytes.empty()) {
+        DWORD written = 0;
+        if (!WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
+            fail(path, GetLastError());
+        bytes.remove_prefix(written);
+    }
+}
+
+Text with_backslash(TextView folder) { return Text(folder) + (folder.ends_with(u'\\') ? u"" : u"\\"); }
+
+/// The folder above, or an empty text for a drive and for a name without a folder.
+Text parent_of(TextView path) {
+    const auto slash = path.find_last_of(u"\\/");
+    if (slash == TextView::npos || path.substr(0, slash).ends_with(u':')) return {};
+    return Text(path.substr(0, slash));
+}
+
+} // namespace
+
+bool WindowsFiles::file_exists(TextView path) const { return kind_of(path) == Kind::file; }
+bool WindowsFiles::folder_exists(TextView path) const { return kind_of(path) == Kind::folder; }
+
+std::vector<Text> WindowsFiles::list(TextView folder) const {
+    std::vector<Text> names;
+    // Without this an empty name would list the root of the current drive.
+    if (folder.empty()) return names;
+    WIN32_FIND_DATAW found;
+    const FindHandle search(FindFirstFileW(wide(with_backslash(folder) + u"*").c_str(), &found));
+    if (!search) return names;
+    do {
+        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) names.push_back(text_of(found.cFileName));
+    } while (FindNextFileW(search.get(), &found));
+    std::ranges::sort(names, name_before);
+    return names;
+}
+
+std::string WindowsFiles::read(TextView path) const {
+    const Handle file = open(path, GENERIC_READ, OPEN_EXISTING);
+    std::string bytes;
+    char buffer[16384];
+    DWORD count = 0;
+    do {
+        if (!ReadFile(file.get(), buffer, sizeof buffer, &count, nullptr)) fail(path, GetLastError());
+        bytes.append(buffer, count);
+    } while (count > 0);
+    return bytes;
+}
+
+void WindowsFiles::write(TextView path, std::string_view bytes) {
+    write_all(open(path, GENERIC_WRITE, CREATE_ALWAYS), path, bytes);
+}
+
+void WindowsFiles::append(TextView path, std::string_view bytes) {
+    const Handle file = open(path, GENERIC_WRITE, OPEN_ALWAYS);
+    SetFilePointer(file.get(), 0, nullptr, FILE_END);
+    write_all(file, path, bytes);
+}
+
+void WindowsFiles::remove(TextView path) {
+    if (!DeleteFileW(wide(path).c_str())) fail(path, GetLastError());
+}
+
+void WindowsFiles::create_folder(TextView path) {
+    if (folder_exists(path)) return;
+    const Text parent = parent_of(path);
+    if (!parent.empty()) create_folder(parent);
+    if (!CreateDirectoryW(wide(path).c_str(), nullptr) && !folder_exists(path)) fail(path, GetLastError());
+}
+
+const CodePage& WindowsFiles::ansi() const { return ansi_code_page(); }
+
+} // namespace ornavel::win32
