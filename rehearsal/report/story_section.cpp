@@ -3,9 +3,8 @@
 #include "base/encoding.h"
 #include "rehearsal/report/frame.h"
 #include "rehearsal/report/html.h"
+#include "rehearsal/report/reasons.h"
 #include "rehearsal/report/words.h"
-
-#include <algorithm>
 
 namespace ornavel::rehearsal::report {
 namespace {
@@ -69,12 +68,9 @@ std::string gate_rail(const Send& send) {
 }
 
 std::string sentence(const Story& story, const Send& send) {
-    std::string words = capital(what_came_in(story, send)) + " " + what_happened(story, send) + ". ";
-    const auto passed = static_cast<std::size_t>(std::ranges::count(send.gates, true, &GateVisit::passed));
-    const std::string left = left_at(send);
-    words += left.empty() ? "It passed all " + counted(passed, "gate")
-                          : "It passed " + counted(passed, "gate") + " and left at “" + left + "”";
-    return words + " in " + milliseconds(send.milliseconds) + ".";
+    return capital(what_came_in(story, send)) + " " + what_happened(story, send) + ". " +
+           way_through_the_gates(story, send) + " That took " + milliseconds(send.milliseconds) + " and " +
+           counted(send.calls, "call") + " into the mail client.";
 }
 
 std::string send_part(const Story& story, const Send& send) {

@@ -38,7 +38,8 @@ std::string setting(const Story& story, const char* section, const char* key) {
     return text_of(keys, key);
 }
 
-std::string dressing(const Story& story) {
+std::string dressing(const Story& story, const Item& item) {
+    if (item.editor_type == 1) return "went out turned into HTML, and stamped";
     const std::string signature = setting(story, "User Settings", "Signature");
     const std::string sheet = setting(story, "User Settings", "Template");
     return "went out dressed in " + sheet +
@@ -74,7 +75,7 @@ std::string_view name_of(Fate fate) {
     case Fate::dressed:
         return "dressed";
     case Fate::changed:
-        return "changed";
+        return "changed otherwise";
     case Fate::untouched:
         return "left alone";
     default:
@@ -86,11 +87,6 @@ std::size_t held_by(const Story& story) {
     return story.outcome.value("references", Json::object()).value("held", std::size_t{0});
 }
 
-std::string left_at(const Send& send) {
-    const auto gate = std::ranges::find(send.gates, false, &GateVisit::passed);
-    return gate == send.gates.end() ? std::string() : gate->name;
-}
-
 std::string what_came_in(const Story& story, const Send& send) {
     const Item& item = story.scenario.items.at(send.item);
     return kind(item) + " from " + mail_client(story.scenario.host.version) +
@@ -100,7 +96,7 @@ std::string what_came_in(const Story& story, const Send& send) {
 std::string what_happened(const Story& story, const Send& send) {
     switch (fate_of(story, send)) {
     case Fate::dressed:
-        return dressing(story);
+        return dressing(story, story.scenario.items.at(send.item));
     case Fate::changed: {
         const bool same =
             same_body(story.scenario.items.at(send.item), story.outcome.at("items").at(send.item));

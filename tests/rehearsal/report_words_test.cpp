@@ -19,7 +19,7 @@ Story story_of(Json item_after, Item before = {}) {
     story.outcome = {{"items", Json::array({std::move(item_after)})},
                      {"settings", {{"User Settings", {{"Template", "a.htm"}, {"Signature", "b.htm"}}}}},
                      {"references", {{"held", 0}}}};
-    story.sends = {{0, 0, false, 1.5, {{"entry mode", true}, {"message class", true}}}};
+    story.sends = {{0, 0, false, 1.5, 0, {{"entry mode", true}, {"message class", true}}}};
     return story;
 }
 
@@ -77,11 +77,6 @@ TEST(ReportWords, WhatCameInNamesTheKindAndTheMailClient) {
               "a meeting request from Outlook 2003");
 }
 
-TEST(ReportWords, TheGateThatASendLeftAtIsTheFirstThatDidNotPass) {
-    EXPECT_EQ(left_at({0, 0, false, 0, {{"a", true}, {"b", false}}}), "b");
-    EXPECT_EQ(left_at({0, 0, false, 0, {{"a", true}}}), "");
-}
-
 TEST(ReportPage, NamesOfStoriesAreText) {
     const auto html = page({story_of(unchanged())});
     EXPECT_NE(html.find("R&amp;D &lt;writes&gt;"), std::string::npos);
@@ -92,6 +87,14 @@ TEST(ReportPage, NeedsNothingOutsideItself) {
     const auto html = page({story_of(with(unchanged(), "HTMLBody", "<IMG src='http://a.example/'>"))});
     for (const char* outside : {"<script", "<link", "src=\"http", "url(", "@import"})
         EXPECT_EQ(html.find(outside), std::string::npos) << outside;
+}
+
+TEST(ReportDifferences, TheDateOfALogLineNeverCountsAndItsWordsDo) {
+    const auto log = [](const char* line) { return Json{{"files", {{"C:\\a.log", line}}}}; };
+    EXPECT_TRUE(
+        differences(log("Date: 11-20-2003 14:05:09, a"), log("Date: 01-02-2020 00:00:00, a")).empty());
+    EXPECT_EQ(differences(log("Date: 11-20-2003 14:05:09, a"), log("Date: 11-20-2003 14:05:09, b")).size(),
+              1u);
 }
 
 TEST(ReportDifferences, TimesNeverCountAndEveryOtherMemberDoes) {
