@@ -91,11 +91,12 @@ std::string overview(const std::vector<Story>& stories) {
 
 std::string page(const std::vector<Story>& stories) {
     std::string sections;
+    std::size_t sends = 0;
+    for (const auto& story : stories) sends += story.sends.size();
     for (std::size_t i = 0; i < stories.size(); ++i) sections += story_section(stories[i], i + 1);
-    const std::string header =
-        text_element("p", "eyebrow", "Ornavel in rehearsal") +
-        text_element("h1", "", counted(stories.size(), "message") + " on the way out") +
-        how_it_was_played(stories) + figures(stories) + overview(stories);
+    const std::string header = text_element("p", "eyebrow", "Ornavel in rehearsal") +
+                               text_element("h1", "", counted(sends, "message") + " on the way out") +
+                               how_it_was_played(stories) + figures(stories) + overview(stories);
     return head + element("style", "", style_sheet) + "</head>\n<body>\n" + element("header", "", header) +
            element("main", "", sections) + "</body>\n</html>\n";
 }

@@ -113,7 +113,8 @@ std::string way_through_the_gates(const Story& story, const Send& send) {
         return gates + ", and behind " + quoted(send.gates.back().name) +
                " an error ended the add-in's part.";
     if (left.empty()) return "It passed all " + counted(passed, "gate") + ".";
-    return gates + " and left at " + quoted(left) + reason(story, send, left) + ".";
+    return (passed == 0 ? "It left at the first gate, " : gates + " and left at ") + quoted(left) +
+           reason(story, send, left) + ".";
 }
 
 } // namespace ornavel::rehearsal::report

@@ -6,10 +6,10 @@
 #include "rehearsal/report/reasons.h"
 #include "rehearsal/report/words.h"
 
+#include <algorithm>
+
 namespace ornavel::rehearsal::report {
 namespace {
-
-constexpr int tall = 640, low = 260; ///< heights of a frame, in pixels: a dressed message and a bare one
 
 /// The bodies of an item at one moment.
 struct Shown {
@@ -76,7 +76,7 @@ std::string sentence(const Story& story, const Send& send) {
 std::string send_part(const Story& story, const Send& send) {
     const Item& item = story.scenario.items.at(send.item);
     const Shown before = as_given(item), after = as_sent(story.outcome.at("items").at(send.item));
-    const int height = fate_of(story, send) == Fate::dressed ? tall : low;
+    const int height = std::max(estimated_height(source_of(before)), estimated_height(source_of(after)));
     return text_element("p", "sentence", sentence(story, send)) +
            element("div", "pair",
                    letter("as the user wrote it", before, story, item, height) +

@@ -49,7 +49,7 @@ TEST(ReportReasons, TheSettingThatDecidedIsShownWithItsValueWithoutRegardToCase)
     const auto story = story_with({{u"user settings", {{u"settingbuttonbar", u"off"}}}});
     EXPECT_EQ(
         way(story, {{"entry mode", false}}),
-        "It passed 0 gates and left at “entry mode”: the mode (SettingButtonBar) is “off”, and only “auto” "
+        "It left at the first gate, “entry mode”: the mode (SettingButtonBar) is “off”, and only “auto” "
         "dresses.");
 }
 
@@ -60,7 +60,7 @@ TEST(ReportReasons, ThePropertyThatDecidedIsShown) {
               "dressed.");
     EXPECT_EQ(
         way(story, {{"resend from the Outbox", false}}),
-        "It passed 0 gates and left at “resend from the Outbox”: it lies in the folder “Outbox” and carries "
+        "It left at the first gate, “resend from the Outbox”: it lies in the folder “Outbox” and carries "
         "the stamp of an earlier send.");
 }
 

@@ -52,6 +52,12 @@ TEST(ReportWords, AChangedBodyWithoutAStampIsSaidToBeChanged) {
     EXPECT_EQ(what_happened(story, story.sends[0]), "went out changed, without the stamp");
 }
 
+TEST(ReportWords, WhatLeftAtTheGateForInternalMailGotTheShortSignature) {
+    auto story = story_of(with(unchanged(), "HTMLBody", "<P>Hello<P>Jo"));
+    story.sends[0].gates = {{"internal mail", false}};
+    EXPECT_EQ(what_happened(story, story.sends[0]), "went out with the short signature and no stamp");
+}
+
 TEST(ReportWords, AMarkInTheSubjectAloneIsSaidToBeThat) {
     const auto story = story_of(with(unchanged(), "Subject", "Exclaimer"));
     EXPECT_EQ(what_happened(story, story.sends[0]), "went out as it was written, with a note in its subject");
@@ -72,7 +78,7 @@ TEST(ReportWords, WhatCameInNamesTheKindAndTheMailClient) {
     EXPECT_EQ(came_in(u"9.0.0.3821", {}), "an HTML message from Outlook 2000");
     EXPECT_EQ(came_in(u"10.0.2627", {.editor_type = 1}), "a plain-text message from Outlook 2002");
     EXPECT_EQ(came_in(u"11.0.5608", {.is_word_mail = true}),
-              "an HTML message from Outlook 2003, written with Word");
+              "a Word-written message from Outlook 2003");
     EXPECT_EQ(came_in(u"11.0.5608", {.message_class = u"IPM.Schedule.Meeting.Request"}),
               "a meeting request from Outlook 2003");
 }
