@@ -37,7 +37,7 @@ Text with_pictures(Text html, const Named<std::string>& files) {
 
 /// Tags that begin a line of their own.
 constexpr TextView line_tags[] = {u"<br", u"<p", u"<div", u"<tr", u"<li", u"<img", u"<hr"};
-constexpr int margins = 80, height_of_tag = 11, letters_in_pixel = 9, lowest = 150, highest = 760;
+constexpr int margins = 100, height_of_tag = 11, letters_in_pixel = 9, lowest = 150, highest = 760;
 
 int count_of(TextView text, TextView part) {
     int count = 0;
