@@ -28,7 +28,7 @@ Story play(const std::string& file, Binding binding) {
     const Json json = parse_json(load_file(file), file);
     Scenario scenario = read_scenario(json, file, binding);
     std::optional<Json> with_dll;
-    if (binding == Binding::wine) with_dll = play_under_wine(with_files_inside(json, scenario), scenario);
+    if (binding == Binding::wine) with_dll = play_under_wine(json, scenario, file);
     Story story = gather(std::move(scenario), file, with_dll);
     if (story.scenario.expect) story.mismatches = mismatches(*story.scenario.expect, story.outcome);
     return story;
