@@ -19,6 +19,12 @@ private:
     std::string narrow_;
 };
 
+/// A text would have grown beyond largest_text.
+class TextTooLarge : public Failure {
+public:
+    TextTooLarge() : Failure(u"The text grew beyond the largest size") {}
+};
+
 /// The description of the exception being handled; to be called inside a catch block only.
 Text current_description() noexcept;
 

@@ -1,6 +1,7 @@
 #include "base/text.h"
 
 #include "base/errors.h"
+#include "base/find.h"
 
 #include <algorithm>
 #include <limits>
@@ -18,7 +19,8 @@ constexpr char16_t upper(char16_t unit) {
 
 std::size_t count_of(TextView text, TextView search) {
     std::size_t count = 0;
-    for (auto at = text.find(search); at != TextView::npos; at = text.find(search, at + search.size()))
+    for (auto at = find_text(text, search); at != TextView::npos;
+         at = find_text(text, search, at + search.size()))
         ++count;
     return count;
 }
@@ -49,7 +51,9 @@ Text trim(TextView text) {
     return Text(text.substr(first, text.find_last_not_of(u' ') - first + 1));
 }
 
-bool contains(TextView text, TextView part) { return text.find(part) != TextView::npos; }
+bool contains(TextView text, TextView part) {
+    return part.empty() || find_text(text, part) != TextView::npos;
+}
 
 Text replace_all(TextView text, TextView search, TextView replacement) {
     const auto count = search.empty() ? 0 : count_of(text, search);
@@ -57,12 +61,12 @@ Text replace_all(TextView text, TextView search, TextView replacement) {
 
     const auto kept = text.size() - count * search.size();
     if (kept > largest_text || (!replacement.empty() && count > (largest_text - kept) / replacement.size()))
-        throw Failure(u"The text grew beyond the largest size");
+        throw TextTooLarge();
 
     Text result;
     result.reserve(kept + count * replacement.size());
     std::size_t done = 0;
-    for (auto at = text.find(search); at != TextView::npos; at = text.find(search, done)) {
+    for (auto at = find_text(text, search); at != TextView::npos; at = find_text(text, search, done)) {
         result.append(text.substr(done, at - done)).append(replacement);
         done = at + search.size();
     }
@@ -72,7 +76,7 @@ Text replace_all(TextView text, TextView search, TextView replacement) {
 std::vector<Text> split(TextView text, TextView separator) {
     std::vector<Text> pieces;
     std::size_t begin = 0;
-    for (auto at = text.find(separator); at != TextView::npos; at = text.find(separator, begin)) {
+    for (auto at = find_text(text, separator); at != TextView::npos; at = find_text(text, separator, begin)) {
         pieces.emplace_back(text.substr(begin, at - begin));
         begin = at + separator.size();
     }

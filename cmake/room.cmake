@@ -12,7 +12,7 @@ function(ornavel_warnings target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Werror)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # GCC 12 sees overlapping copies in operator+ of short texts where there are none (its bug 105329).
+    # GCC 12 sees overlapping copies of short texts where there are none (its bug 105329).
     target_compile_options(${target} PRIVATE -Wno-restrict)
   endif()
 endfunction()

@@ -1,71 +1,9 @@
 #include "compose/composer.h"
 
-#include <iterator>
+#include "compose/composition.h"
 
 namespace ornavel::compose {
 namespace {
-
-using namespace settings;
-
-constexpr TextView insertion_marker = u"[#Input your message here#]";
-
-/// One message on its way: the texts that the steps work on.
-struct Composition {
-    Services services;
-    Shared& shared;
-    Text& message;
-    Text& template_path;
-    Text signature_name;
-    Text signature;
-    Text result;
-};
-
-bool file_exists(const Composition& c, TextView path) { return c.services.files.file_exists(path); }
-
-/// The path itself, or the first HTML file of the folder when there is no such file; an empty folder leaves the path.
-Text path_or_first_of(const Composition& c, const Text& path, const Key& folder_setting) {
-    if (file_exists(c, path)) return path;
-    const Text folder = read(c.services.settings, folder_setting);
-    const auto first = first_html_file(c.services.files, folder);
-    return first ? folder + u"\\" + *first : path;
-}
-
-void find_template(Composition& c) {
-    c.template_path = path_or_first_of(c, c.template_path, admin::HTMFilesPath);
-}
-
-void choose_signature(Composition& c) {
-    c.signature_name = c.shared.signature_from_settings ? trim(read(c.services.settings, user::Signature, u"none"))
-                                                        : trim(c.shared.form_signature);
-}
-
-void append_signature(Composition& c) {
-    if (c.signature_name.empty() || c.signature_name == u"none") return;
-    const Text path = read(c.services.settings, admin::SignaturesPath) + u"\\" + c.signature_name;
-    const Text text = read_lines(c.services.files, path_or_first_of(c, path, admin::SignaturesPath), line_end);
-    c.message += u"<P>" + text;
-}
-
-void read_template(Composition& c) {
-    // Until the template is read, the message stands for the result: a template that fails loses nothing.
-    c.result = c.message;
-    c.result = read_lines(c.services.files, c.template_path, line_end);
-}
-
-void insert_message(Composition& c) {
-    const auto marker = c.result.find(insertion_marker);
-    if (marker != Text::npos) c.result.replace(marker, insertion_marker.size(), c.message);
-}
-
-void merge_signature_fields(Composition& c) {
-    const Store& store = c.services.settings;
-    c.result = replace_all(c.result, u"[#SigFullname#]", read(store, admin::SigFullname));
-    c.result = replace_all(c.result, u"[#SigEmail#]", read(store, admin::SigEmail));
-}
-
-void fill_background_colour(Composition& c) {
-    c.result = replace_all(c.result, u"[#SigBGColor#]", read(c.services.settings, admin::SigBGColor));
-}
 
 struct Step {
     void (*run)(Composition&);
@@ -73,22 +11,72 @@ struct Step {
 };
 
 constexpr Place any_step{u"CreateHTMLBody", u"CreateHTM_Err"};
+constexpr Place file_compare{u"CreateHTMLBody- error HTML File Compare", u"CompareFile_Err"};
+constexpr Place font_control{u"CreateHTMLBody- error FontControl", u"FontControl_Err"};
 
 constexpr Step steps[] = {
     {find_template, any_step},
+    {write_before, file_compare},
+    {stamp_date, any_step},
+    {wipe_out_HTML, {u"CreateHTMLBody- error Wipeout HTML", u"WipeoutHTML_Err"}},
+    {break_fonts, font_control},
+    {remove_divisions, {u"CreateHTMLBody- error DivControl", u"DivControl_Err"}},
+    {end_divisions, {u"CreateHTMLBody- error EndDIvControl", u"EndDivControl_Err"}},
+    {break_block_quotes, font_control},
+    {write_after, file_compare},
+    {break_rules, font_control},
+    {look_at_item, any_step},
+    {read_Word_document, {u"CreateHTMLBody- error in Word htm file", u"WordFileOpen_Err"}},
+    {link_addresses, any_step},
+    {wrap_lines, {u"CreateHTMLBody- error SpanControl", u"SpanControl_Err"}},
+    {replace_tabs, {u"CreateHTMLBody- error EndSpanControl", u"EndSpanControl_Err"}},
+    {cut_reply, any_step}, // has a trap of its own, whose label tells the length
     {choose_signature, any_step},
     {append_signature, {u"CreateHTMLBody", u"Signature_Err"}},
     {read_template, {u"CreateHTMLBody- error in htm file", u"NoFile_Err"}},
+    {ask_about_script, any_step},
+    {find_marker, any_step},
     {insert_message, any_step},
-    {merge_signature_fields, any_step},
-    {fill_background_colour, any_step},
+    {break_reply_tags, any_step},
+    {shrink_reply_font, any_step},
+    {insert_reply, any_step},
+    {fill_contact_fields, any_step},
+    {log_usage, {u"CreateHTMLBody- eMarketing error", u"eMarketing_Err"}},
+    {merge_fields, any_step}, // has a trap for each of its groups
 };
 
 } // namespace
 
+void AskingErrors::Write_to_error_file(TextView description, TextView sub_function,
+                                       TextView section) noexcept {
+    const auto report = errors_.log_error(description, sub_function, section);
+    attempt([&] {
+        if (report &&
+            boxes_.ask(u"Error Report", u"Brevant has just experienced an error. Brevant has prepared a "
+                                        u"desciption or the error.\r\nWould you like to send it now?"))
+            errors_.mail_report(*report);
+    });
+}
+
+Text path_or_first_of(const Composition& c, const Text& path, const settings::Key& folder) {
+    if (c.services.files.file_exists(path)) return path;
+    const auto first = first_html_file(c.services.files, c.read(folder));
+    return first ? c.read(folder) + u"\\" + *first : path;
+}
+
+void substitute(Text& text, TextView search, TextView replacement) {
+    if (!search.empty() && contains(text, search)) text = replace_all(text, search, replacement);
+}
+
 Text CreateHTMLBody(Services services, Shared& shared, Text& body, Text& template_path) noexcept {
-    Composition composition{services, shared, body, template_path, {}, {}, {}};
-    for (const Step& step : steps) trap(services.errors, step.trap, [&] { step.run(composition); });
+    AskingErrors errors(services.errors, services.boxes);
+    Composition composition{services, shared, errors, body, template_path};
+    shared.template_refused = false;
+    composition.log_usage = shared.usage_log.enabled;
+    for (const Step& step : steps) {
+        trap(errors, step.trap, [&] { step.run(composition); });
+        if (composition.refused) break;
+    }
     return std::move(composition.result);
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "base/clock.h"
-#include "base/errors.h"
 #include "base/files.h"
 #include "base/message_box.h"
-#include "host/mail_item.h"
+#include "compose/usage_log.h"
+#include "diagnostics/error_reports.h"
+#include "host/application.h"
 #include "settings/store.h"
 
 namespace ornavel::compose {
@@ -16,7 +17,8 @@ struct Services {
     const Clock& clock;
     MessageBoxes& boxes;
     host::Objects& objects;
-    ErrorSink& errors;
+    diagnostics::ErrorReports& errors;
+    const host::Application& application; ///< may hold nothing
 };
 
 /// What the composer shares with those who call it.
@@ -29,14 +31,17 @@ struct Shared {
     Text reply_search_value = u"1";       ///< how far in front of the marker the new text ends, plus one
     Text reply_insert_value = u"1";       ///< how far behind the marker the quoted part begins, plus one
     Text application_path;                ///< the folder of scratch files and of the disclaimer
-    bool template_refused = false;        ///< the user did not want the template's script
+    bool script_check_suppressed =
+        false;                     ///< composing for a preview: no script warning, no contact, no usage log
+    bool template_refused = false; ///< the user did not want the template's script
+    UsageLog usage_log;            ///< as read at start-up
 };
 
 /// Pours the user's text into an HTML template, adds the signature and fills the placeholder fields.
 /// body: the text that the user wrote; changed in place by the steps before insertion. template_path: the
 /// template's full path; replaced by the first template of the folder when there is no such file. Gives back
-/// the finished HTML. A step that fails is written to the error log, and composition goes on with the text as
-/// it stood. Never throws.
+/// the finished HTML. A step that fails is written to the error log, the user is asked whether to mail the
+/// report, and composition goes on with the text as it stood. Never throws.
 Text CreateHTMLBody(Services services, Shared& shared, Text& body, Text& template_path) noexcept;
 
 } // namespace ornavel::compose

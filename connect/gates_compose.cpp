@@ -18,7 +18,7 @@ Text composed_from(Send& send, Text source) {
         read(send.settings(), admin::HTMFilesPath) + u"\\" + trim(read(send.settings(), user::Template));
     send.session.shared.signature_from_settings = true;
     return compose::CreateHTMLBody({platform.settings, platform.files, platform.clock, platform.windows,
-                                    platform.objects, send.session.errors},
+                                    platform.objects, send.session.errors, send.session.host.oHostApp},
                                    send.session.shared, source, template_path);
 }
 

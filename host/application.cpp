@@ -61,6 +61,8 @@ MailItem Application::create_mail() const {
     return MailItem(as_object(call({u"CreateItem"}, {ol_mail_item})));
 }
 
+Namespace Application::mapi() const { return Namespace(as_object(call({u"GetNamespace"}, {Text(u"MAPI")}))); }
+
 Subscription Application::on_events(ApplicationEvents events) const {
     return advise(EventSource::application,
                   [events = std::move(events)](TextView event, std::span<Value> arguments) {

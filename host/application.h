@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/mail_item.h"
+#include "host/mapi.h"
 
 namespace ornavel::host {
 
@@ -66,6 +66,7 @@ public:
     /// Holds nothing when no explorer window is open.
     Explorer active_explorer() const { return Explorer(as_object_or_nothing(call({u"ActiveExplorer"}))); }
     MailItem create_mail() const;
+    Namespace mapi() const;
     Subscription on_events(ApplicationEvents events) const;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "host/view.h"
+#include "host/contact.h"
+#include "host/word.h"
 
 namespace ornavel::host {
 
@@ -54,12 +55,7 @@ public:
     using View::View;
     int editor_type() const { return as_number(get({u"EditorType"})); }
     bool is_word_mail() const { return as_flag(get({u"IsWordMail"})); }
-};
-
-class Folder : public View {
-public:
-    using View::View;
-    Text name() const { return as_text(get({u"Name"})); }
+    WordDocument word_editor() const { return WordDocument(as_object(get({u"WordEditor"}))); }
 };
 
 /// An item being written or sent. A `Redemption.SafeMailItem` around one has the same members.
@@ -84,6 +80,7 @@ public:
 
     UserProperties user_properties() const { return UserProperties(as_object(get({u"UserProperties"}))); }
     Recipients recipients() const { return Recipients(as_object(get({u"Recipients"}))); }
+    Links links() const { return Links(as_object(get({u"Links"}))); }
     Attachments attachments() const { return Attachments(as_object(get({u"Attachments"}))); }
     Inspector inspector() const { return Inspector(as_object(get({u"GetInspector"}))); }
 

@@ -1,13 +1,10 @@
-#include "shell/extensibility.h"
 #include "tests/win32/add_in_dll.h"
 #include "tests/win32/fake_dispatch.h"
+#include "win32/extensibility.h"
 #include "win32/machine.h"
 
 namespace ornavel::win32 {
 namespace {
-
-using shell::IDTExtensibility2;
-using shell::IID_IDTExtensibility2;
 
 /// The add-in as the mail client gets it: registered, and made by its programmatic identifier.
 class AddIn : public testing::Test {

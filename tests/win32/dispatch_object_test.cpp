@@ -78,6 +78,22 @@ TEST_F(LateBinding, ArgumentsArriveInTheirOrderAndType) {
     EXPECT_EQ(fake->invocations[0].arguments, expected);
 }
 
+TEST_F(LateBinding, AResultIsLeftWhereItsPlaceIs) {
+    class Writer final : public FakeDispatch {
+        HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*,
+                                         EXCEPINFO*, UINT*) override {
+            EXPECT_EQ(parameters->rgvarg[0].vt, VT_BYREF | VT_VARIANT);
+            *parameters->rgvarg[0].pvarVal = to_variant(Text(u"read")).release();
+            return S_OK;
+        }
+    };
+    const auto writer = ComPtr<FakeDispatch>::adopt(new Writer);
+    writer->members = {u"GetStringValue"};
+    host::Result result;
+    object_of(static_cast<IDispatch*>(writer.get()))->call({u"GetStringValue"}, {Text(u"key"), &result});
+    EXPECT_EQ(result.value, host::Value(Text(u"read")));
+}
+
 TEST_F(LateBinding, AMemberThatIsNotThereIsAnError) {
     EXPECT_THROW(object->get({u"Missing"}, {}), host::Error);
     EXPECT_TRUE(fake->invocations.empty());

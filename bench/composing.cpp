@@ -1,0 +1,47 @@
+#include "bench/composing.h"
+
+#include "bench/bodies.h"
+
+#include <cstdlib>
+
+namespace ornavel::bench {
+
+using namespace settings;
+
+void fill_signature(Store& store) {
+    save(store, admin::SigFullname, u"Jo Sender");
+    save(store, admin::SigPosition, u"Director of Figures");
+    save(store, admin::SigOrganizationName, u"Example Company");
+    save(store, admin::SigAddress, u"1 Example Street");
+    save(store, admin::SigEmail, u"jo@example.com");
+    save(store, admin::SigWebsite, u"www.example.com");
+    save(store, admin::SigWebsiteDisplayName, u"Example");
+}
+
+ReplyComposer::ReplyComposer() : item_(std::make_shared<RecordingObject>(journal_)) {
+    fill_signature(store_);
+    for (const Key& filter :
+         {admin::WipeoutHTML, admin::WipeOutFontControl, user::WipeoutDivTag, admin::WipeoutHardRule,
+          admin::RemoveReplyTags, admin::WipeoutReplyFontSmall, user::InsertDate})
+        save(store_, filter, u"True");
+    save(store_, admin::WipeoutHTMLBeginTag, u"<!--");
+    save(store_, admin::WipeoutHTMLTagsGroup, u"<script,<object");
+    save(store_, user::Signature, u"jo.htm");
+    files_.contents[u"C:\\temp\\jo.htm"] = to_utf8(signature());
+    files_.contents[u"C:\\temp\\letter.htm"] =
+        "<HTML><BODY bgColor=[#SigBGColor#]>[#Input your message here#]</BODY></HTML>";
+    item_->values[u"HTMLBody"] = Text(u"<p>");
+    shared_.item = host::MailItem(item_);
+    shared_.signature_from_settings = true;
+    shared_.reply = true;
+    shared_.reply_marker = u"-----Original";
+}
+
+void ReplyComposer::compose(Text& body) {
+    Text path = u"C:\\temp\\letter.htm";
+    result_ = CreateHTMLBody({store_, files_, clock_, boxes_, objects_, reports_, application_}, shared_,
+                             body, path);
+    if (!reports_.entries.empty()) std::abort();
+}
+
+} // namespace ornavel::bench

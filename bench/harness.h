@@ -1,0 +1,33 @@
+#pragma once
+
+#include "base/text.h"
+
+#include <functional>
+#include <span>
+
+namespace ornavel::bench {
+
+// Ratios are only as good as the moment they are taken in: contenders run in turns, in one process, and each
+// figure is the median of its turns. A library that measures one contender after the other can't do that, and
+// it is all we need.
+
+/// One run of a contender; gives back its seconds, without what it had to prepare.
+using Run = std::function<double()>;
+
+/// Seconds that the body takes.
+double seconds(const std::function<void()>& body);
+
+/// The median seconds of each contender over that many rounds, in which they take turns.
+std::vector<double> medians(std::span<const Run> contenders, int rounds);
+
+/// Bytes on the heap now, and the most there were since the last reset.
+std::size_t heap_bytes();
+std::size_t heap_peak();
+void reset_heap_peak();
+
+/// Prints a row: what, the measured figure, the goal, and whether it is met. A goal of 0 is no goal.
+void print_row(const char* what, double figure, const char* unit, double goal, bool at_least = false);
+/// How many rows fell short.
+int rows_short();
+
+} // namespace ornavel::bench

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "compose/composer.h"
+
+namespace ornavel::compose {
+
+inline constexpr TextView insertion_marker = u"[#Input your message here#]";
+
+/// Logs an error, and asks the user whether to mail the report where it may be mailed.
+class AskingErrors final : public ErrorSink {
+public:
+    AskingErrors(diagnostics::ErrorReports& errors, MessageBoxes& boxes) : errors_(errors), boxes_(boxes) {}
+    void Write_to_error_file(TextView description, TextView sub_function, TextView section) noexcept override;
+
+private:
+    diagnostics::ErrorReports& errors_;
+    MessageBoxes& boxes_;
+};
+
+/// One message on its way: the texts that the steps work on.
+struct Composition {
+    const Services& services;
+    Shared& shared;
+    AskingErrors& errors;
+    Text& message;
+    Text& template_path;
+
+    bool style_block_found = false;
+    bool is_html = true; ///< the item has an HTML body
+    bool is_word_mail = false;
+    Text new_text = {}; ///< on a reply: what the user wrote
+    Text quoted = {};   ///< on a reply: the earlier message
+    Text signature_name = {};
+    Text template_text = {};
+    std::size_t marker = 0; ///< where the message goes in the template
+    Text result = {};
+    bool refused = false; ///< the template's script was: nothing else runs
+    bool log_usage = false;
+
+    const settings::Store& settings() const { return services.settings; }
+    bool is_on(const settings::Key& key) const { return settings::is_on(services.settings, key); }
+    Text read(const settings::Key& key) const { return settings::read(services.settings, key); }
+    /// What goes into the template: the user's text, on a reply without the earlier message.
+    Text& body() { return shared.reply ? new_text : message; }
+    bool takes_message() const { return marker != Text::npos; }
+};
+
+/// The path itself, or the first HTML file of the folder when there is no such file; an empty folder leaves
+/// the path.
+Text path_or_first_of(const Composition& c, const Text& path, const settings::Key& folder);
+
+/// Replaces every occurrence; the text is copied only when there is one. Throws TextTooLarge.
+void substitute(Text& text, TextView search, TextView replacement);
+
+// The steps, by the file that they stand in.
+
+void find_template(Composition& c);
+void write_before(Composition& c);
+void stamp_date(Composition& c);
+void wipe_out_HTML(Composition& c);
+void break_fonts(Composition& c);
+void remove_divisions(Composition& c);
+void end_divisions(Composition& c);
+void break_block_quotes(Composition& c);
+void write_after(Composition& c);
+void break_rules(Composition& c);
+
+void look_at_item(Composition& c);
+void read_Word_document(Composition& c);
+void link_addresses(Composition& c);
+void wrap_lines(Composition& c);
+void replace_tabs(Composition& c);
+void cut_reply(Composition& c);
+
+void choose_signature(Composition& c);
+void append_signature(Composition& c);
+void read_template(Composition& c);
+void ask_about_script(Composition& c);
+void find_marker(Composition& c);
+void insert_message(Composition& c);
+void break_reply_tags(Composition& c);
+void shrink_reply_font(Composition& c);
+void insert_reply(Composition& c);
+
+void fill_contact_fields(Composition& c);
+void log_usage(Composition& c);
+void merge_fields(Composition& c);
+
+} // namespace ornavel::compose

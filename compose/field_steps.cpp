@@ -1,0 +1,87 @@
+#include "compose/composition.h"
+#include "compose/dates.h"
+#include "compose/merge.h"
+
+// What fills the composed body: the contact it is written to, the recipient, and the signature fields.
+
+namespace ornavel::compose {
+namespace {
+
+using namespace settings;
+
+struct ContactValues {
+    Text name, company, folder, id, folder_id;
+};
+
+/// The part of a message that a contact's note shows. A long one is cut by the subject's length as well, and
+/// a short one not at all: odd, and kept.
+Text noted_text(const Text& subject, Text body) {
+    Text text = replace_all(body, line_end, u" ");
+    const std::size_t length = subject.size() + text.size();
+    return length < 85 ? text : text.substr(0, length - 85);
+}
+
+void note_in(const Composition& c, const host::Contact& contact) {
+    const Text subject = c.shared.item.subject();
+    const Text note = u"[" + note_moment(c.services.clock.now()) + u"] " + subject + u": " +
+                      noted_text(subject, c.shared.item.body()) + u"\r\n";
+    contact.set_body(note + contact.body());
+    contact.close_saving();
+}
+
+ContactValues contact_values(const Composition& c) {
+    const host::Links links = c.shared.item.links();
+    if (links.count() <= 0)
+        return {c.shared.item.subject(),
+                c.message.substr(0, 50),
+                u"Mail not created from a contact item",
+                {},
+                {}};
+    const host::Contact contact = links.contact(1);
+    const host::Folder folder = contact.parent();
+    const ContactValues values{contact.full_name(), contact.company_name(), folder.name(), contact.entry_id(),
+                               folder.entry_id()};
+    if (c.is_on(user::LogContactNotes)) note_in(c, contact);
+    return values;
+}
+
+void fill_recipient(Composition& c) {
+    const Text placeholder = u"[#" + c.shared.usage_log.recipient_field + u"#]";
+    if (!contains(c.result, placeholder)) return;
+    substitute(c.result, placeholder, c.shared.item.recipients().item(1).address());
+}
+
+} // namespace
+
+void fill_contact_fields(Composition& c) {
+    if (c.shared.script_check_suppressed || c.read(admin::Marketing) != u"Enterprise") return;
+    c.log_usage = false;
+    const ContactValues values = contact_values(c);
+    const Text address = c.read(admin::SigEmail);
+    const Pass passes[] = {
+        {u"[#ContactName#]", values.name},          {u"[#ContactCompanyName#]", values.company},
+        {u"[#ContactFolder#]", values.folder},      {u"[#ContactID#]", values.id},
+        {u"[#ContactFolderID#]", values.folder_id}, {u"[#SigEmail#]", address},
+    };
+    Text text = c.result;
+    if (Passes(passes).apply(text) < std::size(passes)) throw TextTooLarge();
+    c.result = std::move(text);
+}
+
+void log_usage(Composition& c) {
+    if (c.shared.script_check_suppressed || !c.log_usage) return;
+    fill_recipient(c);
+    const UsageLog& log = c.shared.usage_log;
+    if (log.connection_string.empty()) return;
+    const UsageRow row{log_moment(c.services.clock.now()), c.read(user::template_),
+                       sender_of(c.services.application)};
+    write_usage(log, row, c.shared.item.recipients(), c.services.objects);
+}
+
+void merge_fields(Composition& c) {
+    Merge::of_body(c.settings()).apply(c.result, [&] {
+        trap(c.errors, {u"CreateHTMLBody", u"CreateHTM_Err"}, [] { throw TextTooLarge(); });
+    });
+}
+
+} // namespace ornavel::compose

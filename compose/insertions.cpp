@@ -1,0 +1,80 @@
+#include "compose/insertions.h"
+
+#include "compose/dates.h"
+
+namespace ornavel::compose {
+namespace {
+
+using namespace settings;
+
+host::Appointments appointments_of(const host::Application& application, const LocalTime& day) {
+    const host::Appointments all = application.mapi().default_calendar().items();
+    all.sort(u"[Start]");
+    all.include_recurrences();
+    const Text today = filter_date(day);
+    return all.restrict(u"[Start] >= '" + today + u"' and [Start] < '" + today + u" 11:59 pm'");
+}
+
+/// Both comparisons must hold. The one of texts puts "01:00 PM" in front of "11:00 AM": kept deliberately.
+bool is_later(const LocalTime& start, const LocalTime& now) {
+    return start > now && sortable_moment(start) > sortable_moment(now);
+}
+
+constexpr long long first_quote = 15;
+
+/// The rest of the first line that begins with the number, after one separator.
+Text quote_numbered(std::span<const Text> lines, long long number) {
+    const Text digits = to_text(number);
+    for (const Text& line : lines)
+        if (line.starts_with(digits))
+            return line.size() > digits.size() ? line.substr(digits.size() + 1) : Text();
+    return {};
+}
+
+} // namespace
+
+Text next_appointment(const host::Application& application, const Clock& clock, ErrorSink& errors) noexcept {
+    Text answer;
+    trap(errors, {u"next_appointment", u"NextAppointment_Err"}, [&] {
+        const LocalTime now = clock.now();
+        const auto appointments = appointments_of(application, now);
+        for (auto appointment = appointments.first(); appointment; appointment = appointments.next()) {
+            const LocalTime start = appointment.start();
+            if (!is_later(start, now)) continue;
+            answer = appointment.subject() + u" at " + short_clock_time(start);
+            return;
+        }
+    });
+    return answer;
+}
+
+void GetNextQuote(Store& settings, const Files& files, ErrorSink& errors) noexcept {
+    trap(errors, {u"GetNextQuote", u"GetNextQuote_Err"}, [&] {
+        const long long number =
+            std::max<long long>(numeric_value(read(settings, system::LastTipNumber)), first_quote);
+        const auto lines = lines_of(read_text(files, read(settings, admin::TipsFileLocation)));
+        const bool wraps = number > static_cast<long long>(lines.size()) - 1;
+        // A wrap-around carries no quote and goes on with 16, not 15: deliberate.
+        save(settings, system::LastTipNumber, to_text(wraps ? first_quote + 1 : number + 1));
+        save(settings, user::SendQuoteString, wraps ? Text() : quote_numbered(lines, number));
+    });
+}
+
+Text boilerplate_text(const Store& settings, const Files& files, TextView name, ErrorSink& errors) noexcept {
+    Text text;
+    if (name.empty() || name == u"None") return text;
+    trap(errors, {u"boilerplate_text", u"Boilerplate_Err"}, [&] {
+        // The forward slash is deliberate.
+        const Text path = read(settings, admin::HTMFilesPath) + u"/" + Text(name);
+        text = u"<BR>" + read_lines(files, path, u"<BR>") + u"<BR>";
+    });
+    return text;
+}
+
+Text template_base_name(TextView file_name) {
+    const auto end = file_name.find(u"_template");
+    if (end == TextView::npos) throw Failure(u"Invalid procedure call or argument");
+    return Text(file_name.substr(0, end));
+}
+
+} // namespace ornavel::compose

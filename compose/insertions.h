@@ -1,0 +1,27 @@
+#pragma once
+
+#include "base/clock.h"
+#include "base/errors.h"
+#include "base/files.h"
+#include "host/application.h"
+#include "settings/store.h"
+
+namespace ornavel::compose {
+
+/// The next of today's appointments, as "Review at 4:00 PM"; empty when there is none. A calendar that can't
+/// be read counts as empty and is written to the error log.
+Text next_appointment(const host::Application& application, const Clock& clock, ErrorSink& errors) noexcept;
+
+/// Takes the next quote of the tips file in turn and stores it in the setting "SendQuoteString". A file that
+/// can't be read is written to the error log and leaves the settings as they are.
+void GetNextQuote(settings::Store& settings, const Files& files, ErrorSink& errors) noexcept;
+
+/// A boilerplate as HTML; empty for no name and for "None". One that can't be read is written to the error
+/// log and empty.
+Text boilerplate_text(const settings::Store& settings, const Files& files, TextView name,
+                      ErrorSink& errors) noexcept;
+
+/// The part of a file name before "_template". Throws Failure when there is none.
+Text template_base_name(TextView file_name);
+
+} // namespace ornavel::compose

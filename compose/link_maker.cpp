@@ -1,0 +1,154 @@
+#include "base/errors.h"
+#include "base/find.h"
+#include "compose/filters.h"
+#include "compose/word_list.h"
+
+#include <algorithm>
+#include <array>
+
+// Addresses in a plain text become links. By the rule, each distinct word (from a prefix up to a terminator)
+// is replaced throughout the text, in order of first appearance, inside links that were made before as well.
+// No word holds a terminator, so that a stretch between two terminators becomes what it becomes whatever
+// stands around it: the stretches are settled one by one, and nearly all hold one word that no other word
+// meddles with.
+
+namespace ornavel::compose {
+namespace {
+
+constexpr TextView terminators = u" \r\t)?,:;!";
+
+constexpr auto ends_word = [] {
+    std::array<bool, 64> ends{};
+    for (const char16_t unit : terminators) ends[unit] = true;
+    return ends;
+}();
+
+constexpr bool ends_stem(char16_t unit) { return unit == u'"' || unit == u'<'; }
+
+std::size_t end_of_word(TextView text, std::size_t at) {
+    while (at < text.size() && (text[at] >= ends_word.size() || !ends_word[text[at]])) ++at;
+    return at;
+}
+
+void append_link(Text& text, TextView word) {
+    text.append(u"<a href=\"http://").append(word).append(u"\">").append(word).append(u"</a>");
+}
+
+class LinkMaker {
+public:
+    LinkMaker(TextView text, TextView prefix) : text_(text), prefix_(prefix), words_(0), stems_(0) {}
+
+    Text run() {
+        find_stretches();
+        collect_words();
+        return rewrite();
+    }
+
+private:
+    /// From the first prefix up to a terminator.
+    struct Stretch {
+        std::size_t begin, end;
+        bool single; ///< with no second prefix in it
+    };
+
+    void find_stretches() {
+        auto at = find_text(text_, prefix_);
+        while (at != TextView::npos) {
+            const std::size_t end = end_of_word(text_, at + prefix_.size());
+            const std::size_t begin = at;
+            at = find_text(text_, prefix_, at + prefix_.size());
+            const bool single = at >= end;
+            stretches_.push_back({begin, end, single});
+            while (at < end) {
+                ++inner_words_;
+                at = find_text(text_, prefix_, at + prefix_.size());
+            }
+        }
+    }
+
+    template <typename Take>
+    void each_word(const Stretch& stretch, const Take& take) const {
+        const TextView whole = text_.substr(0, stretch.end);
+        for (auto at = stretch.begin; at != TextView::npos;) {
+            take(whole.substr(at));
+            at = stretch.single ? TextView::npos : find_text(whole, prefix_, at + prefix_.size());
+        }
+    }
+
+    void collect_words() {
+        words_ = WordList(stretches_.size() + inner_words_);
+        std::size_t stems = 0;
+        for (const Stretch& stretch : stretches_)
+            each_word(stretch, [&](TextView word) {
+                words_.add(word);
+                stems += static_cast<std::size_t>(std::ranges::count_if(word, ends_stem));
+            });
+        if (stems == 0) return;
+        stems_ = WordList(stems);
+        for (std::uint32_t i = 0; i < words_.size(); ++i)
+            for (std::size_t at = prefix_.size(); at < words_[i].size(); ++at)
+                if (ends_stem(words_[i][at])) stems_.add(words_[i].substr(0, at));
+    }
+
+    /// Whether the word's link is all that becomes of it: no other word stands in it, nor in `word">word</a>`
+    /// once the link is made.
+    bool stands_alone(const Stretch& stretch) const {
+        const TextView word = text_.substr(stretch.begin, stretch.end - stretch.begin);
+        return stretch.single && !words_.is_begun_by_another(word) &&
+               (stems_.size() == 0 || stems_.find(word) == WordList::none);
+    }
+
+    Text rewrite() const {
+        Text result;
+        result.reserve(expected_size());
+        std::size_t done = 0;
+        for (const Stretch& stretch : stretches_) {
+            result.append(text_.substr(done, stretch.begin - done));
+            done = stretch.end;
+            const TextView word = text_.substr(stretch.begin, done - stretch.begin);
+            if (stands_alone(stretch))
+                append_link(result, word);
+            else
+                result.append(linked_in_order(Text(word)));
+            if (result.size() > largest_text) throw TextTooLarge();
+        }
+        return result.append(text_.substr(done));
+    }
+
+    std::size_t expected_size() const {
+        std::size_t size = text_.size();
+        for (const Stretch& stretch : stretches_) size += stretch.end - stretch.begin + 24;
+        return std::min(size, largest_text);
+    }
+
+    /// By the rule to the letter: word after word, each in the result of the one before.
+    Text linked_in_order(Text stretch) const {
+        for (auto number = next_word(stretch, 0); number != WordList::none;
+             number = next_word(stretch, number + 1)) {
+            Text link;
+            append_link(link, words_[number]);
+            stretch = replace_all(stretch, words_[number], link);
+        }
+        return stretch;
+    }
+
+    std::uint32_t next_word(TextView stretch, std::uint32_t from) const {
+        std::uint32_t next = WordList::none;
+        for (auto at = find_text(stretch, prefix_); at != TextView::npos && next != from;
+             at = find_text(stretch, prefix_, at + 1))
+            next = std::min(next, words_.first_beginning(stretch.substr(at), from));
+        return next;
+    }
+
+    TextView text_, prefix_;
+    std::vector<Stretch> stretches_;
+    std::size_t inner_words_ = 0;
+    WordList words_;
+    WordList stems_; ///< what stands in a word in front of a unit that follows a word in its link
+};
+
+} // namespace
+
+Text with_links(TextView text, TextView prefix) { return LinkMaker(text, prefix).run(); }
+
+} // namespace ornavel::compose

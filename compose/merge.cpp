@@ -1,0 +1,76 @@
+#include "compose/merge.h"
+
+#include "compose/merge_rows.h"
+
+#include <algorithm>
+
+namespace ornavel::compose {
+
+using namespace settings;
+
+Merge Merge::of_body(const Store& settings) {
+    Merge merge(settings);
+    merge.add_group(user_codes());
+    merge.add_group(signature_fields());
+    merge.add_group(converted_breaks());
+    merge.add_group(background_colour());
+    return merge;
+}
+
+Merge Merge::of_signature_file(const Store& settings) {
+    Merge merge(settings);
+    merge.add_group(signature_file_fields());
+    merge.add_group(user_codes());
+    return merge;
+}
+
+bool Merge::takes_part(const MergeBlock& block) const {
+    switch (block.when) {
+    case When::always:
+        return true;
+    case When::empty:
+        return read(settings_, *block.setting).empty();
+    case When::filled:
+        return !read(settings_, *block.setting).empty();
+    case When::on:
+        return is_on(settings_, *block.setting);
+    case When::off:
+        return !is_on(settings_, *block.setting);
+    }
+    return false;
+}
+
+TextView Merge::keep(Text text) { return texts_.emplace_back(std::move(text)); }
+
+void Merge::add_group(std::span<const MergeBlock> blocks) {
+    for (const MergeBlock& block : blocks) {
+        if (!takes_part(block)) continue;
+        for (const MergeRow& row : block.rows) {
+            const TextView search = row.search_value ? keep(read(settings_, *row.search_value)) : row.search;
+            const TextView replacement =
+                row.value ? keep(Text(row.replacement) + read(settings_, *row.value, row.fallback))
+                          : row.replacement;
+            passes_.push_back({search, replacement});
+        }
+    }
+    group_ends_.push_back(passes_.size());
+}
+
+void Merge::apply(Text& text, const std::function<void()>& failed) const {
+    for (std::size_t first = 0; first < passes_.size();) {
+        first += Passes(std::span(passes_).subspan(first)).apply(text);
+        if (first == passes_.size()) return;
+        failed();
+        first = *std::ranges::upper_bound(group_ends_, first);
+    }
+}
+
+void merge_signature_file(Text& text, const Store& settings, ErrorSink& errors) noexcept {
+    const Place place{u"merge_signature_file", u"Merge_Err"};
+    trap(errors, place, [&] {
+        Merge::of_signature_file(settings).apply(text,
+                                                 [&] { trap(errors, place, [] { throw TextTooLarge(); }); });
+    });
+}
+
+} // namespace ornavel::compose

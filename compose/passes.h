@@ -1,0 +1,68 @@
+#pragma once
+
+#include "base/find.h"
+
+#include <array>
+#include <bitset>
+#include <cstdint>
+#include <optional>
+#include <span>
+
+namespace ornavel::compose {
+
+/// Every occurrence of a text is replaced, from the first unit on. Both texts outlive the passes made of
+/// them.
+struct Pass {
+    TextView search;
+    TextView replacement;
+};
+
+/// Ordered replace-all passes over a text, each working on the result of the one before. A pass with an
+/// empty search text changes nothing.
+class Passes {
+public:
+    explicit Passes(std::span<const Pass> ordered);
+
+    /// Changes the text as the passes do, one after the other, mostly in one scan of it. Gives back how many
+    /// were made: fewer than there are when the next would let the text grow beyond largest_text, and then
+    /// the text is as it stood before that one.
+    std::size_t apply(Text& text) const;
+
+    /// The same by walking the whole text once for each pass.
+    std::size_t apply_in_order(Text& text) const;
+
+private:
+    friend class OneScan;
+
+    /// A set of kinds of fields, one bit each. Fields of one kind share a bit, and a few kinds may.
+    using FieldKinds = std::uint64_t;
+    static constexpr FieldKinds no_field = FieldKinds{1} << 63;
+
+    struct Row {
+        TextView search;
+        TextView replacement;
+        FieldKinds kind;
+    };
+
+    /// What the passes left alone at both ends of a text, and how long it was at its longest.
+    struct Trace {
+        std::size_t left, right, longest;
+    };
+
+    static FieldKinds kind_at_front(TextView text);
+    static FieldKinds kind_of(TextView search);
+    FieldKinds kinds_in(TextView text) const;
+
+    void add_pair(TextView search);
+    std::size_t make(Text& text, Text& spare, Trace& trace) const;
+    static bool replace(Text& text, Text& spare, const Row& row, std::size_t first, Trace& trace);
+
+    std::vector<Row> rows_;
+    std::vector<TextView> without_field_;
+    std::vector<Pair> pairs_;
+    std::bitset<0x10000> living_; ///< the units that occur in a search text; any other unit is a barrier
+    FieldKinds kinds_ = 0;
+    std::size_t longest_ = 0;
+};
+
+} // namespace ornavel::compose

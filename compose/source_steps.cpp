@@ -1,0 +1,83 @@
+#include "base/find.h"
+#include "compose/composition.h"
+#include "compose/filters.h"
+
+// Where the text comes from: the item's HTML, Word's document, or plain text; and on a reply, where it ends.
+
+namespace ornavel::compose {
+namespace {
+
+/// Word's number of the format to save in, or nothing for a version that saves in none.
+std::optional<int> format_for(TextView version) {
+    if (version.starts_with(u"9")) return 8;
+    if (version.starts_with(u"10") || version.starts_with(u"8")) return 10;
+    return {};
+}
+
+bool is_plain(const Composition& c) { return !c.is_html && !c.is_word_mail; }
+
+void split_at(Composition& c, TextView text, std::size_t marker) {
+    const std::int64_t position = static_cast<std::int64_t>(marker) + 1;
+    const std::int64_t kept = position - numeric_value(c.shared.reply_search_value);
+    const std::int64_t quoted_from = position + numeric_value(c.shared.reply_insert_value) - 1;
+    if (kept < 0) throw Failure(u"Invalid procedure call or argument");
+    c.new_text = text.substr(0, static_cast<std::size_t>(kept));
+    if (quoted_from < static_cast<std::int64_t>(text.size()))
+        c.quoted = text.substr(static_cast<std::size_t>(quoted_from));
+}
+
+void cut_at_marker(Composition& c) {
+    const Text& sought = c.shared.reply_marker;
+    const auto marker = find_text(c.message, sought);
+    if (marker != Text::npos) return split_at(c, c.message, marker);
+    const Text html = c.shared.item.html_body();
+    const auto in_html = find_text(html, sought);
+    if (in_html != Text::npos) return split_at(c, html, in_html);
+    c.new_text = c.message;
+}
+
+} // namespace
+
+void look_at_item(Composition& c) {
+    c.is_html = !c.shared.item.html_body().empty();
+    if (!c.is_html) c.is_word_mail = c.shared.item.inspector().is_word_mail();
+}
+
+void read_Word_document(Composition& c) {
+    if (!c.is_word_mail) return;
+    const Text path = c.shared.application_path + u"\\GetMyHtml.htm";
+    const host::WordDocument document = c.shared.item.inspector().word_editor();
+    document.copy_content_to_clipboard();
+    // A version that saves in no format leaves no file, and reading it fails into this step's trap.
+    if (const auto format = format_for(document.word_version())) document.save_as(path, *format);
+    Text text = read_lines(c.services.files, path, u" ");
+    break_image_tags(text);
+    c.message = std::move(text);
+    c.services.files.remove(path);
+}
+
+void link_addresses(Composition& c) {
+    constexpr TextView prefix = u"www.";
+    if (is_plain(c) && contains(c.message, prefix)) c.message = with_links(c.message, prefix);
+}
+
+void wrap_lines(Composition& c) {
+    if (is_plain(c)) c.message = lines_as_divisions(c.message);
+}
+
+void replace_tabs(Composition& c) {
+    if (is_plain(c)) c.message = without_tabs(c.message);
+}
+
+void cut_reply(Composition& c) {
+    if (!c.shared.reply) return;
+    const Text label = u"parsing error - reply - length of the message is " +
+                       to_text(static_cast<long long>(c.message.size())) +
+                       (c.is_html ? u" - CreateHTMLBody- error Reply state parsing - myMessageReply_err"
+                                  : u" - myMessageReplyFormatFalse_err");
+    if (trap(c.errors, {label, u""}, [&] { cut_at_marker(c); })) return;
+    c.new_text = c.message;
+    c.quoted.clear();
+}
+
+} // namespace ornavel::compose

@@ -1,0 +1,19 @@
+#include "base/find.h"
+#include "compose/filters.h"
+
+// "<style>p { color: red }</style>" becomes "<STYLE></STYLE>": what the mail client's editor wrote for its
+// own page would restyle the template.
+
+namespace ornavel::compose {
+
+bool empty_style_block(Text& text) {
+    constexpr TextView closing = u"</style>";
+    const auto begin = find_in_either_case(text, u"<style>");
+    if (begin == Text::npos) return false;
+    const auto end = find_in_either_case(text, closing, begin);
+    if (end == Text::npos) return false;
+    text.replace(begin, end + closing.size() - begin, u"<STYLE></STYLE>");
+    return true;
+}
+
+} // namespace ornavel::compose
