@@ -38,6 +38,7 @@ Verdict already_tagged(Send& send);
 Verdict wrap_item(Send& send);
 Verdict message_class(Send& send);
 Verdict system_check_switch(Send& send);
+Verdict next_quote(Send& send);
 Verdict copy_subject(Send& send);
 Verdict clear_answers(Send& send);
 Verdict send_as_is(Send& send);

@@ -1,5 +1,7 @@
 #include "connect/gates.h"
 
+#include "compose/insertions.h"
+
 namespace ornavel::connect {
 
 using namespace settings;
@@ -47,6 +49,12 @@ Verdict message_class(Send& send) {
 
 Verdict system_check_switch(Send& send) {
     send.system_check = is_on(send.settings(), system::SystemCheck);
+    return Verdict::next;
+}
+
+Verdict next_quote(Send& send) {
+    if (!is_on(send.settings(), user::SendQuote)) return Verdict::off;
+    compose::GetNextQuote(send.settings(), send.session.platform.files, send.session.errors);
     return Verdict::next;
 }
 

@@ -26,6 +26,7 @@ constexpr Gate gates[] = {
     {u"resend from Sent Items", resend_from_sent_items, {}},
     {u"system check switch", system_check_switch, {u"Fired OK"}}, // from here on the gates leave records
     {u"message class again", message_class, {u"Message Class - IPM.Note", u"HTML Body check OK"}},
+    {u"quote", next_quote, {u"Quote check OK"}},
     {u"subject", copy_subject, {u"Subject OK"}},
     {u"personal stationery", personal_stationery, {u"Wipeout Personal Stationery OK"}},
     {u"reply marker", load_reply_marker, {}},

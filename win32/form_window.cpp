@@ -55,9 +55,11 @@ private:
 
 FormWindow::FormWindow(forms::Form& form, HWND owner)
     : form_(form), font_(dialog_font(scale_)), window_(create_dialog(form, owner, procedure, this)) {
+    if (form_.centred) centre();
+    // Before there are tool tips: under Wine a window that owns another one never becomes topmost.
+    show_frame();
     tips_.emplace(window_);
     create_controls();
-    if (form_.centred) centre();
     refresh();
     refreshing_ = false;
 }
@@ -154,28 +156,24 @@ void FormWindow::on_command(int id, int notification) {
 }
 
 void FormWindow::on_notification(const ControlWindow& control, int notification) {
-    step([&](FormUser user) {
-        const Text& name = control.name();
-        switch (form_[name].kind) {
-        case Kind::command_button:
-            if (notification == BN_CLICKED) user.click(name);
-            break;
-        case Kind::check_box:
-            if (notification == BN_CLICKED) user.tick(name, control.is_ticked());
-            break;
-        case Kind::text_box:
-            if (notification == EN_CHANGE) user.set_text(name, control.text());
-            break;
-        case Kind::combo_box:
-            if (notification == CBN_DROPDOWN) user.drop_down(name);
-            if (notification == CBN_SELCHANGE) user.select(name, control.chosen_entry());
-            if (notification == CBN_EDITCHANGE) user.set_text(name, control.text());
-            break;
-        default:
-            if (notification == STN_CLICKED) user.click(name);
-            if (notification == STN_DBLCLK) user.double_click(name);
-        }
-    });
+    const Text& name = control.name();
+    const Kind kind = form_[name].kind;
+    // Other notifications change nothing that the form knows, and some come before the change they tell of.
+    const auto told = [&](Kind sender, int wanted) { return kind == sender && notification == wanted; };
+    if (told(Kind::command_button, BN_CLICKED))
+        step([&](FormUser user) { user.click(name); });
+    else if (told(Kind::check_box, BN_CLICKED))
+        step([&](FormUser user) { user.tick(name, control.is_ticked()); });
+    else if (told(Kind::text_box, EN_CHANGE) || told(Kind::combo_box, CBN_EDITCHANGE))
+        step([&](FormUser user) { user.set_text(name, control.text()); });
+    else if (told(Kind::combo_box, CBN_DROPDOWN))
+        step([&](FormUser user) { user.drop_down(name); });
+    else if (told(Kind::combo_box, CBN_SELCHANGE))
+        step([&](FormUser user) { user.select(name, control.chosen_entry()); });
+    else if (told(Kind::label, STN_CLICKED) || told(Kind::image, STN_CLICKED))
+        step([&](FormUser user) { user.click(name); });
+    else if (told(Kind::label, STN_DBLCLK) || told(Kind::image, STN_DBLCLK))
+        step([&](FormUser user) { user.double_click(name); });
 }
 
 /// Presses the button that stands for Escape; a form without one is closed by its frame.
