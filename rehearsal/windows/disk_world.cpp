@@ -82,6 +82,15 @@ void DiskWorld::clear() const {
         if (!own_folders_.contains(*folder)) RemoveDirectoryW(win32::wide(*folder).c_str());
 }
 
+void DiskWorld::remove_folder(TextView path) const {
+    Listing listing;
+    list_below(Text(path), listing);
+    for (const auto& [file, stamp] : listing.files) DeleteFileW(win32::wide(file).c_str());
+    for (auto folder = listing.folders.rbegin(); folder != listing.folders.rend(); ++folder)
+        RemoveDirectoryW(win32::wide(*folder).c_str());
+    if (!RemoveDirectoryW(win32::wide(path).c_str())) throw Failure(u"Path not found");
+}
+
 void DiskWorld::add_to(Snapshot& snapshot) const {
     const Listing now = list_drive();
     const win32::WindowsFiles files;

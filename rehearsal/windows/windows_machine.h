@@ -19,6 +19,7 @@ public:
     Snapshot snapshot() const override;
     Files& files() override { return files_; }
     Registry& registry() override { return registry_; }
+    void remove_folder(TextView path) override { disk_.remove_folder(path); }
     void change_settings(const SettingsTree& settings) override;
     void set_clock(const LocalTime&) override { throw Unusable("clock: native only"); }
     bool tray(const Act&) override { return false; }
