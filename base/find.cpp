@@ -85,7 +85,7 @@ std::size_t find_wide(TextView text, std::size_t from, std::span<const Pair> pai
                          wide(pairs[i].second_fold)};
     const auto found = pairs.size() == 1 ? find_in_blocks<1>(text, from, wide_pairs.data(), 1)
                                          : find_in_blocks<0>(text, from, wide_pairs.data(), pairs.size());
-    return found != nowhere ? found : find_one_by_one(text, std::max(from, text.size() - 1), pairs);
+    return found != nowhere ? found : find_one_by_one(text, text.size() - 1, pairs);
 }
 
 #pragma GCC pop_options
