@@ -49,7 +49,7 @@ void Connect::OnStartupComplete() noexcept {
     prepare_environment(session);
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
-    Get_Marketing_Info(session);
+    attempt([&] { session.shared.usage_log = compose::Get_Marketing_Info(session.platform.settings); });
     session.dialog_answer = true;
     session.language = u"English";
 }

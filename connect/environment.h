@@ -9,6 +9,5 @@ struct Session;
 inline void prepare_environment(Session&) noexcept {}
 inline void write_signature_files(Session&) noexcept {}
 inline void reset_host_signatures(Session&) noexcept {}
-inline void Get_Marketing_Info(Session&) noexcept {}
 
 } // namespace ornavel::connect

@@ -32,11 +32,16 @@ void FormUser::double_click(TextView name) {
     form_.fire(name, Event::double_click);
 }
 
+void FormUser::drop_down(TextView name) {
+    reach(name, Kind::combo_box);
+    form_.fire(name, Event::drop_down);
+}
+
 void FormUser::set_text(TextView name, TextView text) {
     Control& control = reach(name);
     if (control.kind == Kind::combo_box) {
         // Lists that are filled only when the user opens them must be full before the entry is looked for.
-        form_.fire(name, Event::drop_down);
+        drop_down(name);
         control.choose(text);
         form_.fire(name, control.index < 0 ? Event::change : Event::click);
         return;
@@ -48,7 +53,7 @@ void FormUser::set_text(TextView name, TextView text) {
 
 void FormUser::select(TextView name, int index) {
     Control& control = reach(name, Kind::combo_box);
-    form_.fire(name, Event::drop_down);
+    drop_down(name);
     if (index < 0 || static_cast<std::size_t>(index) >= control.items.size())
         throw UnusableStep(control.name + u" has no entry " + to_text(index));
     control.select(index);

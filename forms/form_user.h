@@ -19,6 +19,8 @@ public:
     /// A click on a check box turns its tick round.
     void click(TextView control);
     void double_click(TextView control);
+    /// Opens the list of a combo box.
+    void drop_down(TextView control);
     /// In a combo box, chooses the entry that reads so; where there is none, and in a text box, types the
     /// text.
     void set_text(TextView control, TextView text);

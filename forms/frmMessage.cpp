@@ -48,20 +48,20 @@ constexpr Mode modes[] = {
 
 std::vector<Control> designed_controls() {
     return {
-        {.kind = Kind::label, .name = Text(lblMessage), .place = {240, 240, 5520, 1005}},
+        {.kind = Kind::label, .name = Text(lblMessage), .place = {240, 240, 5520, 810}},
         {.kind = Kind::command_button,
          .name = Text(cmdYes),
-         .place = {735, 1410, 2475, 375},
+         .place = {735, 1200, 2475, 375},
          .visible = false,
          .is_default = true},
         {.kind = Kind::command_button,
          .name = Text(cmdNo),
-         .place = {3330, 1410, 2475, 375},
+         .place = {3330, 1200, 2475, 375},
          .visible = false,
          .is_cancel = true},
         {.kind = Kind::command_button,
          .name = Text(cmdOK),
-         .place = {4590, 1410, 1215, 375},
+         .place = {4590, 1200, 1215, 375},
          .tag = u"5014",
          .is_default = true,
          .is_cancel = true},
@@ -90,7 +90,7 @@ void apply(const Mode& mode, Form& form, const StringTable& table) {
 
 frmMessage::frmMessage(PromptValues& shared, const StringTable& table)
     : shared_(shared), table_(table),
-      form_({.name = u"frmMessage", .place = {0, 0, 6135, 2475}, .caption = u"Ornavel"},
+      form_({.name = u"frmMessage", .place = {0, 0, 6135, 2265}, .caption = u"Ornavel"},
             designed_controls()) {
     form_.on_load = [this] { Form_Load(); };
     form_.on(cmdYes, Event::click, [this] { cmdYes_Click(); });

@@ -11,6 +11,7 @@ enum class Deed {
     put,
     call,
     event,
+    gate, ///< that a send reached; the value says whether it "passed" or "left"
     read_setting,
     save_setting,
     read_file,

@@ -30,6 +30,12 @@ private:
 
 constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
+/// The parser's message without its own name for it, "[json.…] ".
+std::string without_label(const std::string& message) {
+    const auto end = message.find("] ");
+    return message.starts_with('[') && end != std::string::npos ? message.substr(end + 2) : message;
+}
+
 int days_of_month(int year, int month) {
     if (month == 2) return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0 ? 29 : 28;
     return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
@@ -57,7 +63,7 @@ Json parse_json(const std::string& text, const std::string& source) {
             return true;
         });
     } catch (const Json::exception& error) {
-        throw Unusable(source + ": " + error.what());
+        throw Unusable(source + ": " + without_label(error.what()));
     }
 }
 

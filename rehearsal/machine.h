@@ -48,6 +48,8 @@ public:
     /// The mail client's own files: uses are not the add-in's.
     virtual Files& files() = 0;
     virtual Registry& registry() = 0;
+    /// With everything in it.
+    virtual void remove_folder(TextView path) = 0;
 
     virtual void change_settings(const SettingsTree& settings) = 0;
     virtual void set_clock(const LocalTime& time) = 0;

@@ -58,7 +58,7 @@ Loaded load(const std::string& file, Binding binding) {
 
 Json play(const Loaded& loaded, Binding binding) {
     if (binding == Binding::native) return play_natively(loaded.scenario, loaded.file);
-    return play_under_wine(with_files_inside(loaded.json, loaded.scenario), loaded.file);
+    return play_under_wine(loaded.json, loaded.scenario, loaded.file);
 }
 
 /// Whether the add-in let nothing out and did what is expected. Says on the error stream what it did not.

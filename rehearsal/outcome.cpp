@@ -139,4 +139,16 @@ Json write_outcome(const Scenario& scenario, const Player& player, MailClient& c
     };
 }
 
+Json crash_outcome(const Text& name, const std::string& error) {
+    Json json{{"name", to_json(name)}};
+    for (const char* list_member : {"acts", "items", "windows", "toolbar", "pages", "launched", "statements",
+                                    "connections", "mails", "browser"})
+        json[list_member] = Json::array();
+    for (const char* object_member : {"settings", "files", "registry", "tray"})
+        json[object_member] = Json::object();
+    json["references"] = references_outcome({});
+    json["error"] = error;
+    return json;
+}
+
 } // namespace ornavel::rehearsal

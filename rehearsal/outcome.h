@@ -9,6 +9,9 @@ namespace ornavel::rehearsal {
 Json write_outcome(const Scenario& scenario, const Player& player, MailClient& client, const Machine& machine,
                    const Snapshot& before);
 
+/// The outcome of an add-in that took its process with it: nothing is known but that.
+Json crash_outcome(const Text& name, const std::string& error);
+
 /// What changed on the machine's disk and in its registry; null is what went.
 Json changed_files(const Snapshot& before, const Snapshot& after);
 Json changed_registry(const Snapshot& before, const Snapshot& after);

@@ -53,7 +53,7 @@ connect::Platform Machine::platform() {
 }
 
 HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {
-    return answer(wanted == IID_IUnknown || wanted == IID_IDispatch || wanted == IID_IDTExtensibility2,
+    return answer(wanted == IID_IUnknown || wanted == IID_IDispatch || wanted == win32::IID_IDTExtensibility2,
                   object);
 }
 

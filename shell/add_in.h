@@ -1,10 +1,10 @@
 #pragma once
 
 #include "connect/connect.h"
-#include "shell/extensibility.h"
 #include "shell/module.h"
 #include "win32/com.h"
 #include "win32/com_objects.h"
+#include "win32/extensibility.h"
 #include "win32/machine.h"
 #include "win32/registry_store.h"
 #include "win32/system_information.h"
@@ -29,7 +29,7 @@ private:
 };
 
 /// The class that the mail client creates. Whatever happens inside, its handlers answer S_OK.
-class AddIn final : public win32::Counted<IDTExtensibility2> {
+class AddIn final : public win32::Counted<win32::IDTExtensibility2> {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override;
 

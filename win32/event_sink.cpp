@@ -1,38 +1,13 @@
 #include "win32/event_sink.h"
 
 #include "win32/dispatch_object.h"
+#include "win32/events.h"
 #include "win32/values.h"
 
-#include <algorithm>
 #include <ocidl.h>
 
 namespace ornavel::win32 {
 namespace {
-
-struct Event {
-    host::EventSource source;
-    DISPID id;
-    TextView name;
-};
-
-constexpr Event events[] = {
-    {host::EventSource::application, 0xF002, u"ItemSend"},
-    {host::EventSource::application, 0xF005, u"OptionsPagesAdd"},
-    {host::EventSource::explorer, 0xF008, u"Close"},
-    {host::EventSource::button, 1, u"Click"},
-};
-
-/// The event interface of a source: the host's application and explorer, the command bars' button.
-constexpr IID event_interface(host::EventSource source) {
-    switch (source) {
-    case host::EventSource::application:
-        return {0x0006304E, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
-    case host::EventSource::explorer:
-        return {0x0006304F, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
-    default:
-        return {0x000C0351, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
-    }
-}
 
 /// The arguments in their order; automation passes the last one first.
 std::vector<host::Value> in_order(const DISPPARAMS& parameters) {
@@ -82,13 +57,12 @@ public:
 
 private:
     void pass_on(DISPID id, const DISPPARAMS& parameters) {
-        const auto event = std::ranges::find_if(
-            events, [&](const Event& row) { return row.source == source_ && row.id == id; });
+        const auto name = event_name(source_, id);
         // The handler may drop its subscription, and this sink with it.
         const auto handler = handler_;
-        if (event == std::end(events) || !handler) return;
+        if (!name || !handler) return;
         auto values = in_order(parameters);
-        (*handler)(event->name, values);
+        (*handler)(*name, values);
         give_back_flags(parameters, values);
     }
 

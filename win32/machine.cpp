@@ -1,5 +1,6 @@
 #include "win32/machine.h"
 
+#include "win32/form_window.h"
 #include "win32/wide.h"
 
 #include <shellapi.h>
@@ -39,6 +40,11 @@ Answer DesktopWindows::show(TextView title, TextView text, Buttons buttons) {
         MessageBoxW(GetActiveWindow(), wide(text).c_str(), wide(title).c_str(), looks | MB_SETFOREGROUND);
     if (buttons == Buttons::ok) return Answer::ok;
     return button == IDYES ? Answer::yes : Answer::no;
+}
+
+void DesktopWindows::show_modal(forms::Form& form) {
+    form.load();
+    if (form.is_loaded()) show_form_modally(form);
 }
 
 std::optional<Text> ResourceStrings::find(int id) const {

@@ -24,6 +24,7 @@ public:
 class DesktopWindows final : public forms::Windows {
 public:
     Answer show(TextView title, TextView text, Buttons buttons) override;
+    void show_modal(forms::Form& form) override;
 };
 
 /// The numbered texts in a module's resources.

@@ -2,6 +2,8 @@
 
 #include "win32/dispatch_object.h"
 
+#include <limits>
+
 namespace ornavel::win32 {
 namespace {
 
@@ -62,11 +64,9 @@ Variant converted(Variant& from, VARTYPE type) {
     return result;
 }
 
-host::Value number(Variant& from) {
-    Variant whole;
-    if (SUCCEEDED(VariantChangeType(whole.address(), from.address(), 0, VT_I4)))
-        return static_cast<std::int32_t>(whole->lVal);
-    return converted(from, VT_R8)->dblVal;
+host::Value whole_number(double number) {
+    if (number > std::numeric_limits<std::int32_t>::max()) return number;
+    return static_cast<std::int32_t>(number);
 }
 
 } // namespace
@@ -90,7 +90,7 @@ host::Value to_value(VARIANT& from) {
     case VT_UI4:
     case VT_INT:
     case VT_UINT:
-        return number(value);
+        return whole_number(converted(value, VT_R8)->dblVal);
     case VT_R4:
     case VT_R8:
     case VT_CY:

@@ -1,5 +1,6 @@
 #include "rehearsal/model/application.h"
 
+#include "rehearsal/model/calendar.h"
 #include "rehearsal/model/handle.h"
 #include "rehearsal/model/mail_client.h"
 
@@ -70,7 +71,16 @@ Value current_user(const Call& call) {
     return call.client.hand_out(std::make_shared<RecipientNode>(std::move(user)));
 }
 
-constexpr MemberRow name_space_members[] = {method(u"CurrentUser", current_user)};
+Value default_folder(const Call& call) {
+    constexpr std::int32_t calendar = 9;
+    if (call.number(0) != calendar) throw host::Error(u"Could not complete the operation.");
+    return fresh<CalendarFolderNode>(call);
+}
+
+constexpr MemberRow name_space_members[] = {
+    method(u"CurrentUser", current_user),
+    method(u"GetDefaultFolder", default_folder, 1, 1),
+};
 
 Value add_page(const Call& call) {
     node_of(call.arguments[0]);

@@ -2,6 +2,7 @@
 
 #include "rehearsal/model/handle.h"
 #include "rehearsal/model/mail_client.h"
+#include "rehearsal/model/word.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -74,7 +75,14 @@ constexpr MemberRow safe_members[] = {{u"Item", wrapped, wrap}};
 
 MailItemNode& item_of(const Call& call) { return *call.as<InspectorNode>().item; }
 
+Value word_editor(const Call& call) {
+    const auto& item = call.as<InspectorNode>().item;
+    return item->is_word_mail ? call.client.hand_out(std::make_shared<DocumentNode>(item))
+                              : host::ObjectPtr();
+}
+
 constexpr MemberRow inspector_members[] = {
+    method(u"WordEditor", word_editor),
     method(u"EditorType", [](const Call& call) -> Value { return item_of(call).editor_type; }),
     method(u"CurrentItem",
            [](const Call& call) -> Value { return call.client.hand_out(call.as<InspectorNode>().item); }),

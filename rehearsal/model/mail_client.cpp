@@ -1,6 +1,8 @@
 #include "rehearsal/model/mail_client.h"
 
 #include "rehearsal/model/application.h"
+#include "rehearsal/model/browser.h"
+#include "rehearsal/model/file_system.h"
 #include "rehearsal/model/handle.h"
 #include "rehearsal/model/registry_provider.h"
 
@@ -25,6 +27,8 @@ constexpr Creatable creatables[] = {
     {u"Redemption.SafeMailItem", make<SafeMailItemNode>},
     {u"BrevantPage.PropPage", make<OptionsPageNode>},
     {u"ADODB.Connection", make<ConnectionNode>},
+    {u"InternetExplorer.Application", make<BrowserNode>},
+    {u"Scripting.FileSystemObject", make<FileSystemNode>},
 };
 
 bool is_there(const Host& host, TextView prog_id) {

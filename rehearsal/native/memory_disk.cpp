@@ -5,8 +5,9 @@
 namespace ornavel::rehearsal {
 namespace {
 
-TextView without_end(TextView folder) {
-    while (folder.ends_with(u'\\')) folder.remove_suffix(1);
+Text without_end(TextView path) {
+    Text folder = plain_path(path);
+    if (folder.ends_with(u'\\')) folder.pop_back();
     return folder;
 }
 
@@ -24,29 +25,40 @@ bool is_drive(TextView path) { return path.size() == 2 && path[1] == u':'; }
 
 } // namespace
 
+Text plain_path(TextView path) {
+    Text plain;
+    for (char16_t unit : path) {
+        if (unit == u'/') unit = u'\\';
+        const bool doubled = unit == u'\\' && plain.size() > 1 && plain.back() == u'\\';
+        if (!doubled) plain += unit;
+    }
+    return plain;
+}
+
 bool MemoryDisk::folder_exists(TextView path) const {
-    const auto folder = without_end(path);
+    const Text folder = without_end(path);
     return is_drive(folder) || folders_.contains(folder);
 }
 
 std::vector<Text> MemoryDisk::list(TextView folder) const {
     std::vector<Text> names;
+    const Text wanted = without_end(folder);
     for (const auto& [path, bytes] : files_)
-        if (same_name(parent_of(path), without_end(folder)))
-            names.push_back(path.substr(parent_of(path).size() + 1));
+        if (same_name(parent_of(path), wanted)) names.push_back(path.substr(parent_of(path).size() + 1));
     return names;
 }
 
 std::string MemoryDisk::read(TextView path) const {
-    const auto file = files_.find(path);
+    const auto file = files_.find(plain_path(path));
     if (file == files_.end()) throw Failure(u"File not found");
     return file->second;
 }
 
 std::string& MemoryDisk::open_for_writing(TextView path) {
-    if (folder_exists(path)) throw Failure(u"Path/File access error");
-    if (!folder_exists(parent_of(path))) throw Failure(u"Path not found");
-    return files_.try_emplace(Text(path)).first->second;
+    const Text plain = plain_path(path);
+    if (folder_exists(plain)) throw Failure(u"Path/File access error");
+    if (!folder_exists(parent_of(plain))) throw Failure(u"Path not found");
+    return files_.try_emplace(plain).first->second;
 }
 
 void MemoryDisk::write(TextView path, std::string_view bytes) { open_for_writing(path) = bytes; }
@@ -54,13 +66,13 @@ void MemoryDisk::write(TextView path, std::string_view bytes) { open_for_writing
 void MemoryDisk::append(TextView path, std::string_view bytes) { open_for_writing(path) += bytes; }
 
 void MemoryDisk::remove(TextView path) {
-    const auto file = files_.find(path);
+    const auto file = files_.find(plain_path(path));
     if (file == files_.end()) throw Failure(u"File not found");
     files_.erase(file);
 }
 
 void MemoryDisk::create_folder(TextView path) {
-    const auto folder = without_end(path);
+    const Text folder = without_end(path);
     if (folder.empty() || folder_exists(folder)) return;
     if (file_exists(folder)) throw Failure(u"Path/File access error");
     create_folder(parent_of(folder));
@@ -68,7 +80,7 @@ void MemoryDisk::create_folder(TextView path) {
 }
 
 void MemoryDisk::remove_folder(TextView path) {
-    const auto folder = without_end(path);
+    const Text folder = without_end(path);
     if (!folders_.contains(folder)) throw Failure(u"Path not found");
     std::erase_if(files_, [&](const auto& file) { return is_below(file.first, folder); });
     std::erase_if(folders_,
@@ -77,25 +89,25 @@ void MemoryDisk::remove_folder(TextView path) {
 
 std::string RehearsedDisk::read(TextView path) const {
     journal_.note(Deed::read_file, Text(path));
-    failures_.use(Failing::Kind::read_file, path);
+    failures_.use(Failing::Kind::read_file, plain_path(path));
     return disk_.read(path);
 }
 
 void RehearsedDisk::write(TextView path, std::string_view bytes) {
     journal_.note(Deed::write_file, Text(path));
-    failures_.use(Failing::Kind::write_file, path);
+    failures_.use(Failing::Kind::write_file, plain_path(path));
     disk_.write(path, bytes);
 }
 
 void RehearsedDisk::append(TextView path, std::string_view bytes) {
     journal_.note(Deed::write_file, Text(path));
-    failures_.use(Failing::Kind::write_file, path);
+    failures_.use(Failing::Kind::write_file, plain_path(path));
     disk_.append(path, bytes);
 }
 
 void RehearsedDisk::remove(TextView path) {
     journal_.note(Deed::delete_file, Text(path));
-    failures_.use(Failing::Kind::delete_file, path);
+    failures_.use(Failing::Kind::delete_file, plain_path(path));
     disk_.remove(path);
 }
 

@@ -6,10 +6,14 @@
 
 namespace ornavel::rehearsal {
 
+/// The path with single backslashes between its parts, as the system itself reads one with slashes or with
+/// doubled backslashes.
+Text plain_path(TextView path);
+
 /// A disk in memory: names compare without case and keep the case in which they were first written.
 class MemoryDisk final : public Files {
 public:
-    bool file_exists(TextView path) const override { return files_.contains(path); }
+    bool file_exists(TextView path) const override { return files_.contains(plain_path(path)); }
     bool folder_exists(TextView path) const override;
     std::vector<Text> list(TextView folder) const override;
     std::string read(TextView path) const override;

@@ -20,6 +20,7 @@ public:
     Snapshot snapshot() const override;
     Files& files() override { return disk_; }
     Registry& registry() override { return registry_; }
+    void remove_folder(TextView path) override { disk_.remove_folder(path); }
     void change_settings(const SettingsTree& settings) override;
     void set_clock(const LocalTime& time) override { now_ = time; }
     bool tray(const Act&) override { return false; }
@@ -28,8 +29,6 @@ public:
     Json launched() const override { return launched_; }
     Json windows() const override { return windows_; }
     Json tray_outcome() const override;
-
-    void remove_folder(TextView path) { disk_.remove_folder(path); }
 
     /// The parts that the add-in is given.
     settings::Store& addin_settings() { return rehearsed_settings_; }

@@ -2,8 +2,12 @@
 
 #include "connect/connect.h"
 #include "forms/string_table.h"
+#include "rehearsal/native/apart.h"
 #include "rehearsal/native/memory_machine.h"
 #include "rehearsal/outcome.h"
+
+#include <fstream>
+#include <iostream>
 
 namespace ornavel::rehearsal {
 namespace {
@@ -31,15 +35,31 @@ private:
     bool was_connected_ = false;
 };
 
+constexpr int played = 0, unusable = 2;
+
+int play_into(const std::string& file, const Scenario& scenario, const std::string& source) {
+    std::ofstream stream(file, std::ios::binary);
+    Journal journal;
+    try {
+        stream << to_json_text(play_here(scenario, source, journal));
+    } catch (const Unusable& error) {
+        stream << error.what();
+        return unusable;
+    }
+    return played;
+}
+
 } // namespace
 
-Json play_natively(const Scenario& scenario, const std::string& source) {
+Json play_here(const Scenario& scenario, const std::string& source, Journal& journal) {
     Failures failures(scenario.fail);
-    Journal journal;
     MemoryMachine machine(scenario, source, failures, journal);
     machine.prepare(scenario);
     const Snapshot before = machine.snapshot();
     MailClient client(scenario, machine, failures, journal);
+    const auto on_gate = [&](TextView gate, bool passed) {
+        journal.note(Deed::gate, Text(gate), passed ? u"passed" : u"left");
+    };
     NativeAddIn addin(connect::Platform{.settings = machine.addin_settings(),
                                         .files = machine.addin_files(),
                                         .clock = machine.addin_clock(),
@@ -48,10 +68,19 @@ Json play_natively(const Scenario& scenario, const std::string& source) {
                                         .windows = machine.addin_windows(),
                                         .strings = forms::built_in_strings(),
                                         .machine = machine.addin_machine(),
-                                        .addin_folder = scenario.computer.addin_folder});
+                                        .addin_folder = scenario.computer.addin_folder,
+                                        .on_gate = on_gate});
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);
+}
+
+Json play_natively(const Scenario& scenario, const std::string& source) {
+    const ScratchFolder scratch;
+    const std::string out = scratch / "outcome.json";
+    std::cout.flush();
+    const int code = run_apart([&] { return play_into(out, scenario, source); });
+    return collect_outcome(code, out, scenario, source);
 }
 
 } // namespace ornavel::rehearsal

@@ -1,44 +1,12 @@
-#include "rehearsal/model/mail_client.h"
-
-#include "host/application.h"
-#include "rehearsal/native/memory_machine.h"
-#include "rehearsal/outcome.h"
+#include "tests/rehearsal/stage.h"
 
 #include <gtest/gtest.h>
 
 namespace ornavel::rehearsal {
 namespace {
 
-/// A mail client on a machine in memory, out of a scenario's text.
-struct Stage {
-    explicit Stage(const std::string& json)
-        : scenario(read_scenario(parse_json(json, "stage"), "stage", Binding::native)),
-          failures(scenario.fail), machine(scenario, "stage", failures, journal),
-          client(scenario, machine, failures, journal) {
-        machine.prepare(scenario);
-    }
-    host::Application application() { return host::Application(client.application()); }
-    host::MailItem item(std::size_t index) { return host::MailItem(client.hand_out(client.items[index])); }
-    std::size_t held() { return client.references()->held(); }
-
-    Scenario scenario;
-    Failures failures;
-    Journal journal;
-    MemoryMachine machine;
-    MailClient client;
-};
-
 const char* const one_item = R"({"do": [], "items": [{"Subject": "Hello", "Recipients": ["ann@example.com"],
     "UserProperties": {"Colour": "blue"}, "EditorType": 3}], "files": {"C:\\a.txt": "x"}})";
-
-Text description_of(const std::function<void()>& body) {
-    try {
-        body();
-    } catch (const host::Error& error) {
-        return error.description();
-    }
-    return u"nothing failed";
-}
 
 TEST(ObjectModel, AnItemIsReadAndWrittenThroughItsViews) {
     Stage stage(one_item);

@@ -1,8 +1,6 @@
 #include "rehearsal/player.h"
 
-#include "host/application.h"
-#include "rehearsal/native/memory_machine.h"
-#include "rehearsal/outcome.h"
+#include "tests/rehearsal/stage.h"
 
 #include <gtest/gtest.h>
 
@@ -33,14 +31,10 @@ struct NotingAddIn final : AddIn {
     void disconnect(int remove_mode) override { told.push_back("disconnect " + std::to_string(remove_mode)); }
 };
 
-struct Stage {
-    explicit Stage(const std::string& json)
-        : scenario(read_scenario(parse_json(json, "stage"), "stage", Binding::native)),
-          failures(scenario.fail), machine(scenario, "stage", failures, journal),
-          client(scenario, machine, failures, journal), player(scenario, "stage", client, machine, addin) {
-        machine.prepare(scenario);
-        before = machine.snapshot();
-    }
+/// A stage with an add-in and a player on it.
+struct Performance : Stage {
+    explicit Performance(const std::string& json)
+        : Stage(json), player(scenario, "stage", client, machine, addin), before(machine.snapshot()) {}
     Json outcome() {
         player.play();
         return write_outcome(scenario, player, client, machine, before);
@@ -54,18 +48,14 @@ struct Stage {
         return "played";
     }
 
-    Scenario scenario;
-    Failures failures;
-    Journal journal;
-    MemoryMachine machine;
-    MailClient client;
     NotingAddIn addin;
     Player player;
     Snapshot before;
 };
 
 TEST(Player, PlaysTheActsInOrder) {
-    Stage stage(R"({"do": [{"connect": 4}, "start", "update", {"send": 0}, "shutdown", {"disconnect": 1}],
+    Performance stage(
+        R"({"do": [{"connect": 4}, "start", "update", {"send": 0}, "shutdown", {"disconnect": 1}],
                     "items": [{}]})");
     stage.outcome();
     EXPECT_EQ(stage.addin.told,
@@ -73,7 +63,8 @@ TEST(Player, PlaysTheActsInOrder) {
 }
 
 TEST(Player, ASendOutsideTheConnectionReachesNobodyAndGoesOut) {
-    Stage stage(R"({"do": [{"send": 0}, "connect", {"disconnect": 0}, {"send": 1}], "items": [{}, {}]})");
+    Performance stage(
+        R"({"do": [{"send": 0}, "connect", {"disconnect": 0}, {"send": 1}], "items": [{}, {}]})");
     stage.addin.cancels = true;
     const Json outcome = stage.outcome();
     EXPECT_EQ(stage.addin.told, (std::vector<std::string>{"connect 0", "disconnect 0"}));
@@ -83,7 +74,7 @@ TEST(Player, ASendOutsideTheConnectionReachesNobodyAndGoesOut) {
 }
 
 TEST(Player, ACancelledItemIsNotSent) {
-    Stage stage(R"({"do": ["connect", {"send": 0}], "items": [{}]})");
+    Performance stage(R"({"do": ["connect", {"send": 0}], "items": [{}]})");
     stage.addin.cancels = true;
     const Json outcome = stage.outcome();
     EXPECT_EQ(outcome["acts"][1]["cancel"], true);
@@ -93,7 +84,7 @@ TEST(Player, ACancelledItemIsNotSent) {
 }
 
 TEST(Player, WhatTheAddInLetsOutIsTheOutcomesErrorAndTheEnd) {
-    Stage stage(R"({"do": ["connect", "start", "update"]})");
+    Performance stage(R"({"do": ["connect", "start", "update"]})");
     stage.addin.on_start = [] { throw Failure(u"no way"); };
     const Json outcome = stage.outcome();
     EXPECT_EQ(outcome["error"], "no way");
@@ -108,13 +99,13 @@ TEST(Player, AnActWithoutMeansMakesTheScenarioUnusable) {
         {R"({"click": "EmailMonitor"})", "stage: do[0]: no such button"},
     };
     for (const auto& [act, refused] : without_means) {
-        Stage stage(std::string(R"({"items": [{}], "do": [)") + act + "]}");
+        Performance stage(std::string(R"({"items": [{}], "do": [)") + act + "]}");
         EXPECT_EQ(stage.refusal(), refused);
     }
 }
 
 TEST(Player, TheUserAnswersMessageBoxesInTheirOrder) {
-    Stage stage(R"({"do": ["connect", "start"], "user": [{"at": "First", "answer": "Yes"},
+    Performance stage(R"({"do": ["connect", "start"], "user": [{"at": "First", "answer": "Yes"},
                                                          {"at": "*", "answer": "OK"}]})");
     auto& boxes = stage.machine.addin_windows();
     stage.addin.on_start = [&] {
@@ -142,13 +133,13 @@ TEST(Player, TheUserAnswersMessageBoxesInTheirOrder) {
 }
 
 TEST(Player, AnAnswerThatTheBoxDoesNotHaveMakesTheScenarioUnusable) {
-    Stage stage(R"({"do": ["connect", "start"], "user": [{"at": "Box", "answer": "OK"}]})");
+    Performance stage(R"({"do": ["connect", "start"], "user": [{"at": "Box", "answer": "OK"}]})");
     stage.addin.on_start = [&] { stage.machine.addin_windows().ask(u"Box", u"?"); };
     EXPECT_EQ(stage.refusal(), "stage: user[0]: the box has Yes and No only");
 }
 
 TEST(Outcome, HasEveryMemberEvenWhenNothingHappened) {
-    const Json outcome = Stage(R"({"do": []})").outcome();
+    const Json outcome = Performance(R"({"do": []})").outcome();
     for (const char* member :
          {"name", "acts", "items", "settings", "files", "registry", "windows", "toolbar", "tray", "pages",
           "launched", "statements", "connections", "mails", "browser", "references", "error"})
@@ -159,7 +150,7 @@ TEST(Outcome, HasEveryMemberEvenWhenNothingHappened) {
 }
 
 TEST(Outcome, ListsFilesThatChangedAndOnlyThose) {
-    Stage stage(R"({"do": ["connect", "start"], "folders": ["C:\\gone"], "files": {"C:\\a.txt": "a",
+    Performance stage(R"({"do": ["connect", "start"], "folders": ["C:\\gone"], "files": {"C:\\a.txt": "a",
         "C:\\same.txt": "s", "C:\\gone\\b.txt": "b", "C:\\old.txt": "o", "C:\\new\\x": ""}})");
     auto& files = stage.machine.addin_files();
     stage.addin.on_start = [&] {
@@ -188,7 +179,7 @@ TEST(Outcome, ListsRegistryValuesThatChanged) {
 }
 
 TEST(MemoryMachine, FailsWhatTheScenarioNames) {
-    Stage stage(
+    Performance stage(
         R"({"do": [], "settings": {"User Settings": {"Template": "a"}}, "files": {"C:\\a": "a", "C:\\b": "b"},
         "fail": [{"read file": "c:\\A"}, {"write file": "C:\\b", "use": 1}, {"delete file": "C:\\b"},
                  {"read setting": "template"}, {"save setting": "Signature"}, {"launch": "x.exe", "says": "no"}]})");

@@ -4,7 +4,7 @@
 
 #include <oaidl.h>
 
-namespace ornavel::shell {
+namespace ornavel::win32 {
 
 inline constexpr IID IID_IDTExtensibility2{
     0xB65AD801, 0xABAF, 0x11D0, {0xBB, 0x8B, 0x00, 0xA0, 0xC9, 0x0F, 0x27, 0x44}};
@@ -19,4 +19,4 @@ struct IDTExtensibility2 : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE OnBeginShutdown(SAFEARRAY** custom) = 0;
 };
 
-} // namespace ornavel::shell
+} // namespace ornavel::win32

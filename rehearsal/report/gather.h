@@ -1,0 +1,16 @@
+#pragma once
+
+#include "rehearsal/report/story.h"
+
+#include <optional>
+
+namespace ornavel::rehearsal::report {
+
+/// Plays the scenario with the add-in's own code and gathers what the report tells. With the outcome of the
+/// real DLL given, that one is told and compared with the native one.
+Story gather(Scenario scenario, const std::string& source, const std::optional<Json>& dll_outcome);
+
+/// The members in which two outcomes differ. Times never count.
+std::vector<std::string> differences(const Json& left, const Json& right);
+
+} // namespace ornavel::rehearsal::report

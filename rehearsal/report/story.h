@@ -1,0 +1,32 @@
+#pragma once
+
+#include "rehearsal/journal.h"
+#include "rehearsal/scenario.h"
+
+namespace ornavel::rehearsal::report {
+
+struct GateVisit {
+    std::string name;
+    bool passed;
+};
+
+/// One item on its way out.
+struct Send {
+    std::size_t act, item;
+    bool cancelled;
+    double milliseconds;
+    std::vector<GateVisit> gates; ///< in the order in which the send reached them
+};
+
+/// A scenario that was played: what it gave, what came out, and how.
+struct Story {
+    Scenario scenario;
+    Json outcome;                         ///< with the real DLL where it was played so, else native
+    bool with_dll = false;                ///< which of the two
+    std::vector<std::string> differences; ///< the parts in which the two outcomes differ
+    std::vector<std::string> mismatches;  ///< with what the scenario expects
+    std::vector<JournalEntry> journal;    ///< of the native play
+    std::vector<Send> sends;
+};
+
+} // namespace ornavel::rehearsal::report

@@ -1,0 +1,130 @@
+#include "rehearsal/report/page.h"
+
+#include "base/encoding.h"
+#include "rehearsal/report/frame.h"
+#include "rehearsal/report/html.h"
+#include "rehearsal/report/words.h"
+
+#include <algorithm>
+
+namespace ornavel::rehearsal::report {
+namespace {
+
+constexpr int tall = 640, low = 260; ///< heights of a frame, in pixels: a dressed message and a bare one
+
+/// The bodies of an item at one moment.
+struct Shown {
+    std::string subject, html, plain;
+};
+
+Shown as_given(const Item& item) {
+    return {to_utf8(item.subject), to_utf8(item.html_body), to_utf8(item.body)};
+}
+
+Shown as_sent(const Json& item) {
+    return {text_of(item, "Subject"), text_of(item, "HTMLBody"), text_of(item, "Body")};
+}
+
+const std::string& source_of(const Shown& shown) { return shown.html.empty() ? shown.plain : shown.html; }
+
+std::string names_of(const Item& item) {
+    std::string names;
+    for (const auto& recipient : item.recipients)
+        names += (names.empty() ? "" : ", ") +
+                 to_utf8(recipient.name.empty() ? recipient.address : recipient.name);
+    return names;
+}
+
+std::string letter(const char* caption, const Shown& shown, const Story& story, const Item& item,
+                   int height) {
+    const std::string envelope =
+        text_element("strong", "", shown.subject) +
+        text_element("span", "", to_utf8(story.scenario.host.user_name) + " to " + names_of(item));
+    const std::string frame = shown.html.empty() ? plain_text_frame(shown.plain, height)
+                                                 : message_frame(shown.html, story.scenario.files, height);
+    return element("figure", "",
+                   text_element("figcaption", "", caption) +
+                       element("div", "letter", element("div", "envelope", envelope) + frame));
+}
+
+/// The source, with the part that the user wrote marked where it stands in one piece.
+std::string marked_source(const std::string& source, const std::string& written) {
+    const auto place = source.find(written);
+    if (written.empty() || place == std::string::npos || written == source) return escape(source);
+    return escape(source.substr(0, place)) + element("mark", "", escape(written)) +
+           escape(source.substr(place + written.size()));
+}
+
+std::string sources(const Shown& before, const Shown& after) {
+    const std::string both = element("pre", "", escape(source_of(before))) +
+                             element("pre", "", marked_source(source_of(after), source_of(before)));
+    return fold_out("Source before and after", element("div", "pair source", both));
+}
+
+std::string gate_rail(const Send& send) {
+    std::string gates;
+    for (const auto& gate : send.gates)
+        gates += text_element("li", gate.passed ? "passed" : "left", gate.name);
+    return element("ol", "gates", gates);
+}
+
+std::string sentence(const Story& story, const Send& send) {
+    std::string words = capital(what_came_in(story, send)) + " " + what_happened(story, send) + ". ";
+    const auto passed = static_cast<std::size_t>(std::ranges::count(send.gates, true, &GateVisit::passed));
+    const std::string left = left_at(send);
+    words += left.empty() ? "It passed all " + counted(passed, "gate")
+                          : "It passed " + counted(passed, "gate") + " and left at “" + left + "”";
+    return words + " in " + milliseconds(send.milliseconds) + ".";
+}
+
+std::string send_part(const Story& story, const Send& send) {
+    const Item& item = story.scenario.items.at(send.item);
+    const Shown before = as_given(item), after = as_sent(story.outcome.at("items").at(send.item));
+    const int height = fate_of(story, send) == Fate::dressed ? tall : low;
+    return text_element("p", "sentence", sentence(story, send)) +
+           element("div", "pair",
+                   letter("as the user wrote it", before, story, item, height) +
+                       letter(send.cancelled ? "still with the user" : "as it went out", after, story, item,
+                              height)) +
+           gate_rail(send) + sources(before, after);
+}
+
+std::string windows_shown(const Story& story) {
+    std::string shown;
+    for (const auto& window : story.outcome.value("windows", Json::array())) {
+        const std::string title =
+            text_of(window, "message box") + text_of(window, "input box") + text_of(window, "form");
+        const std::string text =
+            text_of(window, "text") + text_of(window, "prompt") + text_of(window, "caption");
+        const std::string answer = text_of(window, "answer");
+        shown += element("li", "",
+                         text_element("strong", "", title) + text_element("span", "", text) +
+                             (answer.empty() ? "" : text_element("em", "", "answered " + answer)));
+    }
+    return shown.empty() ? shown : element("ul", "windows", shown);
+}
+
+std::string verdicts(const Story& story) {
+    std::string facts = text_element("li", held_by(story) == 0 ? "good" : "bad",
+                                     counted(held_by(story), "reference") + " left");
+    if (story.with_dll && story.differences.empty())
+        facts += text_element("li", "good", "same outcome in both plays");
+    for (const auto& part : story.differences)
+        facts += text_element("li", "bad", "the plays differ in “" + part + "”");
+    for (const auto& mismatch : story.mismatches) facts += text_element("li", "bad", mismatch);
+    if (story.mismatches.empty() && story.scenario.expect)
+        facts += text_element("li", "good", "as the story expects");
+    return element("ul", "verdicts", facts);
+}
+
+} // namespace
+
+std::string story_section(const Story& story, std::size_t number) {
+    std::string body = text_element("p", "eyebrow", "Story " + std::to_string(number)) +
+                       text_element("h2", "", to_utf8(story.scenario.name));
+    for (const auto& send : story.sends) body += send_part(story, send);
+    body += windows_shown(story) + journal_section(story) + verdicts(story);
+    return "<section id=\"story-" + std::to_string(number) + "\">\n" + body + "</section>\n";
+}
+
+} // namespace ornavel::rehearsal::report

@@ -1,0 +1,70 @@
+#include "rehearsal/windows/dll_add_in.h"
+
+#include "win32/wide.h"
+
+#include <objbase.h>
+
+namespace ornavel::rehearsal {
+namespace {
+
+void must(HRESULT outcome, TextView what) {
+    if (FAILED(outcome)) win32::fail(what, static_cast<DWORD>(outcome));
+}
+
+/// The DLL as built beside this program.
+Text built_dll() {
+    const Text program = win32::path_of(nullptr);
+    const Text folder = program.substr(0, program.find_last_of(u'\\'));
+    return folder.substr(0, folder.find_last_of(u'\\')) + u"\\shell\\Ornavel.dll";
+}
+
+HRESULT call(HMODULE module, const char* name) {
+    using Export = HRESULT(STDMETHODCALLTYPE*)();
+    const auto function = reinterpret_cast<Export>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+    return function ? function() : E_NOTIMPL;
+}
+
+win32::ComPtr<win32::IDTExtensibility2> make_add_in() {
+    CLSID id{};
+    must(CLSIDFromProgID(L"Ornavel.Connect", &id), u"Ornavel.Connect");
+    win32::ComPtr<win32::IDTExtensibility2> add_in;
+    must(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, win32::IID_IDTExtensibility2,
+                          add_in.out_untyped()),
+         u"Ornavel.Connect");
+    return add_in;
+}
+
+} // namespace
+
+InstalledDll::InstalledDll(TextView folder) : path_(Text(folder) + u"\\Ornavel.dll"), module_(nullptr) {
+    if (!CopyFileW(win32::wide(built_dll()).c_str(), win32::wide(path_).c_str(), FALSE))
+        win32::fail(path_, GetLastError());
+    module_ = LoadLibraryW(win32::wide(path_).c_str());
+    if (!module_) win32::fail(path_, GetLastError());
+    must(call(module_, "DllRegisterServer"), u"DllRegisterServer");
+}
+
+InstalledDll::~InstalledDll() {
+    call(module_, "DllUnregisterServer");
+    CoFreeUnusedLibrariesEx(0, 0);
+    FreeLibrary(module_);
+}
+
+DllAddIn::DllAddIn(std::shared_ptr<Subscriptions> subscriptions)
+    : subscriptions_(std::move(subscriptions)), add_in_(make_add_in()) {}
+
+void DllAddIn::connect(const host::ObjectPtr& application, int mode) {
+    if (was_connected_) add_in_ = make_add_in();
+    was_connected_ = true;
+    must(add_in_->OnConnection(serve(application, subscriptions_).get(), mode, nullptr, nullptr),
+         u"OnConnection");
+}
+
+void DllAddIn::start() { must(add_in_->OnStartupComplete(nullptr), u"OnStartupComplete"); }
+void DllAddIn::update() { must(add_in_->OnAddInsUpdate(nullptr), u"OnAddInsUpdate"); }
+void DllAddIn::shutdown() { must(add_in_->OnBeginShutdown(nullptr), u"OnBeginShutdown"); }
+void DllAddIn::disconnect(int remove_mode) {
+    must(add_in_->OnDisconnection(remove_mode, nullptr), u"OnDisconnection");
+}
+
+} // namespace ornavel::rehearsal

@@ -1,0 +1,36 @@
+#include "rehearsal/windows/windows_machine.h"
+
+namespace ornavel::rehearsal {
+
+WindowsMachine::WindowsMachine(const Scenario& scenario, const std::string& source)
+    : user_(scenario.user, source), screen_(user_) {}
+
+WindowsMachine::~WindowsMachine() { disk_.clear(); }
+
+void WindowsMachine::prepare(const Scenario& scenario) {
+    disk_.clear();
+    files_.create_folder(scenario.computer.addin_folder);
+    for (const auto& folder : scenario.folders) files_.create_folder(folder);
+    for (const auto& [path, bytes] : scenario.files) {
+        files_.create_folder(TextView(path).substr(0, path.find_last_of(u'\\')));
+        files_.write(path, bytes);
+    }
+    change_settings(scenario.settings);
+    for (const auto& [key, values] : scenario.registry)
+        for (const auto& [name, value] : values) registry_.set(key, name, value);
+}
+
+Snapshot WindowsMachine::snapshot() const {
+    Snapshot snapshot;
+    disk_.add_to(snapshot);
+    registry_.add_to(snapshot);
+    return snapshot;
+}
+
+void WindowsMachine::change_settings(const SettingsTree& settings) { registry_.change_settings(settings); }
+
+Json WindowsMachine::tray_outcome() const {
+    return {{"shown", false}, {"tip", ""}, {"times shown", 0}, {"times removed", 0}, {"menu", Json::array()}};
+}
+
+} // namespace ornavel::rehearsal

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "rehearsal/windows/box_user.h"
+#include "rehearsal/windows/disk_world.h"
+#include "rehearsal/windows/launch_recorder.h"
+#include "rehearsal/windows/registry_world.h"
+#include "win32/windows_files.h"
+
+namespace ornavel::rehearsal {
+
+/// The machine that this program runs on: the registry, drive C and the screen of a Wine prefix. Its end
+/// leaves it as it was.
+class WindowsMachine final : public Machine {
+public:
+    WindowsMachine(const Scenario& scenario, const std::string& source);
+    ~WindowsMachine() override;
+
+    void prepare(const Scenario& scenario) override;
+    Snapshot snapshot() const override;
+    Files& files() override { return files_; }
+    Registry& registry() override { return registry_; }
+    void change_settings(const SettingsTree& settings) override;
+    void set_clock(const LocalTime&) override { throw Unusable("clock: native only"); }
+    bool tray(const Act&) override { return false; }
+    std::optional<Text> prompt(TextView) override { throw Unusable("prompt: native only"); }
+    std::optional<std::string> complaint() const override { return user_.complaint(); }
+    Json launched() const override { return launches_.launched(); }
+    Json windows() const override { return screen_.windows(); }
+    Json tray_outcome() const override;
+
+    /// What this module starts is recorded from now on.
+    void watch(HMODULE module) { launches_.watch(module); }
+
+private:
+    ScriptedUser user_;
+    DiskWorld disk_;
+    RegistryWorld registry_;
+    win32::WindowsFiles files_;
+    LaunchRecorder launches_;
+    BoxUser screen_;
+};
+
+} // namespace ornavel::rehearsal

@@ -1,0 +1,55 @@
+#include "rehearsal/native/native_play.h"
+
+#include "rehearsal/native/apart.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+
+namespace ornavel::rehearsal {
+namespace {
+
+TEST(Apart, AProcessThatCrashesLeavesAnErrorInAWholeOutcome) {
+    const ScratchFolder scratch;
+    const int code = run_apart([]() -> int { return std::raise(SIGKILL); });
+    Scenario scenario;
+    scenario.name = u"crash";
+    const Json outcome = collect_outcome(code, scratch / "none.json", scenario, "crash.json");
+    EXPECT_EQ(outcome["error"], "the add-in crashed (signal 9)");
+    EXPECT_EQ(outcome["name"], "crash");
+    EXPECT_EQ(outcome["references"]["held"], 0);
+}
+
+TEST(Apart, TheReasonOfAnUnusableScenarioComesBack) {
+    const ScratchFolder scratch;
+    const std::string file = scratch / "outcome.json";
+    const int code = run_apart([&] {
+        std::ofstream(file) << "a.json: do[0]: no such button";
+        return 2;
+    });
+    try {
+        collect_outcome(code, file, {}, "a.json");
+        ADD_FAILURE() << "accepted";
+    } catch (const Unusable& error) {
+        EXPECT_STREQ(error.what(), "a.json: do[0]: no such button");
+    }
+}
+
+TEST(NativePlay, PlaysTheAddInAndTellsItsJournal) {
+    const char* const json = R"({"do": ["connect", "start", {"disconnect": 1}],
+        "settings": {"Admin Settings": {"SigEmail": "a", "SigWebsite": "b"}}})";
+    const Scenario scenario = read_scenario(parse_json(json, "x"), "x", Binding::native);
+    Journal journal;
+    const Json here = play_here(scenario, "x", journal);
+    EXPECT_GT(journal.host_uses(0), 0u);
+    Json apart = play_natively(scenario, "x");
+    for (auto& act : apart["acts"]) act["milliseconds"] = 0;
+    Json same = here;
+    for (auto& act : same["acts"]) act["milliseconds"] = 0;
+    EXPECT_EQ(apart, same);
+    EXPECT_EQ(here["launched"].size(), 1u);
+}
+
+} // namespace
+} // namespace ornavel::rehearsal

@@ -1,0 +1,105 @@
+#include "rehearsal/report/gather.h"
+#include "rehearsal/report/page.h"
+#include "rehearsal/report/words.h"
+
+#include <gtest/gtest.h>
+
+using namespace ornavel;
+using namespace ornavel::rehearsal;
+using namespace ornavel::rehearsal::report;
+
+namespace {
+
+/// A message in HTML from Outlook 2003, and what became of it.
+Story story_of(Json item_after, Item before = {}) {
+    Story story;
+    if (before.html_body.empty()) before.html_body = u"<P>Hello";
+    story.scenario.name = u"R&D <writes>";
+    story.scenario.items = {before};
+    story.outcome = {{"items", Json::array({std::move(item_after)})},
+                     {"settings", {{"User Settings", {{"Template", "a.htm"}, {"Signature", "b.htm"}}}}},
+                     {"references", {{"held", 0}}}};
+    story.sends = {{0, 0, false, 1.5, {{"entry mode", true}, {"message class", true}}}};
+    return story;
+}
+
+Json unchanged() { return {{"HTMLBody", "<P>Hello"}, {"Body", ""}, {"Subject", ""}}; }
+
+Json with(Json item, const char* member, const char* value) {
+    item[member] = value;
+    return item;
+}
+
+} // namespace
+
+TEST(ReportWords, AStampedItemIsDressed) {
+    const auto story = story_of(
+        with(with(unchanged(), "HTMLBody", "<TABLE>"), "BillingInformation", "Ornavel from Brevant"));
+    EXPECT_EQ(fate_of(story, story.sends[0]), Fate::dressed);
+    EXPECT_EQ(what_happened(story, story.sends[0]),
+              "went out dressed in a.htm with the signature b.htm, and stamped");
+}
+
+TEST(ReportWords, AnItemThatWasStampedBeforeIsNotDressedAgain) {
+    Item before;
+    before.billing_information = u"Ornavel from Brevant";
+    const auto story = story_of(with(unchanged(), "BillingInformation", "Ornavel from Brevant"), before);
+    EXPECT_EQ(fate_of(story, story.sends[0]), Fate::untouched);
+}
+
+TEST(ReportWords, AChangedBodyWithoutAStampIsSaidToBeChanged) {
+    const auto story = story_of(with(unchanged(), "HTMLBody", "<P>Hello<P>Jo"));
+    EXPECT_EQ(what_happened(story, story.sends[0]), "went out changed, without the stamp");
+}
+
+TEST(ReportWords, AMarkInTheSubjectAloneIsSaidToBeThat) {
+    const auto story = story_of(with(unchanged(), "Subject", "Exclaimer"));
+    EXPECT_EQ(what_happened(story, story.sends[0]), "went out as it was written, with a note in its subject");
+}
+
+TEST(ReportWords, ACancelledSendIsHeldBack) {
+    auto story = story_of(unchanged());
+    story.sends[0].cancelled = true;
+    EXPECT_EQ(fate_of(story, story.sends[0]), Fate::held_back);
+}
+
+TEST(ReportWords, WhatCameInNamesTheKindAndTheMailClient) {
+    const auto came_in = [](TextView version, Item item) {
+        auto story = story_of(unchanged(), std::move(item));
+        story.scenario.host.version = version;
+        return what_came_in(story, story.sends[0]);
+    };
+    EXPECT_EQ(came_in(u"9.0.0.3821", {}), "an HTML message from Outlook 2000");
+    EXPECT_EQ(came_in(u"10.0.2627", {.editor_type = 1}), "a plain-text message from Outlook 2002");
+    EXPECT_EQ(came_in(u"11.0.5608", {.is_word_mail = true}),
+              "an HTML message from Outlook 2003, written with Word");
+    EXPECT_EQ(came_in(u"11.0.5608", {.message_class = u"IPM.Schedule.Meeting.Request"}),
+              "a meeting request from Outlook 2003");
+}
+
+TEST(ReportWords, TheGateThatASendLeftAtIsTheFirstThatDidNotPass) {
+    EXPECT_EQ(left_at({0, 0, false, 0, {{"a", true}, {"b", false}}}), "b");
+    EXPECT_EQ(left_at({0, 0, false, 0, {{"a", true}}}), "");
+}
+
+TEST(ReportPage, NamesOfStoriesAreText) {
+    const auto html = page({story_of(unchanged())});
+    EXPECT_NE(html.find("R&amp;D &lt;writes&gt;"), std::string::npos);
+    EXPECT_EQ(html.find("<writes>"), std::string::npos);
+}
+
+TEST(ReportPage, NeedsNothingOutsideItself) {
+    const auto html = page({story_of(with(unchanged(), "HTMLBody", "<IMG src='http://a.example/'>"))});
+    for (const char* outside : {"<script", "<link", "src=\"http", "url(", "@import"})
+        EXPECT_EQ(html.find(outside), std::string::npos) << outside;
+}
+
+TEST(ReportDifferences, TimesNeverCountAndEveryOtherMemberDoes) {
+    const Json left = {{"acts", {{{"act", "start"}, {"milliseconds", 1.0}}}}, {"items", Json::array()}};
+    const Json slower = {{"acts", {{{"act", "start"}, {"milliseconds", 9.0}}}}, {"items", Json::array()}};
+    EXPECT_TRUE(differences(left, slower).empty());
+    const Json other = {
+        {"acts", {{{"act", "start"}, {"milliseconds", 1.0}}}}, {"items", {{{"saves", 1}}}}, {"extra", true}};
+    EXPECT_EQ(differences(left, other), (std::vector<std::string>{"items", "extra"}));
+    EXPECT_EQ(differences(other, left), (std::vector<std::string>{"items", "extra"}));
+}

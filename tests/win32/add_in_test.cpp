@@ -1,0 +1,149 @@
+#include "tests/win32/add_in_dll.h"
+#include "tests/win32/fake_dispatch.h"
+#include "win32/extensibility.h"
+#include "win32/machine.h"
+
+namespace ornavel::win32 {
+namespace {
+
+/// The add-in as the mail client gets it: registered, and made by its programmatic identifier.
+class AddIn : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_EQ(AddInDll().call("DllRegisterServer"), S_OK);
+        CLSID class_id{};
+        ASSERT_EQ(CLSIDFromProgID(L"Ornavel.Connect", &class_id), S_OK);
+        ASSERT_EQ(CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER, IID_IDTExtensibility2,
+                                   add_in.out_untyped()),
+                  S_OK);
+    }
+    void TearDown() override {
+        add_in = {};
+        EXPECT_EQ(AddInDll().call("DllUnregisterServer"), S_OK);
+    }
+
+    static VARIANT variant(VARTYPE type, LONG number = 0) {
+        VARIANT made{};
+        made.vt = type;
+        made.lVal = number;
+        return made;
+    }
+    HRESULT invoke(DISPID id, std::vector<VARIANT> last_argument_first) {
+        DISPPARAMS parameters{last_argument_first.data(), nullptr,
+                              static_cast<UINT>(last_argument_first.size()), 0};
+        return add_in->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr,
+                              nullptr, nullptr);
+    }
+
+    ComPtr<IDTExtensibility2> add_in;
+};
+
+TEST_F(AddIn, AnswersTheMailClientsTable) {
+    const auto application = make_fake();
+    EXPECT_EQ(add_in->OnConnection(application.get(), 1, nullptr, nullptr), S_OK);
+    EXPECT_EQ(add_in->OnAddInsUpdate(nullptr), S_OK);
+    EXPECT_EQ(add_in->OnStartupComplete(nullptr), S_OK);
+    EXPECT_EQ(add_in->OnBeginShutdown(nullptr), S_OK);
+    EXPECT_EQ(add_in->OnDisconnection(0, nullptr), S_OK);
+    add_in = {};
+    EXPECT_EQ(application->others(), 0U);
+}
+
+TEST_F(AddIn, AnswersWithoutAnApplication) {
+    EXPECT_EQ(add_in->OnConnection(nullptr, 0, nullptr, nullptr), S_OK);
+    EXPECT_EQ(add_in->OnStartupComplete(nullptr), S_OK);
+    EXPECT_EQ(add_in->OnBeginShutdown(nullptr), S_OK);
+    EXPECT_EQ(add_in->OnDisconnection(99, nullptr), S_OK);
+}
+
+TEST_F(AddIn, KnowsItsHandlersByName) {
+    const wchar_t* names[] = {L"OnConnection", L"ondisconnection", L"OnAddInsUpdate", L"OnStartupComplete",
+                              L"OnBeginShutdown"};
+    for (DISPID expected = 1; const wchar_t* name : names) {
+        std::wstring copy = name;
+        LPOLESTR pointer = copy.data();
+        DISPID id = 0;
+        EXPECT_EQ(add_in->GetIDsOfNames(IID_NULL, &pointer, 1, 0, &id), S_OK);
+        EXPECT_EQ(id, expected++);
+    }
+    wchar_t unknown[] = L"OnNothing";
+    LPOLESTR pointer = unknown;
+    DISPID id = 0;
+    EXPECT_EQ(add_in->GetIDsOfNames(IID_NULL, &pointer, 1, 0, &id), DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(id, DISPID_UNKNOWN);
+}
+
+TEST_F(AddIn, AnswersLateBoundCallsWithTheirArguments) {
+    const auto application = make_fake();
+    VARIANT client = variant(VT_DISPATCH);
+    client.pdispVal = application.get();
+    EXPECT_EQ(invoke(1, {variant(VT_EMPTY), variant(VT_EMPTY), variant(VT_I4, 1), client}), S_OK);
+    EXPECT_EQ(invoke(4, {variant(VT_EMPTY)}), S_OK);
+    EXPECT_EQ(invoke(5, {variant(VT_EMPTY)}), S_OK);
+    EXPECT_EQ(invoke(2, {variant(VT_EMPTY), variant(VT_I4, 0)}), S_OK);
+    add_in = {};
+    EXPECT_EQ(application->others(), 0U);
+}
+
+TEST_F(AddIn, AnswersOddLateBoundCallsToo) {
+    for (DISPID id = 1; id <= 5; ++id) {
+        EXPECT_EQ(invoke(id, {}), S_OK) << id;
+        EXPECT_EQ(invoke(id, {variant(VT_ERROR, DISP_E_EXCEPTION)}), S_OK) << id;
+        EXPECT_EQ(add_in->Invoke(id, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr), S_OK)
+            << id;
+    }
+    EXPECT_EQ(invoke(0, {}), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(invoke(6, {}), DISP_E_MEMBERNOTFOUND);
+}
+
+TEST_F(AddIn, GivesOutNoOtherInterface) {
+    ComPtr<IConnectionPointContainer> container;
+    EXPECT_EQ(add_in->QueryInterface(IID_IConnectionPointContainer, container.out_untyped()), E_NOINTERFACE);
+    EXPECT_FALSE(container);
+}
+
+TEST_F(AddIn, KeepsTheDllUntilItsLastReferenceIsGone) {
+    EXPECT_EQ(AddInDll().call("DllCanUnloadNow"), S_FALSE);
+    add_in = {};
+    EXPECT_EQ(AddInDll().call("DllCanUnloadNow"), S_OK);
+}
+
+TEST_F(AddIn, ALockOnTheFactoryKeepsTheDll) {
+    add_in = {};
+    const AddInDll dll;
+    CLSID class_id{};
+    CLSIDFromProgID(L"Ornavel.Connect", &class_id);
+    ComPtr<IClassFactory> factory;
+    ASSERT_EQ(
+        CoGetClassObject(class_id, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, factory.out_untyped()),
+        S_OK);
+    factory->LockServer(TRUE);
+    ComPtr<IClassFactory> locked = std::move(factory);
+    EXPECT_EQ(dll.call("DllCanUnloadNow"), S_FALSE);
+    locked->LockServer(FALSE);
+    locked = {};
+    EXPECT_EQ(dll.call("DllCanUnloadNow"), S_OK);
+}
+
+TEST_F(AddIn, CannotBeAggregated) {
+    CLSID class_id{};
+    CLSIDFromProgID(L"Ornavel.Connect", &class_id);
+    const auto outer = make_fake();
+    ComPtr<IUnknown> inner;
+    EXPECT_EQ(CoCreateInstance(class_id, static_cast<IDispatch*>(outer.get()), CLSCTX_INPROC_SERVER,
+                               IID_IUnknown, inner.out_untyped()),
+              CLASS_E_NOAGGREGATION);
+}
+
+TEST(AddInResources, HoldTheSameTextsAsTheProgram) {
+    const AddInDll dll;
+    const ResourceStrings resources(dll.module());
+    for (int id = 0; id < 65536; ++id)
+        if (const auto built_in = forms::built_in_strings().find(id); built_in && !built_in->empty())
+            EXPECT_EQ(resources.find(id), built_in) << id;
+        else
+            EXPECT_EQ(resources.find(id), std::nullopt) << id;
+}
+
+} // namespace
+} // namespace ornavel::win32

@@ -1,0 +1,136 @@
+#include "win32/control_window.h"
+
+#include "win32/wide.h"
+
+namespace ornavel::win32 {
+namespace {
+
+using forms::Control;
+using forms::Kind;
+
+struct Look {
+    const wchar_t* window_class;
+    DWORD style;
+    DWORD extended_style;
+};
+
+Look text_box_look(const Control& control) {
+    const DWORD lines =
+        control.several_lines ? ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL : DWORD{ES_AUTOHSCROLL};
+    return {L"EDIT", WS_TABSTOP | lines | (control.locked ? ES_READONLY : 0), WS_EX_CLIENTEDGE};
+}
+
+/// What a control looks like; one without a window has no class.
+Look look_of(const Control& control) {
+    switch (control.kind) {
+    case Kind::command_button:
+        return {L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON, 0};
+    case Kind::check_box:
+        return {L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX | BS_MULTILINE, 0};
+    case Kind::combo_box:
+        return {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL, 0};
+    case Kind::text_box:
+        return text_box_look(control);
+    case Kind::label:
+        return {L"STATIC", SS_LEFT | SS_NOTIFY, 0};
+    case Kind::frame:
+        return {L"BUTTON", BS_GROUPBOX, 0};
+    case Kind::image:
+        return {L"STATIC", SS_BITMAP | SS_CENTERIMAGE | SS_NOTIFY, 0};
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+ControlWindow::ControlWindow(const Control& control, HWND parent, int id, HFONT font) {
+    shown_.kind = control.kind;
+    shown_.name = control.name;
+    const Look look = look_of(control);
+    if (!look.window_class) return;
+    window_ = CreateWindowExW(look.extended_style, look.window_class, L"", WS_CHILD | look.style, 0, 0, 0, 0,
+                              parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                              GetModuleHandleW(nullptr), nullptr);
+    if (!window_) fail(control.name, GetLastError());
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(font));
+    const ATOM name = GlobalAddAtomW(wide(control.name).c_str());
+    SetPropW(window_, name_property, reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(name)));
+}
+
+void ControlWindow::release_name() const {
+    if (window_)
+        GlobalDeleteAtom(static_cast<ATOM>(reinterpret_cast<UINT_PTR>(RemovePropW(window_, name_property))));
+}
+
+LRESULT ControlWindow::send(UINT message, WPARAM word, LPARAM pointer) const {
+    return SendMessageW(window_, message, word, pointer);
+}
+
+void ControlWindow::show(const Control& control, const Control* frame, const Scale& scale, ToolTips& tips) {
+    if (!window_) return;
+    show_text(control);
+    if (control.kind == Kind::check_box) send(BM_SETCHECK, control.ticked ? BST_CHECKED : BST_UNCHECKED);
+    if (control.tool_tip != shown_.tool_tip) tips.set(window_, control.tool_tip);
+
+    forms::Place place = control.place;
+    if (frame) {
+        place.left += frame->place.left;
+        place.top += frame->place.top;
+    }
+    if (place != place_) show_place(place, scale);
+    show_state(control.visible && (!frame || frame->visible), control.enabled);
+    shown_ = control;
+}
+
+void ControlWindow::show_text(const Control& control) {
+    if (control.kind == Kind::combo_box) {
+        show_list(control);
+        return;
+    }
+    // The window's own text is asked, not the one last shown: what a user has just typed stays untouched.
+    const Text& wanted = control.kind == Kind::text_box ? control.text : control.caption;
+    if (control.kind != Kind::image && text() != wanted) SetWindowTextW(window_, wide(wanted).c_str());
+}
+
+void ControlWindow::show_list(const Control& control) {
+    if (control.items != shown_.items) {
+        send(CB_RESETCONTENT);
+        for (const Text& item : control.items)
+            send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(item).c_str()));
+    }
+    if (text() == control.text) return;
+    send(CB_SETCURSEL, static_cast<WPARAM>(control.index));
+    if (control.index < 0) SetWindowTextW(window_, wide(control.text).c_str());
+}
+
+void ControlWindow::show_place(const forms::Place& place, const Scale& scale) {
+    constexpr int entries_of_an_open_list = 8;
+    place_ = place;
+    RECT pixels = scale.pixels(place);
+    // The height of a combo box is that of its open list; closed it is as high as its font wants.
+    if (shown_.kind == Kind::combo_box)
+        pixels.bottom += entries_of_an_open_list * static_cast<LONG>(send(CB_GETITEMHEIGHT));
+    MoveWindow(window_, pixels.left, pixels.top, pixels.right - pixels.left, pixels.bottom - pixels.top,
+               TRUE);
+}
+
+void ControlWindow::show_state(bool visible, bool enabled) {
+    // The keyboard must not stay with a control that the user can't reach any more.
+    if (GetFocus() == window_ && !(visible && enabled)) SendMessageW(GetParent(window_), WM_NEXTDLGCTL, 0, 0);
+    EnableWindow(window_, enabled);
+    ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+Text ControlWindow::text() const {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window_)) + 1, L'\0');
+    text.resize(
+        static_cast<std::size_t>(GetWindowTextW(window_, text.data(), static_cast<int>(text.size()))));
+    return text_of(text);
+}
+
+bool ControlWindow::is_ticked() const { return send(BM_GETCHECK) == BST_CHECKED; }
+
+int ControlWindow::chosen_entry() const { return static_cast<int>(send(CB_GETCURSEL)); }
+
+} // namespace ornavel::win32

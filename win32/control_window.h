@@ -1,0 +1,44 @@
+#pragma once
+
+#include "forms/form.h"
+#include "win32/tool_tips.h"
+#include "win32/twips.h"
+
+namespace ornavel::win32 {
+
+/// The window of one control: shows what the control says, and reads what the user changed. The window goes
+/// with the form's window. A window carries its control's name as a property, so that tools find it.
+class ControlWindow {
+public:
+    /// The property that holds the name, as a global atom.
+    static constexpr const wchar_t* name_property = L"Ornavel control";
+
+    /// Makes the window, hidden and empty. A kind of control that has no window of its own makes none.
+    ControlWindow(const forms::Control& control, HWND parent, int id, HFONT font);
+    void release_name() const;
+
+    HWND window() const { return window_; }
+    const Text& name() const { return shown_.name; }
+
+    /// Brings the window up to date with the control as it stands in the form.
+    void show(const forms::Control& control, const forms::Control* frame, const Scale& scale, ToolTips& tips);
+
+    /// What the user left in the window.
+    Text text() const;
+    bool is_ticked() const;
+    int chosen_entry() const;
+
+private:
+    void show_text(const forms::Control& control);
+    void show_list(const forms::Control& control);
+    void show_place(const forms::Place& place, const Scale& scale);
+    void show_state(bool visible, bool enabled);
+    LRESULT send(UINT message, WPARAM word = 0, LPARAM pointer = 0) const;
+
+    HWND window_ = nullptr;
+    forms::Control shown_; ///< the control as the window shows it
+    forms::Place place_{-1, -1, -1, -1};
+    bool new_ = true;
+};
+
+} // namespace ornavel::win32

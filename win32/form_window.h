@@ -1,0 +1,58 @@
+#pragma once
+
+#include "forms/form_user.h"
+#include "win32/control_window.h"
+#include "win32/handle.h"
+
+#include <optional>
+
+namespace ornavel::win32 {
+
+/// The window of a loaded form. What the user does in it becomes a step of a FormUser; what the form's code
+/// changed then shows in the window. The form outlives it.
+class FormWindow {
+public:
+    /// Makes the window, still hidden, in front of its owner. Throws Failure when the system has none to
+    /// give.
+    FormWindow(forms::Form& form, HWND owner);
+    ~FormWindow();
+    FormWindow(const FormWindow&) = delete;
+    FormWindow& operator=(const FormWindow&) = delete;
+
+    /// Shows the window and returns when the form is unloaded.
+    void run();
+
+private:
+    static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM word, LPARAM pointer);
+    bool handle(UINT message, WPARAM word);
+    bool translate(const MSG& message);
+
+    void centre();
+    void create_controls();
+    void refresh();
+    void show_frame();
+    void show_default_button();
+
+    void on_command(int id, int notification);
+    void on_notification(const ControlWindow& control, int notification);
+    void on_escape();
+    void on_moved();
+    void step(const std::function<void(forms::FormUser)>& act);
+
+    forms::Form& form_;
+    Scale scale_ = Scale::of_screen();
+    Owned<&DeleteObject> font_;
+    HWND window_ = nullptr;
+    std::optional<ToolTips> tips_;
+    std::vector<ControlWindow> controls_; ///< in the order of the form's own
+    Text caption_;                        ///< this and the next two: as the window shows them
+    forms::Place place_;
+    bool topmost_ = false;
+    bool refreshing_ = true; ///< what the windows tell now comes from the code, not from the user
+};
+
+/// Shows a loaded form in front of the window that is active in this thread, which the user can't reach until
+/// the form is unloaded. Where the system has no window to give, the form is closed by its frame.
+void show_form_modally(forms::Form& form) noexcept;
+
+} // namespace ornavel::win32
