@@ -35,6 +35,16 @@ Text with_pictures(Text html, const Named<std::string>& files) {
     return html;
 }
 
+/// Tags that begin a line of their own.
+constexpr TextView line_tags[] = {u"<br", u"<p", u"<div", u"<tr", u"<li", u"<img", u"<hr"};
+constexpr int margins = 100, height_of_tag = 11, letters_in_pixel = 9, lowest = 150, highest = 760;
+
+int count_of(TextView text, TextView part) {
+    int count = 0;
+    for (auto place = text.find(part); place != TextView::npos; place = text.find(part, place + 1)) ++count;
+    return count;
+}
+
 std::string frame(const std::string& document, int height) {
     return "<iframe sandbox height=\"" + std::to_string(height) + "\" srcdoc=\"" + escape(document) +
            "\"></iframe>\n";
@@ -42,12 +52,27 @@ std::string frame(const std::string& document, int height) {
 
 } // namespace
 
+int estimated_height(const std::string& html) {
+    const Text text = lower_case(from_utf8(html));
+    int tags = 0, letters = 0;
+    for (const TextView tag : line_tags) tags += count_of(text, tag);
+    bool in_tag = false;
+    for (const char16_t letter : text) {
+        if (letter == u'<') in_tag = true;
+        if (!in_tag) ++letters;
+        if (letter == u'>') in_tag = false;
+    }
+    return std::clamp(margins + tags * height_of_tag + letters / letters_in_pixel, lowest, highest);
+}
+
 std::string message_frame(const std::string& html, const Named<std::string>& files, int height) {
     return frame(closed_world + to_utf8(with_pictures(from_utf8(html), files)), height);
 }
 
 std::string plain_text_frame(const std::string& text, int height) {
-    return frame(closed_world + element("pre", "", escape(text)), height);
+    return frame(std::string(closed_world) + "<pre style=\"white-space: pre-wrap\">" + escape(text) +
+                     "</pre>",
+                 height);
 }
 
 } // namespace ornavel::rehearsal::report

@@ -4,6 +4,9 @@
 
 namespace ornavel::rehearsal::report {
 
+/// About as high as a message is, in pixels: without scripts a frame can't measure what it shows.
+int estimated_height(const std::string& html);
+
 /// A frame that shows a message as a reader would see it: pictures among the scenario's files are put in
 /// place, scripts do not run, and nothing that the message names can reach the network.
 std::string message_frame(const std::string& html, const Named<std::string>& files, int height);

@@ -1,18 +1,32 @@
 #include "rehearsal/report/gather.h"
 
 #include "base/encoding.h"
-#include "rehearsal/expectation.h"
 #include "rehearsal/native/native_play.h"
 
 #include <algorithm>
+#include <regex>
 
 namespace ornavel::rehearsal::report {
 namespace {
 
-Json without_times(Json outcome) {
-    if (outcome.contains("acts"))
-        for (auto& act : outcome["acts"]) act.erase("milliseconds");
-    return outcome;
+/// The date that begins a line of a log: the real DLL has the real clock.
+std::string without_dates(std::string text) {
+    static const std::regex log_date("\\d\\d-\\d\\d-\\d{4} \\d\\d:\\d\\d:\\d\\d");
+    return std::regex_replace(text, log_date, "(date)");
+}
+
+/// What two plays of one scenario must have in common.
+Json comparable(const Json& value) {
+    if (value.is_string()) return without_dates(value.get<std::string>());
+    if (!value.is_structured()) return value;
+    Json result = value.is_array() ? Json::array() : Json::object();
+    for (const auto& [name, part] : value.items()) {
+        if (value.is_array())
+            result.push_back(comparable(part));
+        else if (name != "milliseconds")
+            result[name] = comparable(part);
+    }
+    return result;
 }
 
 std::vector<GateVisit> gates_of(const std::vector<JournalEntry>& journal, std::size_t act) {
@@ -23,14 +37,15 @@ std::vector<GateVisit> gates_of(const std::vector<JournalEntry>& journal, std::s
     return gates;
 }
 
-std::vector<Send> sends_of(const Story& story) {
+std::vector<Send> sends_of(const Story& story, const Journal& journal) {
     std::vector<Send> sends;
     for (std::size_t i = 0; i < story.scenario.acts.size(); ++i) {
         const Act& act = story.scenario.acts[i];
         if (act.kind != Act::Kind::send) continue;
         const Json& record = story.outcome.at("acts").at(i);
         sends.push_back({i, static_cast<std::size_t>(act.number), record.value("cancel", false),
-                         record.value("milliseconds", 0.0), gates_of(story.journal, i)});
+                         record.value("milliseconds", 0.0), journal.host_uses(i),
+                         gates_of(story.journal, i)});
     }
     return sends;
 }
@@ -38,7 +53,7 @@ std::vector<Send> sends_of(const Story& story) {
 } // namespace
 
 std::vector<std::string> differences(const Json& left, const Json& right) {
-    const Json one = without_times(left), other = without_times(right);
+    const Json one = comparable(left), other = comparable(right);
     std::vector<std::string> names;
     for (const auto& [name, value] : one.items())
         if (!other.contains(name) || other[name] != value) names.push_back(name);
@@ -53,10 +68,11 @@ Story gather(Scenario scenario, const std::string& source, const std::optional<J
     Journal journal;
     const Json native = play_here(story.scenario, source, journal);
     story.journal = journal.entries();
-    story.with_dll = dll_outcome.has_value();
-    story.outcome = dll_outcome.value_or(native);
-    if (story.with_dll) story.differences = differences(native, *dll_outcome);
-    story.sends = sends_of(story);
+    // A DLL that crashed left nothing but its error, which is then a difference like any other.
+    story.with_dll = dll_outcome && dll_outcome->contains("items");
+    story.outcome = story.with_dll ? *dll_outcome : native;
+    if (dll_outcome) story.differences = differences(native, *dll_outcome);
+    story.sends = sends_of(story, journal);
     return story;
 }
 

@@ -10,7 +10,7 @@ namespace ornavel::rehearsal::report {
 /// real DLL given, that one is told and compared with the native one.
 Story gather(Scenario scenario, const std::string& source, const std::optional<Json>& dll_outcome);
 
-/// The members in which two outcomes differ. Times never count.
+/// The members in which two outcomes differ. Times and dates of logs never count.
 std::vector<std::string> differences(const Json& left, const Json& right);
 
 } // namespace ornavel::rehearsal::report

@@ -2,6 +2,7 @@
 #include "rehearsal/native/wine_play.h"
 #include "rehearsal/report/gather.h"
 #include "rehearsal/report/page.h"
+#include "rehearsal/report/reasons.h"
 #include "rehearsal/report/words.h"
 
 #include <algorithm>
@@ -36,13 +37,10 @@ Story play(const std::string& file, Binding binding) {
 
 /// One line for each send: what came in, what happened, how long it took, what was left.
 void print(const Story& story) {
-    for (const auto& send : story.sends) {
-        const std::string left = left_at(send);
-        std::cout << "  " << capital(what_came_in(story, send)) << ' ' << what_happened(story, send)
-                  << (left.empty() ? "" : ", left at “" + left + "”") << " ("
-                  << milliseconds(send.milliseconds) << ", " << counted(held_by(story), "reference")
-                  << " left)\n";
-    }
+    for (const auto& send : story.sends)
+        std::cout << "  " << capital(what_came_in(story, send)) << ' ' << what_happened(story, send) << ": "
+                  << end_of_the_way(send) << ", " << milliseconds(send.milliseconds) << ", "
+                  << counted(held_by(story), "reference") << " left\n";
     for (const auto& part : story.differences)
         std::cout << "    the two plays differ in \"" << part << "\"\n";
     for (const auto& line : story.mismatches) std::cout << "    " << line << '\n';

@@ -2,6 +2,7 @@
 
 #include "base/encoding.h"
 #include "rehearsal/report/html.h"
+#include "rehearsal/report/reasons.h"
 #include "rehearsal/report/words.h"
 
 #include <algorithm>
@@ -42,12 +43,11 @@ std::string figure(std::string_view number, std::string_view caption) {
 }
 
 std::string figures(const std::vector<Story>& stories) {
-    const auto number = [&](Fate fate) { return std::to_string(count_of(stories, fate)); };
+    std::string fates;
+    for (const Fate fate : {Fate::dressed, Fate::changed, Fate::untouched, Fate::held_back})
+        if (const auto count = count_of(stories, fate)) fates += figure(std::to_string(count), name_of(fate));
     return element("dl", "figures",
-                   figure(number(Fate::dressed), "dressed") + figure(number(Fate::untouched), "left alone") +
-                       figure(number(Fate::changed), "changed otherwise") +
-                       figure(number(Fate::held_back), "held back") +
-                       figure(milliseconds(slowest_send(stories)), "slowest send") +
+                   fates + figure(milliseconds(slowest_send(stories)), "slowest send") +
                        figure(std::to_string(references_left(stories)), "references left"));
 }
 
@@ -66,20 +66,18 @@ std::string how_it_was_played(const std::vector<Story>& stories) {
 }
 
 std::string outcome_pill(Fate fate) {
-    return text_element("span", fate == Fate::held_back ? "pill held" : "pill " + std::string(name_of(fate)),
-                        name_of(fate));
+    return text_element("span", "pill " + std::string(name_of(fate)), name_of(fate));
 }
 
 std::string row(const Story& story, std::size_t number, const Send& send) {
     const std::string link =
         "<a href=\"#story-" + std::to_string(number) + "\">" + escape(to_utf8(story.scenario.name)) + "</a>";
-    const std::string left = left_at(send);
-    return element(
-        "tr", "",
-        text_element("td", "number", std::to_string(number)) + element("td", "", link) +
-            element("td", "", outcome_pill(fate_of(story, send))) +
-            text_element("td", "gate", left.empty() ? "all gates passed" : "left at “" + left + "”") +
-            text_element("td", "number", milliseconds(send.milliseconds)));
+    return element("tr", "",
+                   text_element("td", "number", std::to_string(number)) + element("td", "", link) +
+                       element("td", "", outcome_pill(fate_of(story, send))) +
+                       text_element("td", "gate", end_of_the_way(send)) +
+                       text_element("td", "number", counted(send.calls, "call")) +
+                       text_element("td", "number", milliseconds(send.milliseconds)));
 }
 
 std::string overview(const std::vector<Story>& stories) {
@@ -93,11 +91,12 @@ std::string overview(const std::vector<Story>& stories) {
 
 std::string page(const std::vector<Story>& stories) {
     std::string sections;
+    std::size_t sends = 0;
+    for (const auto& story : stories) sends += story.sends.size();
     for (std::size_t i = 0; i < stories.size(); ++i) sections += story_section(stories[i], i + 1);
-    const std::string header =
-        text_element("p", "eyebrow", "Ornavel in rehearsal") +
-        text_element("h1", "", counted(stories.size(), "message") + " on the way out") +
-        how_it_was_played(stories) + figures(stories) + overview(stories);
+    const std::string header = text_element("p", "eyebrow", "Ornavel in rehearsal") +
+                               text_element("h1", "", counted(sends, "message") + " on the way out") +
+                               how_it_was_played(stories) + figures(stories) + overview(stories);
     return head + element("style", "", style_sheet) + "</head>\n<body>\n" + element("header", "", header) +
            element("main", "", sections) + "</body>\n</html>\n";
 }

@@ -15,6 +15,7 @@ struct Send {
     std::size_t act, item;
     bool cancelled;
     double milliseconds;
+    std::size_t calls;            ///< uses of the mail client's members
     std::vector<GateVisit> gates; ///< in the order in which the send reached them
 };
 

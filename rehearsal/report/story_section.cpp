@@ -3,14 +3,13 @@
 #include "base/encoding.h"
 #include "rehearsal/report/frame.h"
 #include "rehearsal/report/html.h"
+#include "rehearsal/report/reasons.h"
 #include "rehearsal/report/words.h"
 
 #include <algorithm>
 
 namespace ornavel::rehearsal::report {
 namespace {
-
-constexpr int tall = 640, low = 260; ///< heights of a frame, in pixels: a dressed message and a bare one
 
 /// The bodies of an item at one moment.
 struct Shown {
@@ -55,7 +54,9 @@ std::string marked_source(const std::string& source, const std::string& written)
            escape(source.substr(place + written.size()));
 }
 
-std::string sources(const Shown& before, const Shown& after) {
+std::string sources(const Story& story, const Send& send) {
+    const Shown before = as_given(story.scenario.items.at(send.item));
+    const Shown after = as_sent(story.outcome.at("items").at(send.item));
     const std::string both = element("pre", "", escape(source_of(before))) +
                              element("pre", "", marked_source(source_of(after), source_of(before)));
     return fold_out("Source before and after", element("div", "pair source", both));
@@ -69,39 +70,46 @@ std::string gate_rail(const Send& send) {
 }
 
 std::string sentence(const Story& story, const Send& send) {
-    std::string words = capital(what_came_in(story, send)) + " " + what_happened(story, send) + ". ";
-    const auto passed = static_cast<std::size_t>(std::ranges::count(send.gates, true, &GateVisit::passed));
-    const std::string left = left_at(send);
-    words += left.empty() ? "It passed all " + counted(passed, "gate")
-                          : "It passed " + counted(passed, "gate") + " and left at “" + left + "”";
-    return words + " in " + milliseconds(send.milliseconds) + ".";
+    return capital(what_came_in(story, send)) + " " + what_happened(story, send) + ". " +
+           way_through_the_gates(story, send) + " That took " + milliseconds(send.milliseconds) + " and " +
+           counted(send.calls, "call") + " into the mail client.";
 }
 
 std::string send_part(const Story& story, const Send& send) {
     const Item& item = story.scenario.items.at(send.item);
     const Shown before = as_given(item), after = as_sent(story.outcome.at("items").at(send.item));
-    const int height = fate_of(story, send) == Fate::dressed ? tall : low;
+    const int height = std::max(estimated_height(source_of(before)), estimated_height(source_of(after)));
     return text_element("p", "sentence", sentence(story, send)) +
            element("div", "pair",
                    letter("as the user wrote it", before, story, item, height) +
                        letter(send.cancelled ? "still with the user" : "as it went out", after, story, item,
                               height)) +
-           gate_rail(send) + sources(before, after);
+           gate_rail(send);
+}
+
+/// What a form says: its visible labels.
+std::string labels_of(const Json& form) {
+    std::string words;
+    for (const auto& control : form.value("controls", Json::object()))
+        if (text_of(control, "kind") == "Label" && control.value("visible", false))
+            words += text_of(control, "caption") + '\n';
+    return words;
+}
+
+std::string window(const Json& shown) {
+    const std::string title =
+        text_of(shown, "message box") + text_of(shown, "input box") + text_of(shown, "caption");
+    const std::string words = text_of(shown, "text") + text_of(shown, "prompt") + labels_of(shown);
+    const std::string answer = text_of(shown, "answer");
+    return element("li", "",
+                   text_element("strong", "", title) + text_element("span", "", words) +
+                       (answer.empty() ? "" : text_element("em", "", "answered " + answer)));
 }
 
 std::string windows_shown(const Story& story) {
-    std::string shown;
-    for (const auto& window : story.outcome.value("windows", Json::array())) {
-        const std::string title =
-            text_of(window, "message box") + text_of(window, "input box") + text_of(window, "form");
-        const std::string text =
-            text_of(window, "text") + text_of(window, "prompt") + text_of(window, "caption");
-        const std::string answer = text_of(window, "answer");
-        shown += element("li", "",
-                         text_element("strong", "", title) + text_element("span", "", text) +
-                             (answer.empty() ? "" : text_element("em", "", "answered " + answer)));
-    }
-    return shown.empty() ? shown : element("ul", "windows", shown);
+    std::string windows;
+    for (const auto& shown : story.outcome.value("windows", Json::array())) windows += window(shown);
+    return windows.empty() ? windows : element("ul", "windows", windows);
 }
 
 std::string verdicts(const Story& story) {
@@ -123,7 +131,9 @@ std::string story_section(const Story& story, std::size_t number) {
     std::string body = text_element("p", "eyebrow", "Story " + std::to_string(number)) +
                        text_element("h2", "", to_utf8(story.scenario.name));
     for (const auto& send : story.sends) body += send_part(story, send);
-    body += windows_shown(story) + journal_section(story) + verdicts(story);
+    body += windows_shown(story);
+    for (const auto& send : story.sends) body += sources(story, send);
+    body += journal_section(story) + verdicts(story);
     return "<section id=\"story-" + std::to_string(number) + "\">\n" + body + "</section>\n";
 }
 

@@ -62,7 +62,7 @@ pre { margin: 0; font: 12px/1.5 var(--mono); white-space: pre-wrap; overflow-wra
 mark { background: #fdf0c4; color: inherit; }
 .journal { width: 100%; font: 12.5px/1.5 var(--mono); }
 .journal td { padding: 2px 18px 2px 0; vertical-align: top; overflow-wrap: anywhere; }
-.journal .verb { width: 1%; color: var(--green); }
+.journal .verb { width: 1%; white-space: nowrap; overflow-wrap: normal; color: var(--green); }
 .journal .what { width: 34%; }
 .journal .value { color: var(--soft); }
 .windows { margin: 18px 0; padding: 0; list-style: none; }

@@ -1,6 +1,7 @@
 #include "rehearsal/report/words.h"
 
 #include "base/encoding.h"
+#include "rehearsal/report/reasons.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -29,7 +30,7 @@ std::string kind(const Item& item) {
     if (upper != u"IPM.NOTE") return "an item of the class " + to_utf8(item.message_class);
     if (item.editor_type == 1) return "a plain-text message";
     if (item.editor_type == 3) return "a rich-text message";
-    return "an HTML message";
+    return item.is_word_mail ? "a Word-written message" : "an HTML message";
 }
 
 std::string setting(const Story& story, const char* section, const char* key) {
@@ -38,7 +39,8 @@ std::string setting(const Story& story, const char* section, const char* key) {
     return text_of(keys, key);
 }
 
-std::string dressing(const Story& story) {
+std::string dressing(const Story& story, const Item& item) {
+    if (item.editor_type == 1) return "went out turned into HTML, and stamped";
     const std::string signature = setting(story, "User Settings", "Signature");
     const std::string sheet = setting(story, "User Settings", "Template");
     return "went out dressed in " + sheet +
@@ -74,7 +76,7 @@ std::string_view name_of(Fate fate) {
     case Fate::dressed:
         return "dressed";
     case Fate::changed:
-        return "changed";
+        return "changed otherwise";
     case Fate::untouched:
         return "left alone";
     default:
@@ -86,27 +88,20 @@ std::size_t held_by(const Story& story) {
     return story.outcome.value("references", Json::object()).value("held", std::size_t{0});
 }
 
-std::string left_at(const Send& send) {
-    const auto gate = std::ranges::find(send.gates, false, &GateVisit::passed);
-    return gate == send.gates.end() ? std::string() : gate->name;
-}
-
 std::string what_came_in(const Story& story, const Send& send) {
     const Item& item = story.scenario.items.at(send.item);
-    return kind(item) + " from " + mail_client(story.scenario.host.version) +
-           (item.is_word_mail ? ", written with Word" : "");
+    return kind(item) + " from " + mail_client(story.scenario.host.version);
 }
 
 std::string what_happened(const Story& story, const Send& send) {
     switch (fate_of(story, send)) {
     case Fate::dressed:
-        return dressing(story);
-    case Fate::changed: {
-        const bool same =
-            same_body(story.scenario.items.at(send.item), story.outcome.at("items").at(send.item));
-        return same ? "went out as it was written, with a note in its subject"
-                    : "went out changed, without the stamp";
-    }
+        return dressing(story, story.scenario.items.at(send.item));
+    case Fate::changed:
+        if (same_body(story.scenario.items.at(send.item), story.outcome.at("items").at(send.item)))
+            return "went out as it was written, with a note in its subject";
+        return left_at(send) == "internal mail" ? "went out with the short signature and no stamp"
+                                                : "went out changed, without the stamp";
     case Fate::untouched:
         return "went out exactly as it was written";
     default:

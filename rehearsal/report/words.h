@@ -13,10 +13,7 @@ std::string_view name_of(Fate fate);
 /// The mail client's objects that the add-in still held at the end.
 std::size_t held_by(const Story& story);
 
-/// The gate at which the send left; empty when it passed them all.
-std::string left_at(const Send& send);
-
-/// "An HTML message from Outlook 2003, written with Word"
+/// "a Word-written message from Outlook 2003"
 std::string what_came_in(const Story& story, const Send& send);
 /// "went out dressed in letterhead.htm with the signature short.htm, and stamped"
 std::string what_happened(const Story& story, const Send& send);

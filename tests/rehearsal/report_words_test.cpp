@@ -19,7 +19,7 @@ Story story_of(Json item_after, Item before = {}) {
     story.outcome = {{"items", Json::array({std::move(item_after)})},
                      {"settings", {{"User Settings", {{"Template", "a.htm"}, {"Signature", "b.htm"}}}}},
                      {"references", {{"held", 0}}}};
-    story.sends = {{0, 0, false, 1.5, {{"entry mode", true}, {"message class", true}}}};
+    story.sends = {{0, 0, false, 1.5, 0, {{"entry mode", true}, {"message class", true}}}};
     return story;
 }
 
@@ -52,6 +52,12 @@ TEST(ReportWords, AChangedBodyWithoutAStampIsSaidToBeChanged) {
     EXPECT_EQ(what_happened(story, story.sends[0]), "went out changed, without the stamp");
 }
 
+TEST(ReportWords, WhatLeftAtTheGateForInternalMailGotTheShortSignature) {
+    auto story = story_of(with(unchanged(), "HTMLBody", "<P>Hello<P>Jo"));
+    story.sends[0].gates = {{"internal mail", false}};
+    EXPECT_EQ(what_happened(story, story.sends[0]), "went out with the short signature and no stamp");
+}
+
 TEST(ReportWords, AMarkInTheSubjectAloneIsSaidToBeThat) {
     const auto story = story_of(with(unchanged(), "Subject", "Exclaimer"));
     EXPECT_EQ(what_happened(story, story.sends[0]), "went out as it was written, with a note in its subject");
@@ -72,14 +78,9 @@ TEST(ReportWords, WhatCameInNamesTheKindAndTheMailClient) {
     EXPECT_EQ(came_in(u"9.0.0.3821", {}), "an HTML message from Outlook 2000");
     EXPECT_EQ(came_in(u"10.0.2627", {.editor_type = 1}), "a plain-text message from Outlook 2002");
     EXPECT_EQ(came_in(u"11.0.5608", {.is_word_mail = true}),
-              "an HTML message from Outlook 2003, written with Word");
+              "a Word-written message from Outlook 2003");
     EXPECT_EQ(came_in(u"11.0.5608", {.message_class = u"IPM.Schedule.Meeting.Request"}),
               "a meeting request from Outlook 2003");
-}
-
-TEST(ReportWords, TheGateThatASendLeftAtIsTheFirstThatDidNotPass) {
-    EXPECT_EQ(left_at({0, 0, false, 0, {{"a", true}, {"b", false}}}), "b");
-    EXPECT_EQ(left_at({0, 0, false, 0, {{"a", true}}}), "");
 }
 
 TEST(ReportPage, NamesOfStoriesAreText) {
@@ -92,6 +93,14 @@ TEST(ReportPage, NeedsNothingOutsideItself) {
     const auto html = page({story_of(with(unchanged(), "HTMLBody", "<IMG src='http://a.example/'>"))});
     for (const char* outside : {"<script", "<link", "src=\"http", "url(", "@import"})
         EXPECT_EQ(html.find(outside), std::string::npos) << outside;
+}
+
+TEST(ReportDifferences, TheDateOfALogLineNeverCountsAndItsWordsDo) {
+    const auto log = [](const char* line) { return Json{{"files", {{"C:\\a.log", line}}}}; };
+    EXPECT_TRUE(
+        differences(log("Date: 11-20-2003 14:05:09, a"), log("Date: 01-02-2020 00:00:00, a")).empty());
+    EXPECT_EQ(differences(log("Date: 11-20-2003 14:05:09, a"), log("Date: 11-20-2003 14:05:09, b")).size(),
+              1u);
 }
 
 TEST(ReportDifferences, TimesNeverCountAndEveryOtherMemberDoes) {

@@ -1,0 +1,120 @@
+#include "rehearsal/report/reasons.h"
+
+#include "base/encoding.h"
+#include "rehearsal/report/words.h"
+
+#include <algorithm>
+
+namespace ornavel::rehearsal::report {
+namespace {
+
+constexpr std::string_view last_gate = "stamping";
+
+/// A setting's value before the story began.
+std::string given(const Story& story, TextView section, TextView key) {
+    for (const auto& [name, values] : story.scenario.settings)
+        for (const auto& [other, value] : values)
+            if (same_name(name, section) && same_name(other, key)) return to_utf8(value);
+    return {};
+}
+
+std::string quoted(const std::string& text) { return "“" + text + "”"; }
+
+using Reason = std::string (*)(const Story& story, const Item& item);
+
+std::string by_mode(const Story& story, const Item&) {
+    return "the mode (SettingButtonBar) is " + quoted(given(story, u"User Settings", u"SettingButtonBar")) +
+           ", and only “auto” dresses";
+}
+
+std::string by_class(const Story&, const Item& item) {
+    return "its class is " + to_utf8(item.message_class) + ", and only IPM.Note is dressed";
+}
+
+std::string by_folder(const Story&, const Item& item) {
+    return "it lies in the folder " + quoted(to_utf8(item.parent)) +
+           " and carries the stamp of an earlier send";
+}
+
+std::string by_recipients(const Story& story, const Item& item) {
+    const std::string setting = "SkipInternal is " + quoted(given(story, u"Admin Settings", u"SkipInternal"));
+    if (item.editor_type == 3) return setting + ", and rich text is then left as it is";
+    return setting + ", and every recipient counts as internal";
+}
+
+std::string by_template(const Story& story, const Item&) {
+    return "no default template is chosen (Template is " +
+           quoted(given(story, u"User Settings", u"Template")) + ")";
+}
+
+std::string by_signature(const Story& story, const Item&) {
+    return "no default signature is chosen (Signature is " +
+           quoted(given(story, u"User Settings", u"Signature")) + ")";
+}
+
+/// A reason in fixed words, or one that shows what it looked at.
+struct Row {
+    std::string_view gate;
+    std::string_view words;
+    Reason reason = nullptr;
+};
+
+constexpr Row rows[] = {
+    {"entry mode", {}, by_mode},
+    {"already tagged", "it carries a user property"},
+    {"message class", {}, by_class},
+    {"resend from the Outbox", {}, by_folder},
+    {"resend from Sent Items", {}, by_folder},
+    {"message class again", {}, by_class},
+    {"personal stationery", "WipeoutPersonalStationery is “True”, and the user has chosen stationery"},
+    {"internal mail", {}, by_recipients},
+    {"send as is", "SendAsIs was “True”, for this one message"},
+    {"mode off", {}, by_mode},
+    {"preview stamp", "its BillingInformation is “Preview”"},
+    {"preview send stamp", "the preview sends it, composed already"},
+    {"reply test", "Reply as is is “1”"},
+    {"other modes", {}, by_mode},
+    {"default template", {}, by_template},
+    {"default signature", {}, by_signature},
+    {"auto preview", "the preview was closed without Send"},
+    {"composition", "the template was refused"},
+};
+
+std::string reason(const Story& story, const Send& send, const std::string& gate) {
+    const auto row = std::ranges::find(rows, gate, &Row::gate);
+    if (row == std::end(rows)) return {};
+    return ": " +
+           (row->reason ? row->reason(story, story.scenario.items.at(send.item)) : std::string(row->words));
+}
+
+} // namespace
+
+std::string left_at(const Send& send) {
+    const auto gate = std::ranges::find(send.gates, false, &GateVisit::passed);
+    return gate == send.gates.end() ? std::string() : gate->name;
+}
+
+bool ended_by_error(const Send& send) {
+    return !send.gates.empty() && left_at(send).empty() && send.gates.back().name != last_gate;
+}
+
+std::string end_of_the_way(const Send& send) {
+    if (send.gates.empty()) return "not connected";
+    if (ended_by_error(send)) return "an error behind " + quoted(send.gates.back().name);
+    const std::string left = left_at(send);
+    return left.empty() ? "all gates passed" : "left at " + quoted(left);
+}
+
+std::string way_through_the_gates(const Story& story, const Send& send) {
+    if (send.gates.empty()) return "The add-in was not connected.";
+    const auto passed = static_cast<std::size_t>(std::ranges::count(send.gates, true, &GateVisit::passed));
+    const std::string gates = "It passed " + counted(passed, "gate"), left = left_at(send);
+    if (ended_by_error(send))
+        return gates + ", and behind " + quoted(send.gates.back().name) +
+               " an error ended the add-in's part.";
+    if (left.empty()) return "It passed all " + counted(passed, "gate") + ".";
+    return (passed == 0 ? "It left at the first gate, " : gates + " and left at ") + quoted(left) +
+           reason(story, send, left) + ".";
+}
+
+} // namespace ornavel::rehearsal::report
