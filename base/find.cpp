@@ -32,10 +32,8 @@ std::size_t find_one_by_one(TextView text, std::size_t from, std::span<const Pai
 }
 
 #ifdef ORNAVEL_SSE2
-// Processors of the time may lack SSE2, so that only this part of the file is compiled for it, and asked for
-// first.
-#pragma GCC push_options
-#pragma GCC target("sse2")
+// Processors of the time may lack SSE2: only these functions are compiled for it, and only called where it
+// is.
 
 constexpr std::size_t lanes = 8;
 
@@ -43,19 +41,22 @@ struct WidePair {
     __m128i first, second, first_fold, second_fold;
 };
 
-__m128i wide(char16_t unit) { return _mm_set1_epi16(static_cast<short>(unit)); }
+[[gnu::target("sse2")]] __m128i wide(char16_t unit) { return _mm_set1_epi16(static_cast<short>(unit)); }
 
-__m128i load(const char16_t* units) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(units)); }
+[[gnu::target("sse2")]] __m128i load(const char16_t* units) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(units));
+}
 
 /// All ones in each lane where the pair begins.
-__m128i beginnings(__m128i units, __m128i next_units, const WidePair& pair) {
+[[gnu::target("sse2")]] __m128i beginnings(__m128i units, __m128i next_units, const WidePair& pair) {
     return _mm_and_si128(_mm_cmpeq_epi16(_mm_or_si128(units, pair.first_fold), pair.first),
                          _mm_cmpeq_epi16(_mm_or_si128(next_units, pair.second_fold), pair.second));
 }
 
 /// Bits 2i and 2i+1 are set where a pair begins at units[i]; reads nine units.
 template <std::size_t count>
-unsigned beginnings_in_block(const char16_t* units, const WidePair* pairs, std::size_t number) {
+[[gnu::target("sse2")]] unsigned beginnings_in_block(const char16_t* units, const WidePair* pairs,
+                                                     std::size_t number) {
     const __m128i here = load(units), next = load(units + 1);
     __m128i found = beginnings(here, next, pairs[0]);
     for (std::size_t i = 1; i < (count != 0 ? count : number); ++i)
@@ -64,7 +65,8 @@ unsigned beginnings_in_block(const char16_t* units, const WidePair* pairs, std::
 }
 
 template <std::size_t count>
-std::size_t find_in_blocks(TextView text, std::size_t from, const WidePair* pairs, std::size_t number) {
+[[gnu::target("sse2")]] std::size_t find_in_blocks(TextView text, std::size_t from, const WidePair* pairs,
+                                                   std::size_t number) {
     const char16_t* units = text.data();
     const std::size_t last_block = text.size() - lanes - 1;
     std::size_t at = from;
@@ -78,17 +80,15 @@ std::size_t find_in_blocks(TextView text, std::size_t from, const WidePair* pair
     return found != 0 ? last_block + static_cast<unsigned>(std::countr_zero(found)) / 2 : nowhere;
 }
 
-std::size_t find_wide(TextView text, std::size_t from, std::span<const Pair> pairs) {
+[[gnu::target("sse2")]] std::size_t find_wide(TextView text, std::size_t from, std::span<const Pair> pairs) {
     std::array<WidePair, most_pairs> wide_pairs;
     for (std::size_t i = 0; i < pairs.size(); ++i)
         wide_pairs[i] = {wide(pairs[i].first), wide(pairs[i].second), wide(pairs[i].first_fold),
                          wide(pairs[i].second_fold)};
     const auto found = pairs.size() == 1 ? find_in_blocks<1>(text, from, wide_pairs.data(), 1)
                                          : find_in_blocks<0>(text, from, wide_pairs.data(), pairs.size());
-    return found != nowhere ? found : find_one_by_one(text, std::max(from, text.size() - 1), pairs);
+    return found != nowhere ? found : find_one_by_one(text, text.size() - 1, pairs);
 }
-
-#pragma GCC pop_options
 
 bool has_sse2() {
 #ifdef __x86_64__

@@ -1,11 +1,12 @@
 #include "bench/harness.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <malloc.h>
 #include <new>
+#include <sys/resource.h>
 
 namespace ornavel::bench {
 namespace {
@@ -13,12 +14,25 @@ namespace {
 std::size_t live = 0, peak = 0;
 int short_rows = 0;
 
+double seconds_of(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
+double processor_seconds() {
+    timespec own{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &own);
+    rusage children{};
+    getrusage(RUSAGE_CHILDREN, &children);
+    return static_cast<double>(own.tv_sec) + static_cast<double>(own.tv_nsec) * 1e-9 +
+           seconds_of(children.ru_utime) + seconds_of(children.ru_stime);
+}
+
 } // namespace
 
 double seconds(const std::function<void()>& body) {
-    const auto begin = std::chrono::steady_clock::now();
+    const double begin = processor_seconds();
     body();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+    return processor_seconds() - begin;
 }
 
 std::vector<double> medians(std::span<const Run> contenders, int rounds) {

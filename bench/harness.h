@@ -14,7 +14,8 @@ namespace ornavel::bench {
 /// One run of a contender; gives back its seconds, without what it had to prepare.
 using Run = std::function<double()>;
 
-/// Seconds that the body takes.
+/// Seconds of the processor that the body and the processes it ran took: what else a busy machine does
+/// doesn't count.
 double seconds(const std::function<void()>& body);
 
 /// The median seconds of each contender over that many rounds, in which they take turns.

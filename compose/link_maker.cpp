@@ -16,19 +16,19 @@ namespace ornavel::compose {
 namespace {
 
 constexpr TextView terminators = u" \r\t)?,:;!";
+constexpr TextView after_word_in_link = u"\"<";
 
-constexpr auto ends_word = [] {
-    std::array<bool, 64> ends{};
-    for (const char16_t unit : terminators) ends[unit] = true;
-    return ends;
+/// What a unit means in a word: its end, or what follows a word in its own link.
+enum class Meaning : unsigned char { none, end, stem_end };
+
+constexpr auto meanings = [] {
+    std::array<Meaning, 64> table{};
+    for (const char16_t unit : terminators) table[unit] = Meaning::end;
+    for (const char16_t unit : after_word_in_link) table[unit] = Meaning::stem_end;
+    return table;
 }();
 
-constexpr bool ends_stem(char16_t unit) { return unit == u'"' || unit == u'<'; }
-
-std::size_t end_of_word(TextView text, std::size_t at) {
-    while (at < text.size() && (text[at] >= ends_word.size() || !ends_word[text[at]])) ++at;
-    return at;
-}
+Meaning meaning_of(char16_t unit) { return unit < meanings.size() ? meanings[unit] : Meaning::none; }
 
 void append_link(Text& text, TextView word) {
     text.append(u"<a href=\"http://").append(word).append(u"\">").append(word).append(u"</a>");
@@ -36,7 +36,7 @@ void append_link(Text& text, TextView word) {
 
 class LinkMaker {
 public:
-    LinkMaker(TextView text, TextView prefix) : text_(text), prefix_(prefix), words_(0), stems_(0) {}
+    LinkMaker(TextView text, TextView prefix) : text_(text), prefix_(prefix), words_({}), stems_({}) {}
 
     Text run() {
         find_stretches();
@@ -54,16 +54,20 @@ private:
     void find_stretches() {
         auto at = find_text(text_, prefix_);
         while (at != TextView::npos) {
-            const std::size_t end = end_of_word(text_, at + prefix_.size());
-            const std::size_t begin = at;
+            const std::size_t begin = at, end = end_of_word(at + prefix_.size());
             at = find_text(text_, prefix_, at + prefix_.size());
-            const bool single = at >= end;
-            stretches_.push_back({begin, end, single});
-            while (at < end) {
-                ++inner_words_;
-                at = find_text(text_, prefix_, at + prefix_.size());
-            }
+            stretches_.push_back({begin, end, at >= end});
+            while (at < end) at = find_text(text_, prefix_, at + prefix_.size());
         }
+    }
+
+    std::size_t end_of_word(std::size_t at) {
+        for (; at < text_.size(); ++at) {
+            const Meaning meaning = meaning_of(text_[at]);
+            if (meaning == Meaning::end) break;
+            has_stems_ = has_stems_ || meaning == Meaning::stem_end;
+        }
+        return at;
     }
 
     template <typename Take>
@@ -76,18 +80,17 @@ private:
     }
 
     void collect_words() {
-        words_ = WordList(stretches_.size() + inner_words_);
-        std::size_t stems = 0;
+        std::vector<TextView> words;
+        words.reserve(stretches_.size());
         for (const Stretch& stretch : stretches_)
-            each_word(stretch, [&](TextView word) {
-                words_.add(word);
-                stems += static_cast<std::size_t>(std::ranges::count_if(word, ends_stem));
-            });
-        if (stems == 0) return;
-        stems_ = WordList(stems);
+            each_word(stretch, [&](TextView word) { words.push_back(word); });
+        words_ = WordList(words);
+        if (!has_stems_) return;
+        std::vector<TextView> stems;
         for (std::uint32_t i = 0; i < words_.size(); ++i)
             for (std::size_t at = prefix_.size(); at < words_[i].size(); ++at)
-                if (ends_stem(words_[i][at])) stems_.add(words_[i].substr(0, at));
+                if (meaning_of(words_[i][at]) == Meaning::stem_end) stems.push_back(words_[i].substr(0, at));
+        stems_ = WordList(stems);
     }
 
     /// Whether the word's link is all that becomes of it: no other word stands in it, nor in `word">word</a>`
@@ -142,7 +145,7 @@ private:
 
     TextView text_, prefix_;
     std::vector<Stretch> stretches_;
-    std::size_t inner_words_ = 0;
+    bool has_stems_ = false;
     WordList words_;
     WordList stems_; ///< what stands in a word in front of a unit that follows a word in its link
 };

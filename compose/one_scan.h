@@ -35,7 +35,9 @@ private:
     bool solve(TextView text, Region& region);
     bool widen(TextView text, Region& region);
     void join_previous(Region& region);
-    bool is_barrier(TextView text, std::size_t at) const { return !passes_.living_[text[at]]; }
+    bool is_barrier(TextView text, std::size_t at) const {
+        return text[at] < passes_.living_.size() && !passes_.living_[text[at]];
+    }
     std::size_t reach() const { return 2 * passes_.longest_; }
     std::size_t left_of(TextView text, std::size_t at, std::size_t reach) const;
     std::size_t right_of(TextView text, std::size_t at, std::size_t limit) const;

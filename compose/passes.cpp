@@ -52,12 +52,20 @@ std::size_t copy_replaced(TextView text, Text& out, TextView search, TextView re
 Passes::Passes(std::span<const Pass> ordered) {
     rows_.reserve(ordered.size());
     for (const Pass& pass : ordered) {
-        rows_.push_back({pass.search, pass.replacement, kind_of(pass.search)});
-        if (pass.search.empty()) continue;
+        if (pass.search.empty()) {
+            rows_.push_back({pass.search, pass.replacement, 0, 0});
+            continue;
+        }
+        rows_.push_back({pass.search, pass.replacement, kind_of(pass.search), 0});
         kinds_ |= rows_.back().kind;
         longest_ = std::max(longest_, pass.search.size());
-        for (const char16_t unit : pass.search) living_.set(unit);
-        add_pair(pass.search);
+        for (const char16_t unit : pass.search)
+            if (unit < living_.size()) living_[unit] = true;
+        add_pair(pass.search, rows_.back().kind);
+    }
+    for (std::size_t i = rows_.size(); i-- > 0;) {
+        const bool alike = i + 1 < rows_.size() && rows_[i + 1].kind == rows_[i].kind;
+        rows_[i].other = alike ? rows_[i + 1].other : i + 1;
     }
 }
 
@@ -85,10 +93,9 @@ Passes::FieldKinds Passes::kinds_in(TextView text) const {
 }
 
 /// A search text with a field is sought by the field's opening, any other by its own first units.
-void Passes::add_pair(TextView search) {
-    const bool has_field = kind_of(search) != no_field;
-    if (!has_field) without_field_.push_back(search);
-    const TextView sought = has_field ? field_begin : search;
+void Passes::add_pair(TextView search, FieldKinds kind) {
+    if (kind == no_field) without_field_.push_back(search);
+    const TextView sought = kind == no_field ? search : field_begin;
     const Pair pair =
         sought.size() == 1 ? Pair{sought[0], any_unit, 0, any_unit} : Pair{sought[0], sought[1]};
     const auto same = [&](const Pair& other) {
@@ -100,13 +107,18 @@ void Passes::add_pair(TextView search) {
 
 std::size_t Passes::make(Text& text, Text& spare, Trace& trace) const {
     FieldKinds present = kinds_in(text);
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
+    for (std::size_t i = 0; i < rows_.size();) {
         const Row& row = rows_[i];
-        if ((row.kind & present) == 0) continue;
-        const auto first = find_text(text, row.search);
-        if (first == TextView::npos) continue;
-        if (!replace(text, spare, row, first, trace)) return i;
-        present = kinds_in(text);
+        if ((row.kind & present) == 0) {
+            i = row.other;
+            continue;
+        }
+        const auto first = row.search.size() <= text.size() ? find_text(text, row.search) : TextView::npos;
+        if (first != TextView::npos) {
+            if (!replace(text, spare, row, first, trace)) return i;
+            present = kinds_in(text);
+        }
+        ++i;
     }
     return rows_.size();
 }

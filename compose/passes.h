@@ -3,7 +3,6 @@
 #include "base/find.h"
 
 #include <array>
-#include <bitset>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -42,6 +41,7 @@ private:
         TextView search;
         TextView replacement;
         FieldKinds kind;
+        std::size_t other; ///< the next row of another kind
     };
 
     /// What the passes left alone at both ends of a text, and how long it was at its longest.
@@ -53,14 +53,15 @@ private:
     static FieldKinds kind_of(TextView search);
     FieldKinds kinds_in(TextView text) const;
 
-    void add_pair(TextView search);
+    void add_pair(TextView search, FieldKinds kind);
     std::size_t make(Text& text, Text& spare, Trace& trace) const;
     static bool replace(Text& text, Text& spare, const Row& row, std::size_t first, Trace& trace);
 
     std::vector<Row> rows_;
-    std::vector<TextView> without_field_;
+    std::vector<TextView> without_field_; ///< the search texts that are known by no field
     std::vector<Pair> pairs_;
-    std::bitset<0x10000> living_; ///< the units that occur in a search text; any other unit is a barrier
+    /// The units that occur in a search text. Another one is a barrier; beyond these none counts as one.
+    std::array<bool, 256> living_{};
     FieldKinds kinds_ = 0;
     std::size_t longest_ = 0;
 };

@@ -1,6 +1,7 @@
 #include "compose/word_list.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 
@@ -27,11 +28,21 @@ std::uint32_t hash_of(TextView word) {
 
 } // namespace
 
-WordList::WordList(std::size_t most) : slots_(std::bit_ceil(2 * most + 1)) {
-    words_.reserve(most);
-    const std::size_t bits = std::bit_ceil(std::max<std::size_t>(16 * most, 64));
+WordList::WordList(std::span<const TextView> appearing) : slots_(std::bit_ceil(2 * appearing.size() + 1)) {
+    words_.reserve(appearing.size());
+    const std::size_t bits = std::bit_ceil(std::max<std::size_t>(16 * appearing.size(), 64));
     endings_.resize(bits / 64);
     ending_shift_ = 64 - std::countr_zero(bits);
+
+    // Slots of a long list are far apart in memory: each is asked for a few words before it is needed.
+    constexpr std::size_t ahead = 16;
+    std::array<std::uint32_t, ahead> hashes{};
+    for (std::size_t i = 0; i < appearing.size() + ahead; ++i) {
+        if (i >= ahead) add(appearing[i - ahead], hashes[i % ahead]);
+        if (i >= appearing.size()) continue;
+        hashes[i % ahead] = hash_of(appearing[i]);
+        __builtin_prefetch(&slots_[hashes[i % ahead] & (slots_.size() - 1)]);
+    }
 }
 
 std::size_t WordList::slot_of(TextView word, std::uint32_t hash) const {
@@ -53,8 +64,7 @@ bool WordList::may_be_word(TextView word) const {
     return (endings_[bit / 64] >> (bit % 64) & 1) != 0;
 }
 
-void WordList::add(TextView word) {
-    const std::uint32_t hash = hash_of(word);
+void WordList::add(TextView word, std::uint32_t hash) {
     Slot& slot = slots_[slot_of(word, hash)];
     if (slot.number != none) return;
     slot = {hash, static_cast<std::uint32_t>(words_.size())};

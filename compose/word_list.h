@@ -3,6 +3,7 @@
 #include "base/text.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace ornavel::compose {
@@ -11,12 +12,11 @@ namespace ornavel::compose {
 /// it stands in outlives the list.
 class WordList {
 public:
-    /// With room for this many words.
-    explicit WordList(std::size_t most);
+    /// The words as they appear, with repetitions.
+    explicit WordList(std::span<const TextView> appearing);
 
     static constexpr std::uint32_t none = 0xFFFFFFFF;
 
-    void add(TextView word);
     /// A word's number, or none.
     std::uint32_t find(TextView word) const;
     /// The least number, from the given one on, of a word that the text begins with, or none.
@@ -33,6 +33,7 @@ private:
         std::uint32_t number = none;
     };
 
+    void add(TextView word, std::uint32_t hash);
     std::size_t slot_of(TextView word, std::uint32_t hash) const;
     std::size_t ending_bit(TextView word) const;
     bool may_be_word(TextView word) const;

@@ -37,8 +37,7 @@ private:
 
     HWND window_ = nullptr;
     forms::Control shown_; ///< the control as the window shows it
-    forms::Place place_{-1, -1, -1, -1};
-    bool new_ = true;
+    forms::Place place_;   ///< within the form, also for a control that stands in a frame
 };
 
 } // namespace ornavel::win32

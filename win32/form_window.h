@@ -12,17 +12,20 @@ namespace ornavel::win32 {
 /// changed then shows in the window. The form outlives it.
 class FormWindow {
 public:
-    /// Makes the window, still hidden, in front of its owner. Throws Failure when the system has none to
-    /// give.
-    FormWindow(forms::Form& form, HWND owner);
+    explicit FormWindow(forms::Form& form);
     ~FormWindow();
     FormWindow(const FormWindow&) = delete;
     FormWindow& operator=(const FormWindow&) = delete;
 
+    /// Makes the window, still hidden, in front of its owner. Throws Failure when the system has none to
+    /// give.
+    void open(HWND owner);
     /// Shows the window and returns when the form is unloaded.
     void run();
 
 private:
+    static constexpr int first_id = 100; // above the numbers that dialogs keep for themselves
+
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM word, LPARAM pointer);
     bool handle(UINT message, WPARAM word);
     bool translate(const MSG& message);

@@ -66,6 +66,15 @@ TEST_F(FormUserTest, AListThatIsFilledWhenItDropsDownOffersItsEntries) {
     EXPECT_EQ(form[u"cboSize"].text, u"three");
 }
 
+TEST_F(FormUserTest, OpeningAListRunsItsHandlerAndChoosesNothing) {
+    note(u"cboSize", Event::drop_down, u"open;");
+    note(u"cboSize", Event::click, u"chosen;");
+    user.drop_down(u"cboSize");
+    EXPECT_EQ(events, u"open;");
+    EXPECT_EQ(form[u"cboSize"].index, -1);
+    EXPECT_THROW(user.drop_down(u"txtNote"), UnusableStep);
+}
+
 TEST_F(FormUserTest, TextTypedIntoATextBoxRunsItsChange) {
     note(u"txtNote", Event::change, u"typed");
     user.set_text(u"txtNote", u"hello");

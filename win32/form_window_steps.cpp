@@ -1,0 +1,124 @@
+// What the user does in a form's window, as steps of a FormUser.
+#include "win32/form_window.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ornavel::win32 {
+
+using forms::Control;
+using forms::FormUser;
+using forms::Kind;
+
+/// The keys and clicks of a text box that dialogs keep to themselves.
+bool FormWindow::translate(const MSG& message) {
+    const auto box = std::ranges::find(controls_, message.hwnd, &ControlWindow::window);
+    if (box == controls_.end() || form_[box->name()].kind != Kind::text_box) return false;
+    if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
+        on_escape();
+        return true;
+    }
+    if (message.message != WM_LBUTTONDBLCLK) return false;
+    step([&](FormUser user) { user.double_click(box->name()); });
+    return true;
+}
+
+INT_PTR CALLBACK FormWindow::procedure(HWND window, UINT message, WPARAM word, LPARAM pointer) {
+    if (message == WM_INITDIALOG) {
+        SetWindowLongPtrW(window, DWLP_USER, pointer);
+        return FALSE;
+    }
+    auto* const self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, DWLP_USER));
+    return self && self->handle(message, word);
+}
+
+bool FormWindow::handle(UINT message, WPARAM word) {
+    switch (message) {
+    case WM_COMMAND:
+        on_command(LOWORD(word), HIWORD(word));
+        return true;
+    case WM_CLOSE:
+        step([](FormUser user) { user.close(); });
+        return true;
+    case WM_MOVE:
+    case WM_SIZE:
+        on_moved();
+        return false;
+    case WM_DESTROY:
+        for (const ControlWindow& control : controls_) control.release_name();
+        window_ = nullptr;
+        // Windows that go with their owner take their form along.
+        step([](FormUser user) { user.close(); });
+        return false;
+    default:
+        return false;
+    }
+}
+
+void FormWindow::on_command(int id, int notification) {
+    if (refreshing_) return;
+    if (id == IDCANCEL) on_escape();
+    const int index = id - first_id;
+    if (index >= 0 && static_cast<std::size_t>(index) < controls_.size())
+        on_notification(controls_[static_cast<std::size_t>(index)], notification);
+}
+
+void FormWindow::on_notification(const ControlWindow& control, int notification) {
+    const Text& name = control.name();
+    const Kind kind = form_[name].kind;
+    // Other notifications change nothing that the form knows, and some come before the change they tell of.
+    const auto told = [&](Kind sender, int wanted) { return kind == sender && notification == wanted; };
+    if (told(Kind::command_button, BN_CLICKED))
+        step([&](FormUser user) { user.click(name); });
+    else if (told(Kind::check_box, BN_CLICKED))
+        step([&](FormUser user) { user.tick(name, control.is_ticked()); });
+    else if (told(Kind::text_box, EN_CHANGE) || told(Kind::combo_box, CBN_EDITCHANGE))
+        step([&](FormUser user) { user.set_text(name, control.text()); });
+    else if (told(Kind::combo_box, CBN_DROPDOWN))
+        step([&](FormUser user) { user.drop_down(name); });
+    else if (told(Kind::combo_box, CBN_SELCHANGE))
+        step([&](FormUser user) { user.select(name, control.chosen_entry()); });
+    else if (told(Kind::label, STN_CLICKED) || told(Kind::image, STN_CLICKED))
+        step([&](FormUser user) { user.click(name); });
+    else if (told(Kind::label, STN_DBLCLK) || told(Kind::image, STN_DBLCLK))
+        step([&](FormUser user) { user.double_click(name); });
+}
+
+/// Presses the button that stands for Escape; a form without one is closed by its frame.
+void FormWindow::on_escape() {
+    const auto button = std::ranges::find_if(form_.controls(), [](const Control& control) {
+        return control.is_cancel && control.visible && control.enabled;
+    });
+    step([&](FormUser user) {
+        if (button == form_.controls().end())
+            user.close();
+        else
+            user.click(button->name);
+    });
+}
+
+void FormWindow::on_moved() {
+    RECT frame;
+    GetWindowRect(window_, &frame);
+    const RECT shown = scale_.pixels(place_);
+    if (refreshing_ || EqualRect(&frame, &shown)) return;
+    const forms::Place before = std::exchange(place_, scale_.twips(frame));
+    step([&](FormUser user) {
+        user.move(place_.left, place_.top);
+        if (place_.width != before.width || place_.height != before.height)
+            user.resize(place_.width, place_.height);
+    });
+}
+
+/// Runs the user's step, and shows what the form's code made of it. A step that the form refuses changes
+/// nothing; nothing is thrown through the system's windows.
+void FormWindow::step(const std::function<void(FormUser)>& act) {
+    attempt([&] {
+        if (form_.is_loaded()) act(FormUser(form_));
+    });
+    attempt([&] { refresh(); });
+    // Wakes the loop when the message came from elsewhere than its queue.
+    if (!form_.is_loaded()) PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
+}
+
+} // namespace ornavel::win32
