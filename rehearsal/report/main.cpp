@@ -27,10 +27,10 @@ CommandLine read_command_line(const std::vector<std::string>& words) {
 
 Story play(const std::string& file, Binding binding) {
     const Json json = parse_json(load_file(file), file);
-    Scenario scenario = read_scenario(json, file, binding);
+    const Loaded loaded{file, json, read_scenario(json, file, binding)};
     std::optional<Json> with_dll;
-    if (binding == Binding::wine) with_dll = play_under_wine(json, scenario, file);
-    Story story = gather(std::move(scenario), file, with_dll);
+    if (binding == Binding::wine) with_dll = play_under_wine({loaded}).front();
+    Story story = gather(loaded.scenario, file, with_dll);
     if (story.scenario.expect) story.mismatches = mismatches(*story.scenario.expect, story.outcome);
     return story;
 }

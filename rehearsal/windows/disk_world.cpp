@@ -82,6 +82,15 @@ void DiskWorld::clear() const {
         if (!own_folders_.contains(*folder)) RemoveDirectoryW(win32::wide(*folder).c_str());
 }
 
+void DiskWorld::remove_folder(TextView path) const {
+    Listing inside;
+    list_below(Text(path), inside);
+    for (const auto& [file, stamp] : inside.files) DeleteFileW(win32::wide(file).c_str());
+    for (auto folder = inside.folders.rbegin(); folder != inside.folders.rend(); ++folder)
+        RemoveDirectoryW(win32::wide(*folder).c_str());
+    if (!RemoveDirectoryW(win32::wide(path).c_str())) win32::fail(path, GetLastError());
+}
+
 void DiskWorld::add_to(Snapshot& snapshot) const {
     const Listing now = list_drive();
     const win32::WindowsFiles files;

@@ -12,6 +12,8 @@ public:
 
     /// Removes what rehearsals have left behind.
     void clear() const;
+    /// With everything in it.
+    void remove_folder(TextView path) const;
     /// Files that nobody has touched since the beginning are there with their size and time in place of
     /// their bytes.
     void add_to(Snapshot& snapshot) const;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "rehearsal/windows/box_user.h"
 #include "rehearsal/windows/disk_world.h"
 #include "rehearsal/windows/launch_recorder.h"
 #include "rehearsal/windows/registry_world.h"
+#include "rehearsal/windows/screen_user.h"
 #include "win32/windows_files.h"
 
 namespace ornavel::rehearsal {
@@ -19,6 +19,7 @@ public:
     Snapshot snapshot() const override;
     Files& files() override { return files_; }
     Registry& registry() override { return registry_; }
+    void remove_folder(TextView path) override { disk_.remove_folder(path); }
     void change_settings(const SettingsTree& settings) override;
     void set_clock(const LocalTime&) override { throw Unusable("clock: native only"); }
     bool tray(const Act&) override { return false; }
@@ -27,6 +28,9 @@ public:
     Json launched() const override { return launches_.launched(); }
     Json windows() const override { return screen_.windows(); }
     Json tray_outcome() const override;
+
+    /// All that can be done when the add-in takes the process along.
+    void put_back_registry() { registry_.put_back(); }
 
     /// What this module starts is recorded from now on.
     void watch(HMODULE module) { launches_.watch(module); }
@@ -37,7 +41,7 @@ private:
     RegistryWorld registry_;
     win32::WindowsFiles files_;
     LaunchRecorder launches_;
-    BoxUser screen_;
+    ScreenUser screen_;
 };
 
 } // namespace ornavel::rehearsal
