@@ -1,4 +1,3 @@
-#include "rehearsal/expectation.h"
 #include "rehearsal/native/wine_play.h"
 #include "rehearsal/report/gather.h"
 #include "rehearsal/report/page.h"
@@ -25,14 +24,23 @@ CommandLine read_command_line(const std::vector<std::string>& words) {
         words[0] == "native" ? Binding::native : Binding::wine, words[1], {words.begin() + 2, words.end()}};
 }
 
-Story play(const std::string& file, Binding binding) {
-    const Json json = parse_json(load_file(file), file);
-    Scenario scenario = read_scenario(json, file, binding);
-    std::optional<Json> with_dll;
-    if (binding == Binding::wine) with_dll = play_under_wine(json, scenario, file);
-    Story story = gather(std::move(scenario), file, with_dll);
-    if (story.scenario.expect) story.mismatches = mismatches(*story.scenario.expect, story.outcome);
-    return story;
+std::vector<Loaded> load(const CommandLine& line) {
+    std::vector<Loaded> all;
+    for (const auto& file : line.scenarios) {
+        const Json json = parse_json(load_file(file), file);
+        all.push_back({file, json, read_scenario(json, file, line.binding)});
+    }
+    return all;
+}
+
+std::vector<Story> play(const std::vector<Loaded>& all, Binding binding) {
+    std::vector<Json> with_dll;
+    if (binding == Binding::wine) with_dll = play_under_wine(all);
+    std::vector<Story> stories;
+    for (std::size_t i = 0; i < all.size(); ++i)
+        stories.push_back(
+            gather(all[i].scenario, all[i].file, with_dll.empty() ? std::optional<Json>() : with_dll[i]));
+    return stories;
 }
 
 /// One line for each send: what came in, what happened, how long it took, what was left.
@@ -47,15 +55,13 @@ void print(const Story& story) {
 }
 
 bool is_good(const Story& story) {
-    return story.outcome.at("error").is_null() && story.differences.empty() && story.mismatches.empty();
+    return story.outcome.at("error").is_null() && held_by(story) == 0 && story.differences.empty() &&
+           story.mismatches.empty();
 }
 
 int report(const CommandLine& line) {
-    std::vector<Story> stories;
-    for (const auto& file : line.scenarios) {
-        stories.push_back(play(file, line.binding));
-        print(stories.back());
-    }
+    const auto stories = play(load(line), line.binding);
+    std::ranges::for_each(stories, print);
     std::ofstream stream(line.page, std::ios::binary);
     if (!(stream << page(stories)).flush()) throw Unusable(line.page + ": can't be written");
     std::cout << "The report: " << line.page << '\n';
