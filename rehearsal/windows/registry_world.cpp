@@ -89,12 +89,17 @@ bool is_left_out(TextView path) {
     return false;
 }
 
+Text below(Text key, TextView name) {
+    if (!key.empty()) key += u'\\';
+    return key.append(name);
+}
+
 void collect(const Text& path, ByName<ByName<RegistryValue>>& keys) {
     if (is_left_out(path)) return;
     const OpenKey key(path, KEY_READ);
     if (!key) return;
-    if (!path.empty()) keys[Text(user_root) + path] = values_of(key.get());
-    for (const Text& name : subkeys_of(key.get())) collect(path.empty() ? name : path + u'\\' + name, keys);
+    if (!path.empty()) keys[Text(user_root).append(path)] = values_of(key.get());
+    for (const Text& name : subkeys_of(key.get())) collect(below(path, name), keys);
 }
 
 void write(HKEY key, TextView name, const RegistryValue& value) {
@@ -139,7 +144,7 @@ bool RegistryWorld::remove_key(TextView key) {
 
 void RegistryWorld::change_settings(const SettingsTree& settings) {
     for (const auto& [section, keys] : settings) {
-        auto stored = win32::RegistryKey::create(Text(settings_key) + u'\\' + section);
+        auto stored = win32::RegistryKey::create(below(Text(settings_key), section));
         for (const auto& [key, value] : keys) stored.set(key, value);
     }
 }
@@ -149,7 +154,7 @@ void RegistryWorld::add_to(Snapshot& snapshot) const {
     const OpenKey settings(settings_key, KEY_READ);
     if (!settings) return;
     for (const Text& section : subkeys_of(settings.get())) {
-        const OpenKey key(Text(settings_key) + u'\\' + section, KEY_READ);
+        const OpenKey key(below(Text(settings_key), section), KEY_READ);
         for (const auto& [name, value] : values_of(key.get()))
             if (const auto* text = std::get_if<Text>(&value)) snapshot.settings[section][name] = *text;
     }

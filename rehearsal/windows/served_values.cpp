@@ -31,7 +31,7 @@ ServedArguments::ServedArguments(DISPPARAMS& parameters) {
         VARIANT& argument = parameters.rgvarg[i];
         if (argument.vt == (VT_BYREF | VT_VARIANT)) {
             places_.push_back({argument.pvarVal, std::make_unique<host::Result>()});
-            values_.push_back(places_.back().result.get());
+            values_.emplace_back(places_.back().result.get());
         } else {
             values_.push_back(as_it_was(win32::to_value(argument)));
         }
