@@ -25,11 +25,6 @@ CommandLine read_command_line(const std::vector<std::string>& words) {
         words[0] == "native" ? Binding::native : Binding::wine, words[1], {words.begin() + 2, words.end()}};
 }
 
-Loaded load(const std::string& file, Binding binding) {
-    const Json json = parse_json(load_file(file), file);
-    return {file, json, read_scenario(json, file, binding)};
-}
-
 Story tell(const Loaded& loaded, const std::optional<Json>& with_dll) {
     Story story = gather(loaded.scenario, loaded.file, with_dll);
     if (story.scenario.expect) story.mismatches = mismatches(*story.scenario.expect, story.outcome);
