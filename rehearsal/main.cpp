@@ -44,21 +44,11 @@ CommandLine read_command_line(int count, char** words) {
     return line;
 }
 
-struct Loaded {
-    std::string file;
-    Json json;
-    Scenario scenario;
-};
-
-Loaded load(const std::string& file, Binding binding) {
-    Loaded loaded{file, parse_json(load_file(file), file), {}};
-    loaded.scenario = read_scenario(loaded.json, file, binding);
-    return loaded;
-}
-
-Json play(const Loaded& loaded, Binding binding) {
-    if (binding == Binding::native) return play_natively(loaded.scenario, loaded.file);
-    return play_under_wine(loaded.json, loaded.scenario, loaded.file);
+std::vector<Json> play(const std::vector<Loaded>& all, Binding binding) {
+    if (binding == Binding::wine) return play_under_wine(all);
+    std::vector<Json> outcomes;
+    for (const auto& loaded : all) outcomes.push_back(play_natively(loaded.scenario, loaded.file));
+    return outcomes;
 }
 
 /// Whether the add-in let nothing out and did what is expected. Says on the error stream what it did not.
@@ -86,12 +76,9 @@ void write_out(const std::string& file, const Json& outcome) {
 int rehearse(const CommandLine& line) {
     std::vector<Loaded> all;
     for (const auto& file : line.scenarios) all.push_back(load(file, line.binding));
+    const Json outcomes = play(all, line.binding);
     bool good = true;
-    Json outcomes = Json::array();
-    for (const auto& loaded : all) {
-        outcomes.push_back(play(loaded, line.binding));
-        good = is_good(loaded, outcomes.back()) && good;
-    }
+    for (std::size_t i = 0; i < all.size(); ++i) good = is_good(all[i], outcomes[i]) && good;
     write_out(line.out, outcomes.size() == 1 ? outcomes[0] : outcomes);
     return good ? exit_played : exit_failed;
 }

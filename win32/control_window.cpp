@@ -1,6 +1,7 @@
 #include "win32/control_window.h"
 
 #include "win32/wide.h"
+#include "win32/window_name.h"
 
 namespace ornavel::win32 {
 namespace {
@@ -54,13 +55,13 @@ ControlWindow::ControlWindow(const Control& control, HWND parent, int id, HFONT 
                               GetModuleHandleW(nullptr), nullptr);
     if (!window_) fail(control.name, GetLastError());
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font));
-    const ATOM name = GlobalAddAtomW(wide(control.name).c_str());
-    SetPropW(window_, name_property, reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(name)));
+    give_name(window_, control.name);
 }
 
 void ControlWindow::release_name() const {
-    if (window_)
-        GlobalDeleteAtom(static_cast<ATOM>(reinterpret_cast<UINT_PTR>(RemovePropW(window_, name_property))));
+    if (!window_) return;
+    take_name(window_);
+    RemovePropW(window_, in_hidden_frame);
 }
 
 LRESULT ControlWindow::send(UINT message, WPARAM word, LPARAM pointer) const {
@@ -79,7 +80,12 @@ void ControlWindow::show(const Control& control, const Control* frame, const Sca
         place.top += frame->place.top;
     }
     if (place != place_) show_place(place, scale);
-    show_state(control.visible && (!frame || frame->visible), control.enabled);
+    const bool frame_is_hidden = frame && !frame->visible;
+    if (control.visible && frame_is_hidden)
+        SetPropW(window_, in_hidden_frame, window_);
+    else
+        RemovePropW(window_, in_hidden_frame);
+    show_state(control.visible && !frame_is_hidden, control.enabled);
     shown_ = control;
 }
 

@@ -7,11 +7,11 @@
 namespace ornavel::win32 {
 
 /// The window of one control: shows what the control says, and reads what the user changed. The window goes
-/// with the form's window. A window carries its control's name as a property, so that tools find it.
+/// with the form's window, and carries the control's name (see name_of).
 class ControlWindow {
 public:
-    /// The property that holds the name, as a global atom.
-    static constexpr const wchar_t* name_property = L"Ornavel control";
+    /// The property of a window that only its frame hides.
+    static constexpr const wchar_t* in_hidden_frame = L"Ornavel in hidden frame";
 
     /// Makes the window, hidden and empty. A kind of control that has no window of its own makes none.
     ControlWindow(const forms::Control& control, HWND parent, int id, HFONT font);

@@ -1,6 +1,8 @@
 #include "win32/form_window.h"
 
+#include "forms/centre.h"
 #include "win32/wide.h"
+#include "win32/window_name.h"
 
 #include <utility>
 
@@ -53,6 +55,7 @@ FormWindow::FormWindow(forms::Form& form) : form_(form), font_(dialog_font(scale
 
 void FormWindow::open(HWND owner) {
     window_ = create_dialog(form_, owner, procedure, this);
+    give_name(window_, form_.name());
     if (form_.centred) centre();
     // Before there are tool tips: under Wine a window that owns another one never becomes topmost.
     show_frame();
@@ -77,10 +80,7 @@ void FormWindow::create_controls() {
 void FormWindow::centre() {
     RECT desk;
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &desk, 0);
-    const forms::Place screen = scale_.twips(desk);
-    forms::Place& place = form_.properties.place;
-    place.left = screen.left + (screen.width - place.width) / 2;
-    place.top = screen.top + (screen.height - place.height) / 2;
+    form_.properties.place = forms::centred(form_.properties.place, scale_.twips(desk));
 }
 
 void FormWindow::run() {
@@ -100,8 +100,9 @@ void FormWindow::run() {
     }
 }
 
+/// A form that has just been unloaded shows its last state, too: what tools read as the window goes.
 void FormWindow::refresh() {
-    if (!window_ || !form_.is_loaded()) return;
+    if (!window_) return;
     const bool before = std::exchange(refreshing_, true);
     show_frame();
     for (std::size_t i = 0; i < controls_.size(); ++i) {

@@ -1,6 +1,8 @@
 // What the user does in a form's window, as steps of a FormUser.
 #include "win32/form_window.h"
 
+#include "win32/window_name.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -45,6 +47,7 @@ bool FormWindow::handle(UINT message, WPARAM word) {
         on_moved();
         return false;
     case WM_DESTROY:
+        take_name(window_);
         for (const ControlWindow& control : controls_) control.release_name();
         window_ = nullptr;
         // Windows that go with their owner take their form along.

@@ -14,7 +14,7 @@ public:
     ~ScratchFolder();
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
-    std::string operator/(const char* name) const { return path_ / name; }
+    std::string operator/(const std::string& name) const { return path_ / name; }
 
 private:
     std::filesystem::path path_;

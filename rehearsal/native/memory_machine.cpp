@@ -1,11 +1,15 @@
 #include "rehearsal/native/memory_machine.h"
 
 #include "base/encoding.h"
+#include "forms/centre.h"
 #include "forms/frmMessage.h"
+#include "rehearsal/form_record.h"
 #include "rehearsal/native/form_player.h"
 
 namespace ornavel::rehearsal {
 namespace {
+
+constexpr forms::Place screen{0, 0, 1280 * 15, 1024 * 15}; // that of the Wine binding
 
 TextView file_name(TextView path) { return path.substr(path.find_last_of(u'\\') + 1); }
 
@@ -95,6 +99,7 @@ Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
 void MemoryMachine::show_modal(forms::Form& form) {
     form.load();
     if (!form.is_loaded()) return;
+    if (form.centred) form.properties.place = forms::centred(form.properties.place, screen);
     journal_.note(Deed::window, form.name(), form.properties.caption);
     const std::size_t place = windows_.size();
     windows_.push_back(form_record(form));

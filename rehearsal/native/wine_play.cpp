@@ -28,16 +28,63 @@ int become(const std::vector<std::string>& command) {
     return 127;
 }
 
+/// The Windows side of several rehearsals, each with a file for the scenario and one for the outcome.
+class Windows {
+public:
+    explicit Windows(const std::vector<Loaded>& scenarios)
+        : scenarios_(scenarios), runner_(part_of_build("ORNAVEL_WINE_RUN", ORNAVEL_WINE_RUNNER)),
+          player_(part_of_build("ORNAVEL_WINE_REHEARSE", ORNAVEL_WINE_PLAYER)) {
+        for (std::size_t i = 0; i < scenarios.size(); ++i)
+            std::ofstream(in(i), std::ios::binary)
+                << to_json_text(with_files_inside(scenarios[i].json, scenarios[i].scenario));
+    }
+
+    /// Starts a process for the scenarios that have no outcome yet, and adds those it leaves: one at least.
+    void play_on(std::vector<Json>& outcomes) const {
+        const int code = run_apart([&] { return become(command(outcomes.size())); });
+        for (bool last = false; !last;) {
+            const std::size_t i = outcomes.size();
+            last = i + 1 == scenarios_.size() || !std::filesystem::exists(out(i + 1));
+            // The process's exit code is about the last scenario that it came to.
+            outcomes.push_back(collect(i, last ? code : 0));
+        }
+    }
+
+private:
+    Json collect(std::size_t i, int code) const {
+        const auto& [file, json, scenario] = scenarios_[i];
+        try {
+            return collect_outcome(code, out(i), scenario, file);
+        } catch (const Unusable& error) {
+            const std::string reason = error.what(), copy = "Z:" + in(i);
+            throw Unusable(reason.starts_with(copy) ? file + reason.substr(copy.size()) : reason);
+        }
+    }
+
+    std::string in(std::size_t i) const { return scratch_ / ("scenario" + std::to_string(i) + ".json"); }
+    std::string out(std::size_t i) const { return scratch_ / ("outcome" + std::to_string(i) + ".json"); }
+
+    std::vector<std::string> command(std::size_t first) const {
+        std::vector<std::string> words{runner_, player_};
+        for (std::size_t i = first; i < scenarios_.size(); ++i) {
+            words.push_back("Z:" + in(i));
+            words.push_back("Z:" + out(i));
+        }
+        return words;
+    }
+
+    const std::vector<Loaded>& scenarios_;
+    ScratchFolder scratch_;
+    std::string runner_, player_;
+};
+
 } // namespace
 
-Json play_under_wine(const Json& json, const Scenario& scenario, const std::string& source) {
-    const auto runner = part_of_build("ORNAVEL_WINE_RUN", ORNAVEL_WINE_RUNNER);
-    const auto player = part_of_build("ORNAVEL_WINE_REHEARSE", ORNAVEL_WINE_PLAYER);
-    const ScratchFolder scratch;
-    const std::string in = scratch / "scenario.json", out = scratch / "outcome.json";
-    std::ofstream(in, std::ios::binary) << to_json_text(with_files_inside(json, scenario));
-    const int code = run_apart([&] { return become({runner, player, "Z:" + in, "Z:" + out}); });
-    return collect_outcome(code, out, scenario, source);
+std::vector<Json> play_under_wine(const std::vector<Loaded>& scenarios) {
+    const Windows windows(scenarios);
+    std::vector<Json> outcomes;
+    while (outcomes.size() < scenarios.size()) windows.play_on(outcomes);
+    return outcomes;
 }
 
 } // namespace ornavel::rehearsal

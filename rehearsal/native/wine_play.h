@@ -1,11 +1,12 @@
 #pragma once
 
-#include "rehearsal/scenario.h"
+#include "rehearsal/native/loaded.h"
 
 namespace ornavel::rehearsal {
 
-/// Plays the scenario with the real DLL, in a Windows process of its own that is given the scenario's file
-/// and the outcome's (see collect_outcome). Throws Unusable where it can't be played.
-Json play_under_wine(const Json& json, const Scenario& scenario, const std::string& source);
+/// Plays the scenarios with the real DLL and gives their outcomes, in the same order. A Windows process plays
+/// as many as it can; when the add-in takes it along, another one goes on. Throws Unusable for a scenario
+/// that can't be played.
+std::vector<Json> play_under_wine(const std::vector<Loaded>& scenarios);
 
 } // namespace ornavel::rehearsal

@@ -25,12 +25,8 @@ CommandLine read_command_line(const std::vector<std::string>& words) {
         words[0] == "native" ? Binding::native : Binding::wine, words[1], {words.begin() + 2, words.end()}};
 }
 
-Story play(const std::string& file, Binding binding) {
-    const Json json = parse_json(load_file(file), file);
-    Scenario scenario = read_scenario(json, file, binding);
-    std::optional<Json> with_dll;
-    if (binding == Binding::wine) with_dll = play_under_wine(json, scenario, file);
-    Story story = gather(std::move(scenario), file, with_dll);
+Story tell(const Loaded& loaded, const std::optional<Json>& with_dll) {
+    Story story = gather(loaded.scenario, loaded.file, with_dll);
     if (story.scenario.expect) story.mismatches = mismatches(*story.scenario.expect, story.outcome);
     return story;
 }
@@ -51,9 +47,13 @@ bool is_good(const Story& story) {
 }
 
 int report(const CommandLine& line) {
+    std::vector<Loaded> all;
+    for (const auto& file : line.scenarios) all.push_back(load(file, line.binding));
+    std::vector<Json> with_dll;
+    if (line.binding == Binding::wine) with_dll = play_under_wine(all);
     std::vector<Story> stories;
-    for (const auto& file : line.scenarios) {
-        stories.push_back(play(file, line.binding));
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        stories.push_back(tell(all[i], with_dll.empty() ? std::nullopt : std::optional(with_dll[i])));
         print(stories.back());
     }
     std::ofstream stream(line.page, std::ios::binary);

@@ -13,14 +13,26 @@ namespace {
 
 constexpr int exit_played = 0, exit_failed = 1, exit_unusable = 2;
 
-Text out_path;
+/// What is left to do when the add-in crashes.
+struct {
+    Text out;
+    WindowsMachine* machine = nullptr;
+} at_play;
 
-void write_out(const std::string& bytes) { win32::WindowsFiles().write(out_path, bytes); }
+void write_out(const std::string& bytes) { win32::WindowsFiles().write(at_play.out, bytes); }
+
+struct AtPlay {
+    explicit AtPlay(WindowsMachine& machine) { at_play.machine = &machine; }
+    ~AtPlay() { at_play.machine = nullptr; }
+    AtPlay(const AtPlay&) = delete;
+    AtPlay& operator=(const AtPlay&) = delete;
+};
 
 Json play(const Scenario& scenario, const std::string& source) {
     Failures failures(scenario.fail);
     Journal journal;
     WindowsMachine machine(scenario, source);
+    const AtPlay current(machine);
     machine.prepare(scenario);
     MailClient client(scenario, machine, failures, journal);
     const auto subscriptions = std::make_shared<Subscriptions>();
@@ -37,6 +49,7 @@ Json play(const Scenario& scenario, const std::string& source) {
 Json crash_outcome(const std::string& error) { return {{"error", error}}; }
 
 LONG WINAPI report_crash(EXCEPTION_POINTERS* crash) {
+    if (at_play.machine) at_play.machine->put_back_registry();
     attempt([&] {
         const auto code = static_cast<std::uint32_t>(crash->ExceptionRecord->ExceptionCode);
         write_out(to_json_text(crash_outcome("the add-in crashed (exception " + std::to_string(code) + ")")));
@@ -44,7 +57,8 @@ LONG WINAPI report_crash(EXCEPTION_POINTERS* crash) {
     ExitProcess(exit_failed);
 }
 
-int rehearse(const std::string& in) {
+int rehearse(const std::string& in, const std::string& out) {
+    at_play.out = from_utf8(out);
     try {
         const Scenario scenario = read_scenario(parse_json(load_file(in), in), in, Binding::wine);
         const Json outcome = play(scenario, in);
@@ -62,16 +76,16 @@ int rehearse(const std::string& in) {
 } // namespace
 } // namespace ornavel::rehearsal
 
-/// rehearse IN.json OUT.json: plays one scenario with the real DLL. A scenario that can't be played leaves
-/// its reason in OUT and exits with 2.
+/// rehearse (IN.json OUT.json)...: plays scenarios with the real DLL, up to the first that can't be played or
+/// that leaves the DLL in use. One that can't be played leaves its reason in OUT; then the exit code is 2.
 int main(int count, char** words) {
     using namespace ornavel::rehearsal;
-    if (count != 3) return exit_unusable;
-    out_path = ornavel::from_utf8(words[2]);
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
     SetUnhandledExceptionFilter(report_crash);
     if (FAILED(CoInitialize(nullptr))) return exit_failed;
-    const int code = rehearse(words[1]);
+    int code = exit_played;
+    for (int i = 1; i + 1 < count && code != exit_unusable && !GetModuleHandleW(L"Ornavel.dll"); i += 2)
+        code = rehearse(words[i], words[i + 1]);
     CoUninitialize();
     return code;
 }

@@ -19,10 +19,9 @@ public:
 
     void change_settings(const SettingsTree& settings);
     void add_to(Snapshot& snapshot) const;
-
-private:
     void put_back();
 
+private:
     ByName<ByName<RegistryValue>> before_;
 };
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "rehearsal/windows/box_user.h"
 #include "rehearsal/windows/disk_world.h"
 #include "rehearsal/windows/launch_recorder.h"
 #include "rehearsal/windows/registry_world.h"
+#include "rehearsal/windows/screen_user.h"
 #include "win32/windows_files.h"
 
 namespace ornavel::rehearsal {
@@ -29,6 +29,9 @@ public:
     Json windows() const override { return screen_.windows(); }
     Json tray_outcome() const override;
 
+    /// All that can be done when the add-in takes the process along.
+    void put_back_registry() { registry_.put_back(); }
+
     /// What this module starts is recorded from now on.
     void watch(HMODULE module) { launches_.watch(module); }
 
@@ -38,7 +41,7 @@ private:
     RegistryWorld registry_;
     win32::WindowsFiles files_;
     LaunchRecorder launches_;
-    BoxUser screen_;
+    ScreenUser screen_;
 };
 
 } // namespace ornavel::rehearsal

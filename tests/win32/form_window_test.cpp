@@ -67,10 +67,7 @@ struct Search {
 
 BOOL CALLBACK compare_name(HWND window, LPARAM pointer) {
     auto& search = *reinterpret_cast<Search*>(pointer);
-    wchar_t name[256] = {};
-    const HANDLE atom = GetPropW(window, ControlWindow::name_property);
-    GlobalGetAtomNameW(static_cast<ATOM>(reinterpret_cast<UINT_PTR>(atom)), name, 256);
-    if (!atom || std::wstring_view(name) != search.name) return TRUE;
+    if (win32::wide(name_of(window)) != search.name) return TRUE;
     search.found = window;
     return FALSE;
 }

@@ -1,33 +1,9 @@
-#include "rehearsal/windows/box_user.h"
+#include "rehearsal/windows/message_box.h"
 
-#include "win32/wide.h"
+#include "rehearsal/windows/window_parts.h"
 
 namespace ornavel::rehearsal {
 namespace {
-
-BoxUser* at_screen = nullptr;
-
-void CALLBACK look_around(HWND, UINT, UINT_PTR, DWORD) {
-    if (at_screen) at_screen->look();
-}
-
-bool is_class(HWND window, std::wstring_view wanted) {
-    wchar_t name[64];
-    const int length = GetClassNameW(window, name, ARRAYSIZE(name));
-    return wanted == std::wstring_view(name, static_cast<std::size_t>(length));
-}
-
-BOOL CALLBACK note_box(HWND window, LPARAM found) {
-    if (!IsWindowVisible(window) || !is_class(window, L"#32770")) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
-Text text_of_window(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return win32::text_of(text);
-}
 
 /// What a message box shows, read from its controls.
 struct Box {
@@ -49,7 +25,7 @@ void note_button(Box& box, int id) {
 
 BOOL CALLBACK note_control(HWND control, LPARAM target) {
     Box& box = *reinterpret_cast<Box*>(target);
-    const auto style = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE));
+    const DWORD style = style_of(control);
     if (!(style & WS_VISIBLE)) return TRUE;
     if (is_class(control, L"Button")) note_button(box, GetDlgCtrlID(control));
     if (!is_class(control, L"Static") && !is_class(control, L"Edit")) return TRUE;
@@ -79,33 +55,17 @@ int button_for(const Json& answer) {
 
 } // namespace
 
-BoxUser::BoxUser(ScriptedUser& user) : user_(user), timer_(SetTimer(nullptr, 0, 10, look_around)) {
-    at_screen = this;
-}
-
-BoxUser::~BoxUser() {
-    KillTimer(nullptr, timer_);
-    at_screen = nullptr;
-}
-
-void BoxUser::look() {
-    HWND box = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), note_box, reinterpret_cast<LPARAM>(&box));
-    if (!box || box == answered_) return;
-    answered_ = box;
-    answer(box);
-    answered_ = nullptr;
-}
-
-void BoxUser::answer(HWND window) {
+Json answer_box_window(ScriptedUser& user, HWND window) {
     Box box;
     box.title = text_of_window(window);
     EnumChildWindows(window, note_control, reinterpret_cast<LPARAM>(&box));
-    Json record = answer_message_box(user_, box.title, box.text, box.has_yes);
+    Json record = answer_message_box(user, box.title, box.text, box.has_yes);
     record["buttons"] = buttons_of(box);
     record["icon"] = icon_of(box);
-    windows_.push_back(record);
     SendMessageW(window, WM_COMMAND, static_cast<WPARAM>(button_for(record["answer"])), 0);
+    // A box without that button would wait for ever.
+    if (IsWindowVisible(window)) EndDialog(window, IDCANCEL);
+    return record;
 }
 
 } // namespace ornavel::rehearsal

@@ -1,0 +1,130 @@
+#include "rehearsal/windows/form_reader.h"
+
+#include "rehearsal/windows/window_parts.h"
+#include "win32/control_window.h"
+#include "win32/wide.h"
+#include "win32/window_name.h"
+
+#include <commctrl.h>
+
+namespace ornavel::rehearsal {
+namespace {
+
+using forms::Control;
+using forms::Kind;
+
+BOOL CALLBACK note_named(HWND window, LPARAM found) {
+    if (!win32::name_of(window).empty()) reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
+    return TRUE;
+}
+
+std::vector<HWND> controls_of(HWND form) {
+    std::vector<HWND> found;
+    EnumChildWindows(form, note_named, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+Kind button_kind(HWND window) {
+    switch (style_of(window) & BS_TYPEMASK) {
+    case BS_AUTOCHECKBOX:
+        return Kind::check_box;
+    case BS_GROUPBOX:
+        return Kind::frame;
+    default:
+        return Kind::command_button;
+    }
+}
+
+Kind kind_of(HWND window) {
+    if (is_class(window, L"Button")) return button_kind(window);
+    if (is_class(window, L"ComboBox")) return Kind::combo_box;
+    if (is_class(window, L"Edit")) return Kind::text_box;
+    return (style_of(window) & SS_TYPEMASK) == SS_BITMAP ? Kind::image : Kind::label;
+}
+
+struct Owned {
+    HWND owner, tips;
+};
+
+BOOL CALLBACK note_tips(HWND window, LPARAM pointer) {
+    auto& search = *reinterpret_cast<Owned*>(pointer);
+    if (GetWindow(window, GW_OWNER) == search.owner && is_class(window, TOOLTIPS_CLASSW))
+        search.tips = window;
+    return TRUE;
+}
+
+/// The window that shows the tool tips of a form's controls.
+HWND tips_of(HWND form) {
+    Owned search{form, nullptr};
+    EnumThreadWindows(GetCurrentThreadId(), note_tips, reinterpret_cast<LPARAM>(&search));
+    return search.tips;
+}
+
+Text tool_tip_of(HWND control, HWND tips) {
+    wchar_t text[1024] = {};
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.hwnd = GetParent(control);
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    tool.lpszText = text;
+    SendMessageW(tips, TTM_GETTEXTW, ARRAYSIZE(text), reinterpret_cast<LPARAM>(&tool));
+    return win32::text_of(text);
+}
+
+std::vector<Text> items_of(HWND list) {
+    std::vector<Text> items;
+    const auto count = SendMessageW(list, CB_GETCOUNT, 0, 0);
+    for (LRESULT index = 0; index < count; ++index) {
+        const auto entry = static_cast<WPARAM>(index);
+        std::wstring text(static_cast<std::size_t>(SendMessageW(list, CB_GETLBTEXTLEN, entry, 0)) + 1, L'\0');
+        const auto length = SendMessageW(list, CB_GETLBTEXT, entry, reinterpret_cast<LPARAM>(text.data()));
+        items.push_back(win32::text_of({text.data(), static_cast<std::size_t>(length)}));
+    }
+    return items;
+}
+
+Control read_control(HWND window, HWND tips) {
+    Control control{.kind = kind_of(window), .name = win32::name_of(window)};
+    control.tool_tip = tool_tip_of(window, tips);
+    if (has_caption(control.kind)) control.caption = text_of_window(window);
+    if (control.kind == Kind::text_box || control.kind == Kind::combo_box)
+        control.text = text_of_window(window);
+    if (control.kind == Kind::check_box)
+        control.ticked = SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+    if (control.kind == Kind::combo_box) {
+        control.items = items_of(window);
+        control.index = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
+    }
+    const DWORD style = style_of(window);
+    control.visible = (style & WS_VISIBLE) || GetPropW(window, win32::ControlWindow::in_hidden_frame);
+    control.enabled = !(style & WS_DISABLED);
+    control.locked = control.kind == Kind::text_box && (style & ES_READONLY);
+    return control;
+}
+
+forms::Place place_of(HWND window) {
+    RECT frame;
+    GetWindowRect(window, &frame);
+    return win32::Scale::of_screen().twips(frame);
+}
+
+} // namespace
+
+std::unique_ptr<forms::Form> read_form(HWND window) {
+    const HWND tips = tips_of(window);
+    std::vector<Control> controls;
+    for (const HWND control : controls_of(window)) controls.push_back(read_control(control, tips));
+    Control own{.name = win32::name_of(window), .place = place_of(window), .caption = text_of_window(window)};
+    auto form = std::make_unique<forms::Form>(std::move(own), std::move(controls));
+    form->topmost = GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST;
+    form->load();
+    return form;
+}
+
+HWND control_window(HWND form, TextView control) {
+    for (const HWND window : controls_of(form))
+        if (same_name(win32::name_of(window), control)) return window;
+    return nullptr;
+}
+
+} // namespace ornavel::rehearsal
