@@ -44,12 +44,6 @@ CommandLine read_command_line(int count, char** words) {
     return line;
 }
 
-Loaded load(const std::string& file, Binding binding) {
-    Loaded loaded{file, parse_json(load_file(file), file), {}};
-    loaded.scenario = read_scenario(loaded.json, file, binding);
-    return loaded;
-}
-
 std::vector<Json> play(const std::vector<Loaded>& all, Binding binding) {
     if (binding == Binding::wine) return play_under_wine(all);
     std::vector<Json> outcomes;

@@ -46,12 +46,21 @@ public:
             const std::size_t i = outcomes.size();
             last = i + 1 == scenarios_.size() || !std::filesystem::exists(out(i + 1));
             // The process's exit code is about the last scenario that it came to.
-            outcomes.push_back(
-                collect_outcome(last ? code : 0, out(i), scenarios_[i].scenario, scenarios_[i].file));
+            outcomes.push_back(collect(i, last ? code : 0));
         }
     }
 
 private:
+    Json collect(std::size_t i, int code) const {
+        const auto& [file, json, scenario] = scenarios_[i];
+        try {
+            return collect_outcome(code, out(i), scenario, file);
+        } catch (const Unusable& error) {
+            const std::string reason = error.what(), copy = "Z:" + in(i);
+            throw Unusable(reason.starts_with(copy) ? file + reason.substr(copy.size()) : reason);
+        }
+    }
+
     std::string in(std::size_t i) const { return scratch_ / ("scenario" + std::to_string(i) + ".json"); }
     std::string out(std::size_t i) const { return scratch_ / ("outcome" + std::to_string(i) + ".json"); }
 

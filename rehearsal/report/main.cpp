@@ -24,25 +24,6 @@ CommandLine read_command_line(const std::vector<std::string>& words) {
         words[0] == "native" ? Binding::native : Binding::wine, words[1], {words.begin() + 2, words.end()}};
 }
 
-std::vector<Loaded> load(const CommandLine& line) {
-    std::vector<Loaded> all;
-    for (const auto& file : line.scenarios) {
-        const Json json = parse_json(load_file(file), file);
-        all.push_back({file, json, read_scenario(json, file, line.binding)});
-    }
-    return all;
-}
-
-std::vector<Story> play(const std::vector<Loaded>& all, Binding binding) {
-    std::vector<Json> with_dll;
-    if (binding == Binding::wine) with_dll = play_under_wine(all);
-    std::vector<Story> stories;
-    for (std::size_t i = 0; i < all.size(); ++i)
-        stories.push_back(
-            gather(all[i].scenario, all[i].file, with_dll.empty() ? std::optional<Json>() : with_dll[i]));
-    return stories;
-}
-
 /// One line for each send: what came in, what happened, how long it took, what was left.
 void print(const Story& story) {
     for (const auto& send : story.sends)
@@ -60,8 +41,16 @@ bool is_good(const Story& story) {
 }
 
 int report(const CommandLine& line) {
-    const auto stories = play(load(line), line.binding);
-    std::ranges::for_each(stories, print);
+    std::vector<Loaded> all;
+    for (const auto& file : line.scenarios) all.push_back(load(file, line.binding));
+    std::vector<Json> with_dll;
+    if (line.binding == Binding::wine) with_dll = play_under_wine(all);
+    std::vector<Story> stories;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        stories.push_back(gather(all[i].scenario, all[i].file,
+                                 with_dll.empty() ? std::nullopt : std::optional(with_dll[i])));
+        print(stories.back());
+    }
     std::ofstream stream(line.page, std::ios::binary);
     if (!(stream << page(stories)).flush()) throw Unusable(line.page + ": can't be written");
     std::cout << "The report: " << line.page << '\n';

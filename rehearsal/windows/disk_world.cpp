@@ -83,12 +83,12 @@ void DiskWorld::clear() const {
 }
 
 void DiskWorld::remove_folder(TextView path) const {
-    Listing inside;
-    list_below(Text(path), inside);
-    for (const auto& [file, stamp] : inside.files) DeleteFileW(win32::wide(file).c_str());
-    for (auto folder = inside.folders.rbegin(); folder != inside.folders.rend(); ++folder)
+    Listing listing;
+    list_below(Text(path), listing);
+    for (const auto& [file, stamp] : listing.files) DeleteFileW(win32::wide(file).c_str());
+    for (auto folder = listing.folders.rbegin(); folder != listing.folders.rend(); ++folder)
         RemoveDirectoryW(win32::wide(*folder).c_str());
-    if (!RemoveDirectoryW(win32::wide(path).c_str())) win32::fail(path, GetLastError());
+    if (!RemoveDirectoryW(win32::wide(path).c_str())) throw Failure(u"Path not found");
 }
 
 void DiskWorld::add_to(Snapshot& snapshot) const {

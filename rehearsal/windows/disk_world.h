@@ -12,7 +12,7 @@ public:
 
     /// Removes what rehearsals have left behind.
     void clear() const;
-    /// With everything in it.
+    /// Removes a folder with everything in it. Throws Failure where that can't be done.
     void remove_folder(TextView path) const;
     /// Files that nobody has touched since the beginning are there with their size and time in place of
     /// their bytes.

@@ -57,18 +57,21 @@ std::optional<RegistryValue> value_of(DWORD type, const std::string& bytes) {
 
 ByName<RegistryValue> values_of(HKEY key) {
     ByName<RegistryValue> values;
-    static std::wstring name(16384, L'\0');
-    static std::string bytes(1 << 20, '\0');
-    for (DWORD index = 0;; ++index) {
+    DWORD count = 0, longest_name = 0, longest_value = 0;
+    RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count, &longest_name,
+                     &longest_value, nullptr, nullptr);
+    std::wstring name(longest_name + 1, L'\0');
+    std::string bytes(longest_value, '\0');
+    for (DWORD index = 0; index < count; ++index) {
         auto length = static_cast<DWORD>(name.size());
         auto size = static_cast<DWORD>(bytes.size());
         DWORD type = REG_NONE;
-        if (RegEnumValueW(key, index, name.data(), &length, nullptr, &type,
-                          reinterpret_cast<BYTE*>(bytes.data()), &size) != ERROR_SUCCESS)
-            return values;
+        RegEnumValueW(key, index, name.data(), &length, nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()),
+                      &size);
         if (auto value = value_of(type, bytes.substr(0, size)))
             values[win32::text_of({name.data(), length})] = std::move(*value);
     }
+    return values;
 }
 
 std::vector<Text> subkeys_of(HKEY key) {
