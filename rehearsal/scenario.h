@@ -59,14 +59,14 @@ struct WordDocument {
 
 struct Item {
     Text message_class = u"IPM.Note", parent = u"Drafts";
-    Text subject, body, html_body, billing_information, categories, flag_request;
+    Text subject{}, body{}, html_body{}, billing_information{}, categories{}, flag_request{};
     int editor_type = 2, importance = 1, sensitivity = 0;
     bool is_word_mail = false, read_receipt_requested = false, delivery_report_requested = false;
-    std::vector<RecipientEntry> recipients;
-    std::vector<Text> attachments;
-    Named<Text> user_properties;
-    std::optional<WordDocument> word;
-    std::vector<Contact> links;
+    std::vector<RecipientEntry> recipients{};
+    std::vector<Text> attachments{};
+    Named<Text> user_properties{};
+    std::optional<WordDocument> word{};
+    std::vector<Contact> links{};
 };
 
 /// One thing that the user does in a form.

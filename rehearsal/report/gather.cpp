@@ -1,6 +1,7 @@
 #include "rehearsal/report/gather.h"
 
 #include "base/encoding.h"
+#include "rehearsal/expectation.h"
 #include "rehearsal/native/native_play.h"
 
 #include <algorithm>
@@ -42,6 +43,7 @@ std::vector<Send> sends_of(const Story& story, const Journal& journal) {
     for (std::size_t i = 0; i < story.scenario.acts.size(); ++i) {
         const Act& act = story.scenario.acts[i];
         if (act.kind != Act::Kind::send) continue;
+        if (i >= story.outcome.at("acts").size()) break; // an exception reached the host before
         const Json& record = story.outcome.at("acts").at(i);
         sends.push_back({i, static_cast<std::size_t>(act.number), record.value("cancel", false),
                          record.value("milliseconds", 0.0), journal.host_uses(i),
@@ -68,11 +70,13 @@ Story gather(Scenario scenario, const std::string& source, const std::optional<J
     Journal journal;
     const Json native = play_here(story.scenario, source, journal);
     story.journal = journal.entries();
-    // A DLL that crashed left nothing but its error, which is then a difference like any other.
-    story.with_dll = dll_outcome && dll_outcome->contains("items");
+    // A DLL that did not come to the end left too little to show; its error is a difference like any other.
+    story.with_dll =
+        dll_outcome && dll_outcome->value("acts", Json::array()).size() == story.scenario.acts.size();
     story.outcome = story.with_dll ? *dll_outcome : native;
     if (dll_outcome) story.differences = differences(native, *dll_outcome);
     story.sends = sends_of(story, journal);
+    if (story.scenario.expect) story.mismatches = mismatches(*story.scenario.expect, story.outcome);
     return story;
 }
 

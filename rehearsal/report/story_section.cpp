@@ -117,6 +117,8 @@ std::string verdicts(const Story& story) {
                                      counted(held_by(story), "reference") + " left");
     if (story.with_dll && story.differences.empty())
         facts += text_element("li", "good", "same outcome in both plays");
+    if (!story.with_dll && !story.differences.empty())
+        facts += text_element("li", "bad", "the real DLL did not come to the end; shown is the other play");
     for (const auto& part : story.differences)
         facts += text_element("li", "bad", "the plays differ in “" + part + "”");
     for (const auto& mismatch : story.mismatches) facts += text_element("li", "bad", mismatch);

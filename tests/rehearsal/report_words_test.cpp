@@ -77,8 +77,7 @@ TEST(ReportWords, WhatCameInNamesTheKindAndTheMailClient) {
     };
     EXPECT_EQ(came_in(u"9.0.0.3821", {}), "an HTML message from Outlook 2000");
     EXPECT_EQ(came_in(u"10.0.2627", {.editor_type = 1}), "a plain-text message from Outlook 2002");
-    EXPECT_EQ(came_in(u"11.0.5608", {.is_word_mail = true}),
-              "a Word-written message from Outlook 2003");
+    EXPECT_EQ(came_in(u"11.0.5608", {.is_word_mail = true}), "a Word-written message from Outlook 2003");
     EXPECT_EQ(came_in(u"11.0.5608", {.message_class = u"IPM.Schedule.Meeting.Request"}),
               "a meeting request from Outlook 2003");
 }
