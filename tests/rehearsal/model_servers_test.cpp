@@ -53,7 +53,7 @@ TEST(Word, SavesWhatTheScenarioGivesIt) {
     EXPECT_EQ(stage.machine.files().read(u"C:\\app\\GetMyHtml.htm"), "<html>é</html>");
 }
 
-TEST(Calendar, WalksTheRestrictedAppointmentsInOrder) {
+TEST(CalendarModel, WalksTheRestrictedAppointmentsInOrder) {
     Stage stage(R"({"do": [], "host": {"calendar": [{"subject": "Late", "start": "2003-11-20T16:00:00"},
         {"subject": "Early", "start": "2003-11-20T09:30:00"}, {"subject": "Tomorrow", "start": "2003-11-21T00:00:00"}]}})");
     const auto space = as_object(stage.application().object()->call({u"GetNamespace"}, {Text(u"MAPI")}));
@@ -70,7 +70,7 @@ TEST(Calendar, WalksTheRestrictedAppointmentsInOrder) {
     EXPECT_EQ(host::as_object_or_nothing(today->call({u"GetNext"})), nullptr);
 }
 
-TEST(Calendar, RefusesAFilterThatItDoesNotUnderstand) {
+TEST(CalendarModel, RefusesAFilterThatItDoesNotUnderstand) {
     for (const char16_t* filter :
          {u"", u"[End] > '1/1/2003'", u"[Start] > 'Nonvember-20-2003'",
           u"[Start] > '11/20/2003' or [Start] < '1/1/2004'", u"[Start] > '11/20/2003' and"})

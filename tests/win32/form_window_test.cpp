@@ -4,6 +4,7 @@
 #include "forms/frmMessage.h"
 #include "win32/machine.h"
 #include "win32/wide.h"
+#include "win32/window_name.h"
 
 #include <gtest/gtest.h>
 
@@ -67,7 +68,7 @@ struct Search {
 
 BOOL CALLBACK compare_name(HWND window, LPARAM pointer) {
     auto& search = *reinterpret_cast<Search*>(pointer);
-    if (win32::wide(name_of(window)) != search.name) return TRUE;
+    if (wide(name_of(window)) != search.name) return TRUE;
     search.found = window;
     return FALSE;
 }
