@@ -64,7 +64,6 @@ Verdict internal_mail(Send& send);
 Verdict non_auto_branch(Send& send);
 Verdict default_template(Send& send);
 Verdict default_signature(Send& send);
-Verdict auto_preview(Send& send);
 
 // Composition and stamping.
 Verdict compose_body(Send& send);

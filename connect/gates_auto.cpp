@@ -46,6 +46,4 @@ Verdict default_signature(Send& send) {
     return refuse_without_default(send, u"Auto-no signature");
 }
 
-Verdict auto_preview(Send&) { return Verdict::next; }
-
 } // namespace ornavel::connect

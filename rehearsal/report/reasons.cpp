@@ -76,7 +76,6 @@ constexpr Row rows[] = {
     {"other modes", {}, by_mode},
     {"default template", {}, by_template},
     {"default signature", {}, by_signature},
-    {"auto preview", "the preview was closed without Send"},
     {"composition", "the template was refused"},
 };
 

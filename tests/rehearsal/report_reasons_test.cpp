@@ -36,9 +36,9 @@ TEST(ReportReasons, ASendThatPassedTheLastGatePassedAll) {
 }
 
 TEST(ReportReasons, ASendThatEndsBetweenTwoGatesWasEndedByAnError) {
-    const auto send = send_through({{"entry mode", true}, {"auto preview", true}});
+    const auto send = send_through({{"entry mode", true}, {"composition", true}});
     EXPECT_TRUE(ended_by_error(send));
-    EXPECT_EQ(end_of_the_way(send), "an error behind “auto preview”");
+    EXPECT_EQ(end_of_the_way(send), "an error behind “composition”");
 }
 
 TEST(ReportReasons, ASendThatMetNoGateMetNoAddIn) {
