@@ -1,6 +1,7 @@
 #include "connect/connect.h"
 
 #include "connect/environment.h"
+#include "connect/scratch_files.h"
 #include "connect/send_pipeline.h"
 #include "connect/session.h"
 #include "connect/setup_program.h"
@@ -46,6 +47,7 @@ void Connect::OnStartupComplete() noexcept {
     Session& session = *session_;
     session.shared.application_path =
         read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
+    session.browser_path = read(session.platform.settings, admin::BrowserPath);
     prepare_environment(session);
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
@@ -80,6 +82,7 @@ void Connect::OnDisconnection(int remove_mode) noexcept {
         record(session, u"Explorer count > 0", u"", u"Calling VarCleanup");
         VarCleanup();
     }
+    remove_scratch_files(session);
     record(session, u"exiting sub", u"", u"Bottom");
 }
 

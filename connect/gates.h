@@ -65,7 +65,12 @@ Verdict non_auto_branch(Send& send);
 Verdict default_template(Send& send);
 Verdict default_signature(Send& send);
 
+// Preview.
+Verdict auto_preview(Send& send);
+
 // Composition and stamping.
+/// The body that the item goes out with. The item itself is not changed.
+Text composed_body(Send& send, bool plain_text);
 Verdict compose_body(Send& send);
 Verdict stamp(Send& send);
 

@@ -7,7 +7,7 @@ namespace {
 using namespace settings;
 
 void attach_vcard(Send& send) {
-    if (!send.session.vcard_chosen) return;
+    if (!send.session.preview.vcard_chosen) return;
     const Text path = split(read(send.settings(), user::vCardPath), u";").front();
     if (!path.empty()) send.item().attachments().add(path);
 }
@@ -26,23 +26,27 @@ Text composed_from(Send& send, Text source) {
 /// was.
 bool dress(Send& send) {
     const host::MailItem& item = send.item();
-    if (item.inspector().editor_type() == host::plain_text_editor) {
-        item.set_html_body(plain_text_as_html(send.session, item.body()));
-        item.save();
-        return true;
-    }
-    const Text html = item.html_body();
-    const Text composed = composed_from(send, html.empty() ? item.body() : html);
+    const bool plain_text = item.inspector().editor_type() == host::plain_text_editor;
+    send.session.shared.template_refused = false;
+    const Text body = composed_body(send, plain_text);
     if (send.session.shared.template_refused) return false;
-    item.set_html_body(composed);
+    item.set_html_body(body);
+    if (plain_text) item.save();
     return true;
 }
 
 } // namespace
 
+Text composed_body(Send& send, bool plain_text) {
+    const host::MailItem& item = send.item();
+    if (plain_text) return plain_text_as_html(send.session, item.body());
+    const Text html = item.html_body();
+    return composed_from(send, html.empty() ? item.body() : html);
+}
+
 Verdict compose_body(Send& send) {
     send.session.processed = true;
-    if (send.session.send_plain) return Verdict::off;
+    if (send.session.preview.send_plain) return Verdict::off;
     record_gate(send, u"Auto Preview Send Plain check OK");
     attach_vcard(send);
     if (dress(send)) return Verdict::next;

@@ -64,8 +64,7 @@ Verdict copy_subject(Send& send) {
 }
 
 Verdict clear_answers(Send& send) {
-    send.session.send_plain = false;
-    send.session.vcard_chosen = false;
+    send.session.preview = {};
     return Verdict::next;
 }
 

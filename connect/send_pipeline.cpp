@@ -39,9 +39,10 @@ constexpr Gate gates[] = {
     {u"reply test", reply_test, {u"Reply check OK"}},
     {u"other modes", non_auto_branch, {}},
     {u"default template", default_template, {u"Auto mode check OK"}},
-    {u"default signature",
-     default_signature,
-     {u"Signature check OK", u"Delivery and Receipt check OK", u"Auto Preview check OK"}},
+    {u"default signature", default_signature, {u"Signature check OK", u"Delivery and Receipt check OK"}},
+    {u"auto preview",
+     auto_preview,
+     {u"Auto Preview check OK"}}, // the body is composed; the item stays as it is
     {u"composition", compose_body, {u"vCard check OK"}},
     {u"stamping", stamp, {}},
 };

@@ -3,6 +3,7 @@
 #include "compose/composer.h"
 #include "connect/platform.h"
 #include "diagnostics/error_reporter.h"
+#include "forms/frmBrowser.h"
 #include "forms/frmMessage.h"
 #include "host/application.h"
 
@@ -46,8 +47,8 @@ struct Session {
     bool processed = false;
     bool internal = false;
     bool dialog_answer = true; ///< the send-options form's answer
-    bool send_plain = false;   ///< the preview's answer: undressed
-    bool vcard_chosen = false; ///< the preview's or the form's answer
+    forms::PreviewAnswers preview;
+    Text browser_path; ///< the folder of the preview's page; empty for the application path
     Text language;
 };
 

@@ -21,6 +21,11 @@ void Control::clear_items() {
     select(-1);
 }
 
+void Control::visit(TextView address) {
+    page = address;
+    ++visits;
+}
+
 bool has_caption(Kind kind) {
     switch (kind) {
     case Kind::form:

@@ -48,6 +48,7 @@ struct Control {
     int index = -1;            ///< the chosen entry of a combo box; -1 when its text is none of them
     bool ticked = false;       ///< of a check box
     Text page{};               ///< the file or address that a web browser shows
+    int visits = 0;            ///< how often the page was shown; the same page may have new contents
     Text picture{};            ///< the file that an image shows
     std::vector<Part> parts{}; ///< of a tab strip, a toolbar or a list view
     Text frame{};              ///< the name of the frame that it stands in; empty on the form itself
@@ -65,6 +66,8 @@ struct Control {
     /// Makes a combo box show the entry at this index; an index that it does not have shows an empty text.
     void select(int wanted);
     void clear_items();
+    /// Makes a web browser show a file or address, anew when it shows it already.
+    void visit(TextView address);
 };
 
 /// Controls of the other kinds have no caption.

@@ -23,10 +23,20 @@ public:
     }
 };
 
+class Attachment : public View {
+public:
+    using View::View;
+    Text file_name() const { return as_text(get({u"FileName"})); }
+};
+
 class Attachments : public View {
 public:
     using View::View;
     int count() const { return as_number(get({u"Count"})); }
+    /// Counts from 1.
+    Attachment item(int index) const {
+        return Attachment(as_object(call({u"Item"}, {static_cast<std::int32_t>(index)})));
+    }
     void add(TextView path) const { call({u"Add"}, {Text(path)}); }
 };
 

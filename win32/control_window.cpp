@@ -38,6 +38,8 @@ Look look_of(const Control& control) {
         return {L"BUTTON", BS_GROUPBOX, 0};
     case Kind::image:
         return {L"STATIC", SS_BITMAP | SS_CENTERIMAGE | SS_NOTIFY, 0};
+    case Kind::web_browser:
+        return {L"STATIC", SS_OWNERDRAW | WS_CLIPCHILDREN, WS_EX_CLIENTEDGE};
     default:
         return {};
     }
@@ -56,6 +58,8 @@ ControlWindow::ControlWindow(const Control& control, HWND parent, int id, HFONT 
     if (!window_) fail(control.name, GetLastError());
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font));
     give_name(window_, control.name);
+    // A page that can't be shown must not keep the form from the user.
+    if (control.kind == Kind::web_browser) attempt([&] { browser_ = std::make_unique<WebBrowser>(window_); });
 }
 
 void ControlWindow::release_name() const {
@@ -71,6 +75,7 @@ LRESULT ControlWindow::send(UINT message, WPARAM word, LPARAM pointer) const {
 void ControlWindow::show(const Control& control, const Control* frame, const Scale& scale, ToolTips& tips) {
     if (!window_) return;
     show_text(control);
+    if (control.kind == Kind::web_browser) show_page(control);
     if (control.kind == Kind::check_box) send(BM_SETCHECK, control.ticked ? BST_CHECKED : BST_UNCHECKED);
     if (control.tool_tip != shown_.tool_tip) tips.set(window_, control.tool_tip);
 
@@ -95,7 +100,9 @@ void ControlWindow::show_text(const Control& control) {
         return;
     }
     // The window's own text is asked, not the one last shown: what a user has just typed stays untouched.
-    const Text& wanted = control.kind == Kind::text_box ? control.text : control.caption;
+    const Text& wanted = control.kind == Kind::text_box      ? control.text
+                         : control.kind == Kind::web_browser ? control.page
+                                                             : control.caption;
     if (control.kind != Kind::image && text() != wanted) SetWindowTextW(window_, wide(wanted).c_str());
 }
 
@@ -119,6 +126,11 @@ void ControlWindow::show_place(const forms::Place& place, const Scale& scale) {
         pixels.bottom += entries_of_an_open_list * static_cast<LONG>(send(CB_GETITEMHEIGHT));
     MoveWindow(window_, pixels.left, pixels.top, pixels.right - pixels.left, pixels.bottom - pixels.top,
                TRUE);
+    if (browser_) attempt([&] { browser_->fill_window(); });
+}
+
+void ControlWindow::show_page(const Control& control) {
+    if (browser_ && control.visits != shown_.visits) attempt([&] { browser_->show(control.page); });
 }
 
 void ControlWindow::show_state(bool visible, bool enabled) {

@@ -3,6 +3,7 @@
 #include "forms/form.h"
 #include "win32/tool_tips.h"
 #include "win32/twips.h"
+#include "win32/web_browser.h"
 
 namespace ornavel::win32 {
 
@@ -16,6 +17,8 @@ public:
     /// Makes the window, hidden and empty. A kind of control that has no window of its own makes none.
     ControlWindow(const forms::Control& control, HWND parent, int id, HFONT font);
     void release_name() const;
+    /// Ends what stands in the window, before the window itself goes.
+    void close() { browser_.reset(); }
 
     HWND window() const { return window_; }
     const Text& name() const { return shown_.name; }
@@ -35,9 +38,12 @@ private:
     void show_state(bool visible, bool enabled);
     LRESULT send(UINT message, WPARAM word = 0, LPARAM pointer = 0) const;
 
+    void show_page(const forms::Control& control);
+
     HWND window_ = nullptr;
-    forms::Control shown_; ///< the control as the window shows it
-    forms::Place place_;   ///< within the form, also for a control that stands in a frame
+    std::unique_ptr<WebBrowser> browser_; ///< of a web browser, where the system has one
+    forms::Control shown_;                ///< the control as the window shows it
+    forms::Place place_;                  ///< within the form, also for a control that stands in a frame
 };
 
 } // namespace ornavel::win32

@@ -66,6 +66,7 @@ void FormWindow::open(HWND owner) {
 }
 
 FormWindow::~FormWindow() {
+    for (ControlWindow& control : controls_) control.close();
     if (window_) DestroyWindow(window_);
 }
 

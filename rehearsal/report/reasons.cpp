@@ -76,6 +76,7 @@ constexpr Row rows[] = {
     {"other modes", {}, by_mode},
     {"default template", {}, by_template},
     {"default signature", {}, by_signature},
+    {"auto preview", "AutoPreview is “True”, and the user closed the preview without sending"},
     {"composition", "the template was refused"},
 };
 

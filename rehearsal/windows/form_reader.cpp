@@ -39,7 +39,14 @@ Kind kind_of(HWND window) {
     if (is_class(window, L"Button")) return button_kind(window);
     if (is_class(window, L"ComboBox")) return Kind::combo_box;
     if (is_class(window, L"Edit")) return Kind::text_box;
-    return (style_of(window) & SS_TYPEMASK) == SS_BITMAP ? Kind::image : Kind::label;
+    switch (style_of(window) & SS_TYPEMASK) {
+    case SS_BITMAP:
+        return Kind::image;
+    case SS_OWNERDRAW:
+        return Kind::web_browser;
+    default:
+        return Kind::label;
+    }
 }
 
 struct Owned {
@@ -89,6 +96,7 @@ Control read_control(HWND window, HWND tips) {
     if (has_caption(control.kind)) control.caption = text_of_window(window);
     if (control.kind == Kind::text_box || control.kind == Kind::combo_box)
         control.text = text_of_window(window);
+    if (control.kind == Kind::web_browser) control.page = text_of_window(window);
     if (control.kind == Kind::check_box)
         control.ticked = SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED;
     if (control.kind == Kind::combo_box) {

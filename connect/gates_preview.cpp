@@ -1,0 +1,88 @@
+#include "connect/gates.h"
+#include "connect/scratch_files.h"
+
+#include <utility>
+
+namespace ornavel::connect {
+namespace {
+
+using namespace settings;
+using forms::Control;
+using forms::Form;
+
+/// Composing for a preview asks nothing about the template's script and leaves contacts and usage log alone.
+class ForPreview {
+public:
+    explicit ForPreview(compose::Shared& shared)
+        : suppressed_(shared.script_check_suppressed), before_(std::exchange(suppressed_, true)) {}
+    ~ForPreview() { suppressed_ = before_; }
+    ForPreview(const ForPreview&) = delete;
+    ForPreview& operator=(const ForPreview&) = delete;
+
+private:
+    bool& suppressed_;
+    bool before_;
+};
+
+void show_what_settings_allow(const Store& store, Form& form) {
+    Control& vcard = form[u"chkvCard"];
+    vcard.visible = !read(store, user::vCard).empty();
+    vcard.ticked = vcard.visible && is_on(store, admin::SendvCardAlways);
+    const bool select = is_on(store, admin::ShowPreviewSelectButton);
+    form[u"cmdNext"].visible = select;
+    form[u"cmdSignNext"].visible = select;
+    form[u"cmdSendPlain"].visible = is_on(store, admin::ShowAutoSendPlain);
+    form[u"cmdOptions"].visible = is_on(store, admin::ShowPreviewOptionsButton);
+}
+
+void show_attachments(const host::Attachments& attachments, Form& form) {
+    const int count = attachments.count();
+    if (count == 0) return;
+    Control& names = form[u"txtAttachments"];
+    for (int index = 1; index <= count; ++index)
+        names.text += (index == 1 ? u"" : u"; ") + attachments.item(index).file_name();
+    names.visible = form[u"lblAttachments"].visible = true;
+    names.enabled = false;
+}
+
+void place_window(const Store& store, Form& form) {
+    const auto twips = [&](const Key& key) { return numeric_value(read(store, key)); };
+    form.properties.place = {twips(user::BrowserLeft), twips(user::BrowserTop), twips(user::BrowserWidth),
+                             twips(user::BrowserHeight)};
+    form.on_resize();
+}
+
+/// Plain text takes neither a template nor a signature file.
+void show_plain_text(Form& form) {
+    form.properties.caption += u"- Plain Text formatted email";
+    for (const TextView control : {u"cboTemplates", u"cboSignatures", u"cmdNext", u"cmdSignNext"})
+        form[control].enabled = false;
+}
+
+} // namespace
+
+Verdict auto_preview(Send& send) {
+    if (!is_on(send.settings(), admin::AutoPreview)) return Verdict::next;
+    Session& session = send.session;
+    session.preview = {};
+    const bool plain_text = send.item().inspector().editor_type() == host::plain_text_editor;
+    forms::frmBrowser preview(
+        {session.platform.settings, session.platform.files, session.platform.windows, session.errors},
+        session.preview, preview_page(session), [&] {
+            const ForPreview suppressed(session.shared);
+            return composed_body(send, plain_text);
+        });
+    Form& form = preview.form();
+    form.load();
+    show_what_settings_allow(send.settings(), form);
+    show_attachments(send.item().attachments(), form);
+    place_window(send.settings(), form);
+    if (plain_text) show_plain_text(form);
+    preview.render();
+    session.platform.windows.show_modal(form);
+    if (session.preview.send) return Verdict::next;
+    send.cancel = true;
+    return Verdict::leave;
+}
+
+} // namespace ornavel::connect

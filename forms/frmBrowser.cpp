@@ -1,0 +1,205 @@
+#include "forms/frmBrowser.h"
+
+#include <algorithm>
+
+namespace ornavel::forms {
+namespace {
+
+using namespace settings;
+
+constexpr TextView options_folded = u"> Options", options_shown = u"< Options";
+
+/// Only these stay when the options are folded away.
+constexpr TextView options[] = {u"lblTemplates", u"cboTemplates", u"lblSignatures", u"cboSignatures"};
+
+// Two rows of controls stand above the browser, which takes what the window leaves, within its frame.
+constexpr int margin = 120, browser_top = 1080, frame_width = 120, frame_height = 525;
+
+Control button(TextView name, int left, int width, TextView caption, TextView tool_tip = {}) {
+    return {.kind = Kind::command_button,
+            .name = Text(name),
+            .place = {left, 120, width, 375},
+            .caption = Text(caption),
+            .tool_tip = Text(tool_tip)};
+}
+
+Control label(TextView name, int left, int width, TextView caption) {
+    return {
+        .kind = Kind::label, .name = Text(name), .place = {left, 660, width, 240}, .caption = Text(caption)};
+}
+
+Control list(TextView name, int left, int width) {
+    return {.kind = Kind::combo_box, .name = Text(name), .place = {left, 600, width, 315}};
+}
+
+Control check_box(TextView name, int left, int top, int width, TextView caption) {
+    return {.kind = Kind::check_box,
+            .name = Text(name),
+            .place = {left, top, width, 315},
+            .caption = Text(caption)};
+}
+
+Control hidden(Control control) {
+    control.visible = false;
+    return control;
+}
+
+std::vector<Control> designed_controls() {
+    Control send = button(u"command1", 120, 945, u"Send");
+    send.is_default = true;
+    Control close = button(u"cmdClose", 2460, 945, u"Close");
+    close.is_cancel = true;
+    return {
+        std::move(send),
+        button(u"cmdSendPlain", 1140, 1245, u"Send Plain"),
+        std::move(close),
+        button(u"cmdNext", 3480, 1200, u"> Template", u"Next template"),
+        button(u"cmdSignNext", 4755, 1200, u"> Signature", u"Next signature"),
+        button(u"cmdOptions", 6030, 1035, options_folded),
+        check_box(u"chkvCard", 7200, 150, 810, u"vCard"),
+        hidden(label(u"lblTemplates", 120, 780, u"Template")),
+        hidden(list(u"cboTemplates", 915, 2100)),
+        hidden(list(u"cboListTemplates", 915, 2100)),
+        hidden(label(u"lblSignatures", 3120, 780, u"Signature")),
+        hidden(list(u"cboSignatures", 3930, 2100)),
+        hidden(list(u"cboPrevSigs", 3930, 2100)),
+        hidden(label(u"lblAttachments", 6120, 945, u"Attachments")),
+        hidden({.kind = Kind::text_box, .name = u"txtAttachments", .place = {7080, 615, 2850, 285}}),
+        check_box(u"chkShowPreview", 8040, 150, 1890, u"do not show Preview"),
+        {.kind = Kind::web_browser, .name = u"brwWebBrowser", .place = {120, browser_top, 9810, 4275}},
+    };
+}
+
+/// A file's name as the user chooses it: what stands before the first ".htm".
+Text display_name(TextView file) { return Text(file.substr(0, file.find(u".htm"))); }
+
+bool is_choice(TextView file) {
+    const Text name = lower_case(file);
+    return name.ends_with(u".htm") && !name.ends_with(u"_merge.htm");
+}
+
+} // namespace
+
+const frmBrowser::Choice frmBrowser::templates{u"cboTemplates", u"cboListTemplates", admin::HTMFilesPath,
+                                               user::Template};
+const frmBrowser::Choice frmBrowser::signatures{u"cboSignatures", u"cboPrevSigs", admin::SignaturesPath,
+                                                user::Signature};
+
+frmBrowser::frmBrowser(Needs needs, PreviewAnswers& answers, Text page, std::function<Text()> compose)
+    : needs_(needs), answers_(answers), page_(std::move(page)), compose_(std::move(compose)),
+      form_({.name = u"frmBrowser", .place = {2595, 990, 10170, 6000}, .caption = u"Ornavel Preview"},
+            designed_controls()) {
+    form_.sizable = true;
+    form_.centred = false;
+    form_.on_load = [this] { Form_Load(); };
+    form_.on_resize = [this] { Form_Resize(); };
+    form_.on_unload = [this] { Form_Unload(); };
+    form_.on(u"command1", Event::click, [this] { command1_Click(); });
+    form_.on(u"cmdSendPlain", Event::click, [this] { cmdSendPlain_Click(); });
+    form_.on(u"cmdClose", Event::click, [this] { form_.unload(); });
+    form_.on(u"cmdOptions", Event::click, [this] { cmdOptions_Click(); });
+    form_.on(u"cmdNext", Event::click, [this] { take_next(templates); });
+    form_.on(u"cmdSignNext", Event::click, [this] { take_next(signatures); });
+    on_choice(templates);
+    on_choice(signatures);
+}
+
+void frmBrowser::on_choice(const Choice& choice) {
+    form_.on(choice.shown, Event::drop_down, [this, &choice] { fill(choice); });
+    form_.on(choice.shown, Event::click, [this, &choice] { take_entry(choice); });
+    form_.on(choice.shown, Event::change, [this, &choice] { take_entry(choice); });
+}
+
+void frmBrowser::render() {
+    trap(needs_.errors, {form_.name(), u"Error showing the preview"}, [&] {
+        needs_.files.write(page_, encode_html(compose_()));
+        form_[u"brwWebBrowser"].visit(page_);
+    });
+}
+
+void frmBrowser::Form_Load() {
+    answers_.send = false;
+    if (is_on(needs_.settings, admin::PreviewOptionsShow)) show_options(true);
+    Form_Resize();
+}
+
+void frmBrowser::Form_Resize() {
+    const Place& window = form_.properties.place;
+    Place& browser = form_[u"brwWebBrowser"].place;
+    browser.width = std::max(0, window.width - frame_width - 2 * margin);
+    browser.height = std::max(0, window.height - frame_height - margin - browser_top);
+}
+
+void frmBrowser::Form_Unload() {
+    const Place& window = form_.properties.place;
+    save(needs_.settings, user::BrowserTop, to_text(window.top));
+    save(needs_.settings, user::BrowserLeft, to_text(window.left));
+    save(needs_.settings, user::BrowserHeight, to_text(window.height));
+    save(needs_.settings, user::BrowserWidth, to_text(window.width));
+    if (!form_[u"chkShowPreview"].ticked) return;
+    save(needs_.settings, admin::AutoPreview, off);
+    needs_.windows.inform(u"Preview feature set off", u"Previewing your messages has been set off.\r\n"
+                                                      u"You can set Preview back 'on' in the setup wizard.");
+}
+
+void frmBrowser::command1_Click() {
+    answers_.send = true;
+    answers_.vcard_chosen = form_[u"chkvCard"].ticked;
+    form_.unload();
+}
+
+void frmBrowser::cmdSendPlain_Click() {
+    answers_.send = true;
+    answers_.send_plain = true;
+    form_.unload();
+}
+
+void frmBrowser::cmdOptions_Click() {
+    const bool shown = form_[u"cmdOptions"].caption == options_folded;
+    save(needs_.settings, admin::PreviewOptionsShow, shown ? on : off);
+    show_options(shown);
+}
+
+void frmBrowser::show_options(bool shown) {
+    form_[u"cmdOptions"].caption = shown ? options_shown : options_folded;
+    for (const TextView control : options) form_[control].visible = shown;
+    for (const Choice& choice : {templates, signatures})
+        form_[choice.shown].choose(display_name(read(needs_.settings, choice.chosen)));
+}
+
+/// On the first use only: the user's own list is not built again under their hand.
+void frmBrowser::fill(const Choice& choice) {
+    Control& shown = form_[choice.shown];
+    Control& files = form_[choice.files];
+    if (!files.items.empty()) return;
+    for (const Text& file : needs_.files.list(read(needs_.settings, choice.folder))) {
+        if (!is_choice(file)) continue;
+        files.items.push_back(file);
+        shown.items.push_back(display_name(file));
+    }
+    shown.choose(Text(shown.text));
+}
+
+/// Typed words name a file as the entries do.
+void frmBrowser::take_entry(const Choice& choice) {
+    const Control& shown = form_[choice.shown];
+    const Control& files = form_[choice.files];
+    save(needs_.settings, choice.chosen,
+         shown.index < 0 ? shown.text + u".htm" : files.items[static_cast<std::size_t>(shown.index)]);
+    render();
+}
+
+/// After the last entry comes the first, and so it does after a name that the list does not have.
+void frmBrowser::take_next(const Choice& choice) {
+    fill(choice);
+    const auto& files = form_[choice.files].items;
+    if (files.empty()) return;
+    const Text current = trim(read(needs_.settings, choice.chosen));
+    auto entry = std::ranges::find_if(files, [&](const Text& file) { return same_name(file, current); });
+    if (entry != files.end()) ++entry;
+    if (entry == files.end()) entry = files.begin();
+    form_[choice.shown].select(static_cast<int>(entry - files.begin()));
+    take_entry(choice);
+}
+
+} // namespace ornavel::forms
