@@ -77,6 +77,8 @@ Text CreateHTMLBody(Services services, Shared& shared, Text& body, Text& templat
         trap(errors, step.trap, [&] { step.run(composition); });
         if (composition.refused) break;
     }
+    // A question that could not be put has refused nothing.
+    shared.template_refused = composition.refused;
     return std::move(composition.result);
 }
 

@@ -44,15 +44,12 @@ void read_template(Composition& c) {
 void ask_about_script(Composition& c) {
     if (c.shared.script_check_suppressed) return;
     if (!contains(c.template_text, u"</script>") && !contains(c.template_text, u"</SCRIPT>")) return;
-    c.shared.template_refused = true;
+    c.shared.template_refused = true; // while the user has not answered
     if (c.services.boxes.ask(
             u"Ornavel Security Warning",
             u"This Template has script in it. This means that your recipients may not be able to \r\nsee or "
-            u"access "
-            u"your message. Continue with your message? Click No to cancel, Yes to continue")) {
-        c.shared.template_refused = false;
+            u"access your message. Continue with your message? Click No to cancel, Yes to continue"))
         return;
-    }
     c.result = std::move(c.template_text);
     c.refused = true;
 }

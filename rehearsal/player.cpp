@@ -18,7 +18,7 @@ Player::Player(const Scenario& scenario, std::string source, MailClient& client,
 
 void Player::play() {
     for (const Act& act : scenario_.acts) {
-        client_.journal().begin_act(acts_.size());
+        client_.begin_act(acts_.size());
         Json record{{"act", act.given}};
         const auto start = std::chrono::steady_clock::now();
         try {

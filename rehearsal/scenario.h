@@ -88,7 +88,18 @@ struct UserEntry {
 };
 
 struct Failing {
-    enum class Kind { member, read_file, write_file, delete_file, read_setting, save_setting, launch };
+    /// A scenario can't name the last two: they are counted for the search for faults.
+    enum class Kind {
+        member,
+        read_file,
+        write_file,
+        delete_file,
+        read_setting,
+        save_setting,
+        launch,
+        creation,
+        window
+    };
     Kind kind = Kind::member;
     Text subject;
     int use = 0; ///< counted from 1; 0 is every use

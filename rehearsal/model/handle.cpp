@@ -68,7 +68,7 @@ Handle::Target Handle::find(TextView member) const {
 Value Handle::get(host::Member member, const Arguments& arguments) {
     const Target target = find(member.name);
     check_count(target.row, arguments);
-    Value value = target.row.read({client_, target.node, arguments, *node_});
+    Value value = client_.given(target.row.read({client_, target.node, arguments, *node_}));
     client_.journal().note(Deed::get, target.name, shown(value));
     return value;
 }
@@ -84,7 +84,7 @@ Value Handle::call(host::Member member, const Arguments& arguments) {
     const Target target = find(member.name);
     check_count(target.row, arguments);
     client_.journal().note(Deed::call, target.name, shown(arguments));
-    return target.row.read({client_, target.node, arguments, *node_});
+    return client_.given(target.row.read({client_, target.node, arguments, *node_}));
 }
 
 host::Subscription Handle::advise(host::EventSource source, host::EventHandler handler) {

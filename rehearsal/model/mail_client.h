@@ -39,7 +39,14 @@ public:
     std::vector<std::shared_ptr<ExplorerNode>> open_explorers() const;
     std::shared_ptr<ExplorerNode> active_explorer() const;
 
+    /// What happens from now on belongs to the act with this index.
+    void begin_act(std::size_t act) {
+        journal_.begin_act(act);
+        failures_.begin_act(act);
+    }
     void count_use(TextView member) { failures_.use(Failing::Kind::member, member); }
+    /// What the add-in gets of a member that was just used: its value, unless a planted fault changes it.
+    host::Value given(host::Value value);
     Journal& journal() { return journal_; }
     Machine& machine() { return machine_; }
     const Host& host() const { return scenario_.host; }

@@ -90,7 +90,7 @@ void MemoryDisk::remove_folder(TextView path) {
 std::string RehearsedDisk::read(TextView path) const {
     journal_.note(Deed::read_file, Text(path));
     failures_.use(Failing::Kind::read_file, plain_path(path));
-    return disk_.read(path);
+    return failures_.given(disk_.read(path));
 }
 
 void RehearsedDisk::write(TextView path, std::string_view bytes) {

@@ -90,6 +90,7 @@ void MemoryMachine::launch(TextView program, TextView arguments, WindowState win
 
 Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
     journal_.note(Deed::window, Text(title), text);
+    failures_.use(Failing::Kind::window, title);
     const bool yes_no = buttons == Buttons::yes_no;
     const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, yes_no));
     if (!yes_no) return Answer::ok;
@@ -97,6 +98,7 @@ Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
 }
 
 void MemoryMachine::show_modal(forms::Form& form) {
+    failures_.use(Failing::Kind::window, form.name());
     form.load();
     if (!form.is_loaded()) return;
     if (form.centred) form.properties.place = forms::centred(form.properties.place, screen);

@@ -17,7 +17,7 @@ public:
         std::optional<Text> value;
         attempt([&] {
             failures_.use(Failing::Kind::read_setting, key);
-            value = store_.find(section, key);
+            value = failures_.given(store_.find(section, key));
             journal_.note(Deed::read_setting, named(section, key), value.value_or(Text()));
         });
         return value;

@@ -53,6 +53,10 @@ int play_into(const std::string& file, const Scenario& scenario, const std::stri
 
 Json play_here(const Scenario& scenario, const std::string& source, Journal& journal) {
     Failures failures(scenario.fail);
+    return play_here(scenario, source, journal, failures);
+}
+
+Json play_here(const Scenario& scenario, const std::string& source, Journal& journal, Failures& failures) {
     MemoryMachine machine(scenario, source, failures, journal);
     machine.prepare(scenario);
     const Snapshot before = machine.snapshot();

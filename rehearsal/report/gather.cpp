@@ -38,21 +38,21 @@ std::vector<GateVisit> gates_of(const std::vector<JournalEntry>& journal, std::s
     return gates;
 }
 
-std::vector<Send> sends_of(const Story& story, const Journal& journal) {
+} // namespace
+
+std::vector<Send> sends_of(const Scenario& scenario, const Json& outcome, const Journal& journal) {
     std::vector<Send> sends;
-    for (std::size_t i = 0; i < story.scenario.acts.size(); ++i) {
-        const Act& act = story.scenario.acts[i];
+    for (std::size_t i = 0; i < scenario.acts.size(); ++i) {
+        const Act& act = scenario.acts[i];
         if (act.kind != Act::Kind::send) continue;
-        if (i >= story.outcome.at("acts").size()) break; // an exception reached the host before
-        const Json& record = story.outcome.at("acts").at(i);
+        if (i >= outcome.at("acts").size()) break; // an exception reached the host before
+        const Json& record = outcome.at("acts").at(i);
         sends.push_back({i, static_cast<std::size_t>(act.number), record.value("cancel", false),
                          record.value("milliseconds", 0.0), journal.host_uses(i),
-                         gates_of(story.journal, i)});
+                         gates_of(journal.entries(), i)});
     }
     return sends;
 }
-
-} // namespace
 
 std::vector<std::string> differences(const Json& left, const Json& right) {
     const Json one = comparable(left), other = comparable(right);
@@ -75,7 +75,7 @@ Story gather(Scenario scenario, const std::string& source, const std::optional<J
         dll_outcome && dll_outcome->value("acts", Json::array()).size() == story.scenario.acts.size();
     story.outcome = story.with_dll ? *dll_outcome : native;
     if (dll_outcome) story.differences = differences(native, *dll_outcome);
-    story.sends = sends_of(story, journal);
+    story.sends = sends_of(story.scenario, story.outcome, journal);
     if (story.scenario.expect) story.mismatches = mismatches(*story.scenario.expect, story.outcome);
     return story;
 }

@@ -10,6 +10,9 @@ namespace ornavel::rehearsal::report {
 /// real DLL given, that one is told and compared with the native one.
 Story gather(Scenario scenario, const std::string& source, const std::optional<Json>& dll_outcome);
 
+/// The items on their way out, in the order of the acts.
+std::vector<Send> sends_of(const Scenario& scenario, const Json& outcome, const Journal& journal);
+
 /// The members in which two outcomes differ. Times and dates of logs never count.
 std::vector<std::string> differences(const Json& left, const Json& right);
 

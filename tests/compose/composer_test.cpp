@@ -284,6 +284,14 @@ TEST_F(Composer, AScriptInTheTemplateIsAskedAbout) {
     }
 }
 
+TEST_F(Composer, AQuestionAboutAScriptThatCantBePutIsNoRefusal) {
+    files.contents[path] = "</script>[#Input your message here#]";
+    boxes.broken = u"Ornavel Security Warning";
+    EXPECT_EQ(compose(u"x"), u"</script>x\r\n");
+    EXPECT_FALSE(shared.template_refused);
+    expect_error(u"CreateHTMLBody", u"CreateHTM_Err");
+}
+
 TEST_F(Composer, AScriptInMixedCaseOrInAPreviewIsNotAskedAbout) {
     files.contents[path] = "</Script>[#Input your message here#]";
     EXPECT_EQ(compose(u"x"), u"</Script>x\r\n");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/errors.h"
 #include "base/message_box.h"
 
 #include <map>
@@ -15,8 +16,10 @@ public:
     };
     std::map<Text, bool> agreed;
     std::vector<Box> shown;
+    Text broken; ///< the title of a box that the system can't show
 
     Answer show(TextView title, TextView text, Buttons buttons) override {
+        if (!broken.empty() && title == broken) throw Failure(u"no window");
         shown.push_back({Text(title), Text(text)});
         if (buttons == Buttons::ok) return Answer::ok;
         return agreed.count(Text(title)) != 0 ? Answer::yes : Answer::no;

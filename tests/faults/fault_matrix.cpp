@@ -1,0 +1,203 @@
+// fault_matrix [--samples N FOLDER] SCENARIO.json...: replays each scenario once for each use that the add-in
+// makes of the mail client, the files, the settings, other programs and windows, and for each kind of fault,
+// with that use going wrong. Prints what came of it; exit code 1 when anything did. With --samples it leaves
+// N of the replays in a folder instead, as scenarios for every binding: those in which a member of the mail
+// client fails.
+#include "rehearsal/native/apart.h"
+#include "rehearsal/native/loaded.h"
+#include "rehearsal/native/native_play.h"
+#include "rehearsal/report/gather.h"
+#include "tests/faults/judge.h"
+
+#include "base/encoding.h"
+
+#include <fstream>
+#include <iostream>
+#include <thread>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace ornavel::faults {
+namespace {
+
+using namespace rehearsal;
+
+constexpr Fault kinds[] = {Fault::failure, Fault::described_failure, Fault::disconnected, Fault::wrong_type,
+                           Fault::empty_value};
+constexpr const char* kind_names[] = {"failure", "described failure", "disconnected", "wrong type",
+                                      "empty value"};
+
+struct Count {
+    const char* name;
+    std::size_t times;
+};
+
+/// What all replays came to. A replay in which the user's script met other windows than it was written for
+/// has no outcome; all that it shows is that nothing was let out.
+struct Tally {
+    std::size_t runs = 0, escaped = 0, blocked = 0, half_dressed = 0, leaked = 0, silent = 0, unfinished = 0;
+
+    void add(const Verdict& verdict) {
+        escaped += verdict.escaped;
+        blocked += verdict.blocked;
+        half_dressed += verdict.half_dressed;
+        leaked += verdict.leaked;
+        silent += verdict.silent;
+    }
+    std::size_t bad() const { return escaped + blocked + half_dressed + leaked + silent; }
+};
+
+Play play(const Loaded& loaded, Failures& failures) {
+    Journal journal;
+    Play result;
+    result.outcome = play_here(loaded.scenario, loaded.file, journal, failures);
+    result.sends = report::sends_of(loaded.scenario, result.outcome, journal);
+    return result;
+}
+
+void tell(const Loaded& loaded, std::size_t use, const Planted& planted, const Verdict& verdict) {
+    std::cerr << loaded.file << ": use " << use << " (" << to_utf8(planted.use.subject) << ", "
+              << kind_names[static_cast<int>(planted.fault)] << "):" << (verdict.escaped ? " escaped" : "")
+              << (verdict.blocked ? " blocked" : "") << (verdict.half_dressed ? " half-dressed" : "")
+              << (verdict.leaked ? " leaked" : "") << (verdict.silent ? " silent" : "") << '\n';
+}
+
+void replay(const Loaded& loaded, const Play& sound, std::size_t use, Fault fault, Tally& tally) {
+    Failures failures(loaded.scenario.fail);
+    failures.plant(fault, use);
+    try {
+        const Play faulty = play(loaded, failures);
+        if (!failures.has_struck()) return; // this kind of fault can't befall this use
+        ++tally.runs;
+        const Planted planted{fault, failures.uses().at(use - 1)};
+        const Verdict verdict = judge(loaded.scenario, sound, faulty, planted);
+        tally.add(verdict);
+        if (!verdict.good()) tell(loaded, use, planted, verdict);
+    } catch (const Unusable&) {
+        ++tally.runs;
+        ++tally.unfinished;
+    }
+}
+
+Tally replay_all(const Loaded& loaded) {
+    Failures failures(loaded.scenario.fail);
+    const Play sound = play(loaded, failures);
+    Tally tally;
+    for (std::size_t use = 1; use <= failures.uses().size(); ++use)
+        for (const Fault fault : kinds) replay(loaded, sound, use, fault, tally);
+    return tally;
+}
+
+/// Runs a body for each of a number of tasks, each in a process of its own, some at a time. Gives the number
+/// of processes that did not end well.
+std::size_t run_in_processes(std::size_t tasks, const std::function<void(std::size_t)>& body) {
+    const std::size_t most = std::max(1u, std::thread::hardware_concurrency());
+    std::size_t running = 0, bad = 0;
+    const auto wait_for_one = [&] {
+        int status = 0;
+        if (wait(&status) < 0) return;
+        --running;
+        bad += !WIFEXITED(status) || WEXITSTATUS(status) != 0;
+    };
+    for (std::size_t task = 0; task < tasks; ++task) {
+        if (running == most) wait_for_one();
+        if (fork() == 0) {
+            body(task);
+            _exit(0);
+        }
+        ++running;
+    }
+    while (running > 0) wait_for_one();
+    return bad;
+}
+
+Tally replay_everything(const std::vector<std::string>& files) {
+    const ScratchFolder scratch;
+    const auto result = [&](std::size_t i) { return scratch / std::to_string(i); };
+    Tally sum;
+    sum.escaped = run_in_processes(files.size(), [&](std::size_t i) {
+        const Tally tally = replay_all(load(files[i], Binding::native));
+        std::ofstream(result(i), std::ios::binary).write(reinterpret_cast<const char*>(&tally), sizeof tally);
+    });
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        Tally tally;
+        std::ifstream stream(result(i), std::ios::binary);
+        if (!stream.read(reinterpret_cast<char*>(&tally), sizeof tally)) {
+            std::cerr << files[i] << ": the add-in crashed\n";
+            continue;
+        }
+        sum.runs += tally.runs;
+        sum.escaped += tally.escaped;
+        sum.blocked += tally.blocked;
+        sum.half_dressed += tally.half_dressed;
+        sum.leaked += tally.leaked;
+        sum.silent += tally.silent;
+        sum.unfinished += tally.unfinished;
+    }
+    return sum;
+}
+
+/// The scenario with a failing use, counted among those of its own member, as any binding can play it.
+Json with_failure(const Loaded& loaded, const std::vector<Failures::Use>& uses, std::size_t use) {
+    const Text& member = uses[use].subject;
+    const auto of_member = std::count_if(uses.begin(), uses.begin() + static_cast<std::ptrdiff_t>(use) + 1,
+                                         [&](const auto& other) { return other.subject == member; });
+    Json scenario = with_files_inside(loaded.json, loaded.scenario);
+    scenario.erase("expect");
+    scenario["fail"].push_back({{"member", to_json(member)}, {"use", of_member}});
+    return scenario;
+}
+
+/// Whether the user's script still fits when this use fails.
+bool is_playable(const Loaded& loaded, std::size_t use) {
+    Failures failures(loaded.scenario.fail);
+    failures.plant(Fault::described_failure, use + 1);
+    try {
+        play(loaded, failures);
+        return true;
+    } catch (const Unusable&) {
+        return false;
+    }
+}
+
+/// Spread evenly over all uses of all scenarios.
+void leave_samples(std::size_t wanted, const std::string& folder, const std::vector<std::string>& files) {
+    std::vector<Json> all;
+    for (const auto& file : files) {
+        const Loaded loaded = load(file, Binding::wine);
+        Failures failures(loaded.scenario.fail);
+        play(loaded, failures);
+        for (std::size_t use = 0; use < failures.uses().size(); ++use)
+            if (failures.uses()[use].kind == Failing::Kind::member && is_playable(loaded, use))
+                all.push_back(with_failure(loaded, failures.uses(), use));
+    }
+    for (std::size_t i = 0; i < wanted && i < all.size(); ++i)
+        std::ofstream(folder + "/" + std::to_string(i) + ".json")
+            << to_json_text(all[i * all.size() / std::min(wanted, all.size())]);
+}
+
+int print(const Tally& tally) {
+    const Count rows[] = {{"runs", tally.runs},
+                          {"escapes", tally.escaped},
+                          {"sends blocked by a fault", tally.blocked},
+                          {"half-dressed items", tally.half_dressed},
+                          {"leaks", tally.leaked},
+                          {"errors without a line in the log", tally.silent},
+                          {"not played to the end", tally.unfinished}};
+    for (const auto& [name, times] : rows) std::printf("%-34s %8zu\n", name, times);
+    return tally.runs > 0 && tally.bad() == 0 ? 0 : 1;
+}
+
+} // namespace
+} // namespace ornavel::faults
+
+int main(int count, char** arguments) {
+    using namespace ornavel::faults;
+    const std::vector<std::string> words(arguments + 1, arguments + count);
+    if (words.size() > 3 && words[0] == "--samples") {
+        leave_samples(std::stoul(words[1]), words[2], {words.begin() + 3, words.end()});
+        return 0;
+    }
+    return print(replay_everything(words));
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "rehearsal/failures.h"
+#include "rehearsal/report/story.h"
+
+namespace ornavel::faults {
+
+/// One scenario as it was played, without a fault or with one.
+struct Play {
+    rehearsal::Json outcome;
+    std::vector<rehearsal::report::Send> sends;
+};
+
+struct Planted {
+    rehearsal::Fault fault;
+    rehearsal::Failures::Use use; ///< the one that it struck
+};
+
+/// What must not happen. `blocked`: a send was cancelled although no gate decided so. `half_dressed`: an item
+/// lost its text, or carries the stamp without being dressed. `silent`: an error ended the add-in's part of a
+/// send and the log has no line of it.
+struct Verdict {
+    bool escaped = false, blocked = false, half_dressed = false, leaked = false, silent = false;
+    bool good() const { return !(escaped || blocked || half_dressed || leaked || silent); }
+};
+
+Verdict judge(const rehearsal::Scenario& scenario, const Play& sound, const Play& faulty,
+              const Planted& planted);
+
+} // namespace ornavel::faults
