@@ -33,7 +33,12 @@ void Connect::OnConnection(host::Application application) noexcept {
     session.host.oHostApp = std::move(application);
     attempt([&] {
         session.host.application_events = session.host.oHostApp.on_events(
-            {.item_send = [this](host::MailItem item, bool& cancel) { ol_ItemSend(*session_, item, cancel); },
+            {.item_send =
+                 [this](host::MailItem item, bool& cancel) {
+                     const auto& keep = session_->platform.keep;
+                     const std::shared_ptr<void> kept = keep ? keep() : nullptr;
+                     ol_ItemSend(*session_, item, cancel);
+                 },
              .options_pages_add = [this](host::PropertyPages pages) { OptionsPagesAdd(pages); }});
     });
     attempt([&] { hook_active_explorer(); });

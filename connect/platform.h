@@ -10,6 +10,7 @@
 #include "settings/store.h"
 
 #include <functional>
+#include <memory>
 
 namespace ornavel::connect {
 
@@ -24,6 +25,9 @@ struct Platform {
     const forms::StringTable& strings;
     const SystemInformation& machine;
     Text addin_folder; ///< the folder of Ornavel.dll, without a backslash at its end
+    /// Keeps the add-in and its machine for as long as the result lives: the mail client may let go of them
+    /// while a send waits for the user. Empty where they outlive every send anyway.
+    std::function<std::shared_ptr<void>()> keep = {};
     /// Told each gate that a send reaches and whether it passed; empty where nobody watches.
     std::function<void(TextView gate, bool passed)> on_gate = {};
 };

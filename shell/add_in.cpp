@@ -48,8 +48,10 @@ host::Value argument(const DISPPARAMS* parameters, UINT index) {
 
 } // namespace
 
-connect::Platform Machine::platform() {
-    return {settings_, files_, clock_, launcher_, objects_, windows_, strings_, information_, addin_folder()};
+connect::Platform Machine::platform(IUnknown* owner) {
+    const auto keep = [owner] { return std::make_shared<win32::ComPtr<IUnknown>>(owner); };
+    return {settings_, files_,   clock_,       launcher_,      objects_,
+            windows_,  strings_, information_, addin_folder(), keep};
 }
 
 HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {

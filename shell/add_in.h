@@ -15,7 +15,8 @@ namespace ornavel::shell {
 /// The machine that the add-in runs on: the real one.
 class Machine {
 public:
-    connect::Platform platform();
+    /// The owner is the object that this machine is a part of.
+    connect::Platform platform(IUnknown* owner);
 
 private:
     win32::RegistryStore settings_;
@@ -51,7 +52,7 @@ public:
 private:
     ModuleUse use_;
     Machine machine_;
-    connect::Connect connect_{machine_.platform()};
+    connect::Connect connect_{machine_.platform(this)};
 };
 
 } // namespace ornavel::shell

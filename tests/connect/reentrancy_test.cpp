@@ -1,0 +1,156 @@
+#include "connect/connect.h"
+#include "tests/rehearsal/stage.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::connect {
+namespace {
+
+using rehearsal::Stage;
+
+/// A screen on which something happens while the first window is open. Boxes are answered Yes, forms are
+/// closed by their frame.
+class InterruptedWindows final : public forms::Windows {
+public:
+    std::function<void()> meanwhile;
+    std::vector<Text> shown;
+
+    Answer show(TextView title, TextView, Buttons buttons) override {
+        shown.emplace_back(title);
+        interrupt();
+        return buttons == Buttons::ok ? Answer::ok : Answer::yes;
+    }
+    void show_modal(forms::Form& form) override {
+        form.load();
+        shown.push_back(form.name());
+        interrupt();
+        form.unload();
+    }
+
+private:
+    void interrupt() {
+        if (const auto happens = std::exchange(meanwhile, {})) happens();
+    }
+};
+
+/// Two messages, and a template whose script is asked about while the first one is composed.
+constexpr const char* two_messages = R"({
+    "settings": {
+        "Admin Settings": {"SigEmail": "jo@example.com", "SigWebsite": "example.com", "HTM Files Path": "C:\\stationery"},
+        "User Settings": {"SettingButtonBar": "auto", "Template": "letter.htm", "Signature": "none"}},
+    "files": {"C:\\stationery\\letter.htm": "</script>{[#Input your message here#]}"},
+    "host": {"explorers": 1},
+    "items": [{"HTMLBody": "outer"}, {"HTMLBody": "inner"}],
+    "do": []})";
+
+class Reentrancy : public testing::Test {
+protected:
+    void SetUp() override {
+        connect->OnConnection(stage.application());
+        connect->OnStartupComplete();
+    }
+
+    Platform platform() {
+        return {.settings = stage.machine.addin_settings(),
+                .files = stage.machine.addin_files(),
+                .clock = stage.machine.addin_clock(),
+                .launcher = stage.machine.addin_launcher(),
+                .objects = stage.client,
+                .windows = windows,
+                .strings = forms::built_in_strings(),
+                .machine = stage.machine.addin_machine(),
+                .addin_folder = u"C:\\add-in",
+                .keep = [this] { return connect; }};
+    }
+
+    bool send(std::size_t item) { return stage.client.send(*stage.client.items[item]); }
+    Text body(std::size_t item) { return stage.item(item).html_body(); }
+    void set_up_without_template() {
+        stage.machine.change_settings({{u"User Settings", {{u"Template", u""}}}});
+    }
+    Text mode() { return *stage.machine.addin_settings().find(u"User Settings", u"SettingButtonBar"); }
+    Text log() { return from_utf8(stage.machine.files().read(u"C:\\add-in\\Support\\SupportLog.txt")); }
+
+    Stage stage{two_messages};
+    InterruptedWindows windows;
+    std::shared_ptr<Connect> connect = std::make_shared<Connect>(platform());
+};
+
+TEST_F(Reentrancy, ASendInsideASendIsDressedAndSoIsTheOuterOne) {
+    windows.meanwhile = [&] { EXPECT_FALSE(send(1)); };
+    EXPECT_FALSE(send(0));
+    EXPECT_EQ(body(0), u"</script>{outer}\r\n");
+    EXPECT_EQ(body(1), u"</script>{inner}\r\n");
+    for (const std::size_t item : {0, 1})
+        EXPECT_EQ(stage.item(item).billing_information(), u"Ornavel from Brevant");
+    EXPECT_EQ(windows.shown.size(), 2u);
+}
+
+TEST_F(Reentrancy, AnItemThatAPreviewSendsInsideASendGoesOutUntouched) {
+    stage.item(1).set_billing_information(u"Preview Send");
+    windows.meanwhile = [&] { EXPECT_FALSE(send(1)); };
+    EXPECT_FALSE(send(0));
+    EXPECT_EQ(body(0), u"</script>{outer}\r\n");
+    EXPECT_EQ(body(1), u"inner");
+}
+
+TEST_F(Reentrancy, ASendWhileThePromptIsOpenLeavesTheOuterOneCancelled) {
+    set_up_without_template();
+    stage.item(1).set_billing_information(u"Preview Send");
+    windows.meanwhile = [&] { EXPECT_FALSE(send(1)); };
+    EXPECT_TRUE(send(0));
+    EXPECT_EQ(mode(), u"on");
+    EXPECT_EQ(body(0), u"outer");
+    EXPECT_TRUE(stage.client.items[1]->sent);
+}
+
+TEST_F(Reentrancy, ALastExplorerClosedWhileThePromptIsOpenChangesTheModeAllTheSame) {
+    set_up_without_template();
+    windows.meanwhile = [&] { stage.client.close_explorer(0); };
+    EXPECT_TRUE(send(0));
+    EXPECT_EQ(mode(), u"on");
+    EXPECT_EQ(stage.held(), 0u);
+}
+
+TEST_F(Reentrancy, AnExplorerOfSeveralClosedWhileAQuestionIsOpenChangesNothing) {
+    stage.client.add_explorers(1);
+    windows.meanwhile = [&] { stage.client.close_explorer(0); };
+    EXPECT_FALSE(send(0));
+    EXPECT_EQ(body(0), u"</script>{outer}\r\n");
+}
+
+TEST_F(Reentrancy, AShutdownWhileThePromptIsOpenLosesNeitherTheMessageNorTheMode) {
+    set_up_without_template();
+    windows.meanwhile = [&] {
+        connect->OnBeginShutdown();
+        connect->OnDisconnection(0);
+    };
+    EXPECT_TRUE(send(0));
+    EXPECT_EQ(mode(), u"on");
+    EXPECT_EQ(body(0), u"outer");
+    EXPECT_EQ(stage.held(), 0u);
+}
+
+TEST_F(Reentrancy, AShutdownDuringTheCompositionLetsTheMessageGoAsItIsAndSaysSo) {
+    windows.meanwhile = [&] { connect->OnBeginShutdown(); };
+    EXPECT_FALSE(send(0));
+    EXPECT_EQ(body(0), u"outer");
+    EXPECT_EQ(stage.item(0).billing_information(), u"");
+    EXPECT_TRUE(contains(log(), u"ol_ItemSend, composition"));
+    connect->OnDisconnection(0);
+    EXPECT_EQ(stage.held(), 0u);
+}
+
+TEST_F(Reentrancy, AMailClientThatLetsGoOfTheAddInWhileAQuestionIsOpenFindsNothingHeldAfterwards) {
+    windows.meanwhile = [&] {
+        connect->OnBeginShutdown();
+        connect->OnDisconnection(0);
+        connect.reset();
+    };
+    EXPECT_FALSE(send(0));
+    EXPECT_EQ(body(0), u"outer");
+    EXPECT_EQ(stage.held(), 0u);
+}
+
+} // namespace
+} // namespace ornavel::connect
