@@ -1,8 +1,10 @@
 #include "rehearsal/windows/served_classes.h"
 
+#include "base/encoding.h"
 #include "win32/registry.h"
 #include "win32/wide.h"
 
+#include <cstdlib>
 #include <objbase.h>
 
 namespace ornavel::rehearsal {
@@ -51,6 +53,12 @@ private:
     std::shared_ptr<Subscriptions> subscriptions_;
 };
 
+/// Whether the environment asks for the machine's own class instead of the stand-in.
+bool is_left_to_the_machine(TextView prog_id) {
+    const char* const classes = std::getenv("ORNAVEL_REAL_CLASSES");
+    return classes && contains(from_utf8(classes), prog_id);
+}
+
 Text to_text(const GUID& id) {
     wchar_t text[39];
     StringFromGUID2(id, text, ARRAYSIZE(text));
@@ -61,6 +69,7 @@ Text to_text(const GUID& id) {
 
 ServedClasses::ServedClasses(MailClient& client, const std::shared_ptr<Subscriptions>& subscriptions) {
     for (const TextView prog_id : served) {
+        if (is_left_to_the_machine(prog_id)) continue;
         CLSID id{};
         CoCreateGuid(&id);
         Taken taken{u"Software\\Classes\\" + Text(prog_id) + u"\\CLSID", {}, 0};
