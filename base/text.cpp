@@ -42,7 +42,14 @@ Text upper_case(TextView text) {
 bool same_name(TextView left, TextView right) { return std::ranges::equal(left, right, {}, upper, upper); }
 
 bool name_before(TextView left, TextView right) {
-    return std::ranges::lexicographical_compare(left, right, {}, upper, upper);
+    const std::size_t common = std::min(left.size(), right.size());
+    for (std::size_t i = 0; i < common; ++i) {
+        // Every setting that is read comes by here; nearly all units are equal as they stand.
+        if (left[i] == right[i]) continue;
+        const char16_t one = upper(left[i]), other = upper(right[i]);
+        if (one != other) return one < other;
+    }
+    return left.size() < right.size();
 }
 
 Text trim(TextView text) {

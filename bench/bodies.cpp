@@ -58,4 +58,15 @@ Text distinct_addresses(std::size_t bytes) {
     return text;
 }
 
+void fill_signature(settings::Store& store) {
+    using namespace settings;
+    save(store, admin::SigFullname, u"Jo Sender");
+    save(store, admin::SigPosition, u"Director of Figures");
+    save(store, admin::SigOrganizationName, u"Example Company");
+    save(store, admin::SigAddress, u"1 Example Street");
+    save(store, admin::SigEmail, u"jo@example.com");
+    save(store, admin::SigWebsite, u"www.example.com");
+    save(store, admin::SigWebsiteDisplayName, u"Example");
+}
+
 } // namespace ornavel::bench

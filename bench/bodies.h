@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/text.h"
+#include "settings/store.h"
 
 namespace ornavel::bench {
 
@@ -16,5 +16,7 @@ Text body_with_images(std::size_t bytes);
 Text distinct_addresses(std::size_t bytes);
 /// A signature file with the usual fields.
 Text signature();
+/// The settings of a user without a telephone, a fax and a cell phone.
+void fill_signature(settings::Store& store);
 
 } // namespace ornavel::bench

@@ -8,16 +8,6 @@ namespace ornavel::bench {
 
 using namespace settings;
 
-void fill_signature(Store& store) {
-    save(store, admin::SigFullname, u"Jo Sender");
-    save(store, admin::SigPosition, u"Director of Figures");
-    save(store, admin::SigOrganizationName, u"Example Company");
-    save(store, admin::SigAddress, u"1 Example Street");
-    save(store, admin::SigEmail, u"jo@example.com");
-    save(store, admin::SigWebsite, u"www.example.com");
-    save(store, admin::SigWebsiteDisplayName, u"Example");
-}
-
 ReplyComposer::ReplyComposer() : item_(std::make_shared<RecordingObject>(journal_)) {
     fill_signature(store_);
     for (const Key& filter :

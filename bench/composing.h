@@ -10,9 +10,6 @@
 
 namespace ornavel::bench {
 
-/// The signature of a user without a telephone, a fax and a cell phone.
-void fill_signature(settings::Store& store);
-
 /// A composer of replies with every step and filter on, and everything around it in memory.
 class ReplyComposer {
 public:
