@@ -46,6 +46,8 @@ void look_at_item(Composition& c) {
 void read_Word_document(Composition& c) {
     if (!c.is_word_mail) return;
     const Text path = c.shared.application_path + u"\\GetMyHtml.htm";
+    // What an earlier message left behind is never read as this one.
+    if (c.services.files.file_exists(path)) c.services.files.remove(path);
     const host::WordDocument document = c.shared.item.inspector().word_editor();
     document.copy_content_to_clipboard();
     // A version that saves in no format leaves no file, and reading it fails into this step's trap.

@@ -3,6 +3,8 @@
 #include "base/errors.h"
 #include "host/ado.h"
 
+#include <utility>
+
 namespace ornavel::compose {
 namespace {
 
@@ -28,7 +30,7 @@ Text statement(const UsageLog& log, const UsageRow& row, const Text& address, Te
            row.sender + u"');";
 }
 
-/// Closes the connection whatever happens to the rows.
+/// Closes the connection whatever happens to the rows; only close() tells whether that failed.
 class OpenConnection {
 public:
     OpenConnection(host::Objects& objects, const Text& connection_string)
@@ -36,14 +38,18 @@ public:
         connection_.open(connection_string);
     }
     ~OpenConnection() {
-        attempt([&] { connection_.close(); });
+        attempt([&] { close(); });
     }
     OpenConnection(const OpenConnection&) = delete;
     OpenConnection& operator=(const OpenConnection&) = delete;
     void execute(const Text& text) const { connection_.execute(text); }
+    void close() {
+        if (std::exchange(open_, false)) connection_.close();
+    }
 
 private:
     host::Connection connection_;
+    bool open_ = true;
 };
 
 } // namespace
@@ -61,11 +67,12 @@ UsageLog Get_Marketing_Info(const Store& settings) {
 
 void write_usage(const UsageLog& log, const UsageRow& row, const host::Recipients& recipients,
                  host::Objects& objects) {
-    const OpenConnection connection(objects, log.connection_string);
+    OpenConnection connection(objects, log.connection_string);
     const int count = recipients.count();
     const TextView bulk = count == 1 ? u"0" : u"1";
     for (int i = 1; i <= count; ++i)
         connection.execute(statement(log, row, recipients.item(i).address(), bulk));
+    connection.close();
 }
 
 Text sender_of(const host::Application& application) {

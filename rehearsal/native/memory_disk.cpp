@@ -21,6 +21,8 @@ bool is_below(TextView path, TextView folder) {
            same_name(path.substr(0, folder.size()), folder);
 }
 
+[[noreturn]] void fail(TextView path, TextView words) { throw Failure(Text(path) + u": " + Text(words)); }
+
 bool is_drive(TextView path) { return path.size() == 2 && path[1] == u':'; }
 
 } // namespace
@@ -48,16 +50,21 @@ std::vector<Text> MemoryDisk::list(TextView folder) const {
     return names;
 }
 
+/// In the words that the system has for it, too.
+void MemoryDisk::fail_to_find(TextView path) const {
+    fail(path, folder_exists(parent_of(plain_path(path))) ? u"File not found." : u"Path not found.");
+}
+
 std::string MemoryDisk::read(TextView path) const {
     const auto file = files_.find(plain_path(path));
-    if (file == files_.end()) throw Failure(u"File not found");
+    if (file == files_.end()) fail_to_find(path);
     return file->second;
 }
 
 std::string& MemoryDisk::open_for_writing(TextView path) {
     const Text plain = plain_path(path);
-    if (folder_exists(plain)) throw Failure(u"Path/File access error");
-    if (!folder_exists(parent_of(plain))) throw Failure(u"Path not found");
+    if (folder_exists(plain)) fail(path, u"Access denied.");
+    if (!folder_exists(parent_of(plain))) fail(path, u"Path not found.");
     return files_.try_emplace(plain).first->second;
 }
 
@@ -67,21 +74,21 @@ void MemoryDisk::append(TextView path, std::string_view bytes) { open_for_writin
 
 void MemoryDisk::remove(TextView path) {
     const auto file = files_.find(plain_path(path));
-    if (file == files_.end()) throw Failure(u"File not found");
+    if (file == files_.end()) fail_to_find(path);
     files_.erase(file);
 }
 
 void MemoryDisk::create_folder(TextView path) {
     const Text folder = without_end(path);
     if (folder.empty() || folder_exists(folder)) return;
-    if (file_exists(folder)) throw Failure(u"Path/File access error");
+    if (file_exists(folder)) fail(path, u"Access denied.");
     create_folder(parent_of(folder));
     folders_.emplace(folder);
 }
 
 void MemoryDisk::remove_folder(TextView path) {
     const Text folder = without_end(path);
-    if (!folders_.contains(folder)) throw Failure(u"Path not found");
+    if (!folders_.contains(folder)) fail(path, u"Path not found.");
     std::erase_if(files_, [&](const auto& file) { return is_below(file.first, folder); });
     std::erase_if(folders_,
                   [&](const auto& other) { return same_name(other, folder) || is_below(other, folder); });

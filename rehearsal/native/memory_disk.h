@@ -30,6 +30,7 @@ public:
     const std::set<Text, NameOrder>& folders() const { return folders_; }
 
 private:
+    [[noreturn]] void fail_to_find(TextView path) const;
     std::string& open_for_writing(TextView path);
 
     ByName<std::string> files_;

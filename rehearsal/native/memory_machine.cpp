@@ -63,7 +63,7 @@ void MemoryMachine::change_settings(const SettingsTree& settings) {
 
 std::optional<Text> MemoryMachine::prompt(TextView mode) {
     forms::PromptDialog dialog(*this, forms::built_in_strings());
-    dialog.ask(mode);
+    attempt([&] { dialog.ask(mode); }); // like every caller in the add-in
     return dialog.values().answer;
 }
 

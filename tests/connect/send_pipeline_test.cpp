@@ -1,0 +1,109 @@
+#include "tests/connect/sending.h"
+
+#include "base/encoding.h"
+
+namespace ornavel::connect {
+namespace {
+
+using namespace settings;
+
+const Text odd{u'a', char16_t{0}, char16_t{0xD800}, u'b', char16_t{0xDC00}, u'\x1', u'\x1F'};
+
+TEST_F(Sending, AModeThatIsSwitchedOffDuringASendLetsTheItemGoAsItIs) {
+    store.change_after(1, user::SettingButtonBar, u"off");
+    EXPECT_FALSE(send());
+    EXPECT_EQ(item().html_body, u"<p>Hello</p>");
+    EXPECT_EQ(item().billing_information, u"");
+    EXPECT_EQ(passed.back(), u"send as is");
+}
+
+TEST_F(Sending, AModeThatBecomesOnDuringASendLeavesTheItemToTheSendOptionsForm) {
+    set(system::SystemCheck, on);
+    store.change_after(2, user::SettingButtonBar, u"on");
+    EXPECT_FALSE(send());
+    EXPECT_EQ(item().html_body, u"<p>Hello</p>");
+    EXPECT_EQ(item().billing_information, u"");
+    EXPECT_EQ(passed.back(), u"reply test");
+    const std::string log = stage.machine.files().read(u"C:\\log.txt");
+    EXPECT_NE(log.find("Auto process end check OK, Check 11, Send Event\r\n"), std::string::npos);
+    EXPECT_NE(log.find("Ornavel Dialog check OK, Check 12, Send Event\r\n"), std::string::npos);
+    EXPECT_NE(log.find("vCard Attach check OK, Check 13, Send Event\r\n"), std::string::npos);
+}
+
+TEST_F(Sending, ATemplateThatIsUnsetDuringASendIsNoneOfItsFolder) {
+    store.change_after(1, user::Template, u"");
+    EXPECT_FALSE(send());
+    EXPECT_EQ(item().html_body, u"<<p>Hello</p>>\r\n");
+}
+
+TEST_F(Sending, HalfPairsAndNulUnitsOfABodyGoOutAsTheyAre) {
+    item().html_body = odd;
+    EXPECT_FALSE(send());
+    EXPECT_EQ(item().html_body, u"<" + odd + u">\r\n");
+    EXPECT_EQ(item().billing_information, u"Ornavel from Brevant");
+}
+
+TEST_F(Sending, HalfPairsAndNulUnitsOfAPlainTextGoOutAsTheyAre) {
+    item().editor_type = 1;
+    item().body = odd;
+    EXPECT_FALSE(send());
+    EXPECT_EQ(item().html_body, u"<span> <font face='Courier new' size=2>" + odd + u"</font></span>");
+}
+
+TEST_F(Sending, SettingsOfAnyTextAndSizeGoIntoTheMessage) {
+    Text large;
+    while (large.size() < 65536) large += odd + u"'\"<>&|#;";
+    set(admin::SigFullname, large);
+    EXPECT_FALSE(send());
+    EXPECT_EQ(item().html_body, u"<<p>Hello</p>>" + large + u"\r\n");
+}
+
+TEST_F(Sending, AnyTextInEverySettingStopsNoSend) {
+    Text large;
+    while (large.size() < 65536) large += odd;
+    for (const TextView text :
+         {TextView(odd), TextView(large), TextView(u"-1"), TextView(u"\\\\?\\C:\\..\\")})
+        for (const Key& key : catalogue()) {
+            item().user_property_nodes.clear();
+            item().html_body = u"<p>Hello</p>";
+            const auto before = stage.machine.addin_settings().find(key.section, key.name);
+            set(key, text);
+            const bool needed =
+                same_name(key.name, user::Template.name) || same_name(key.name, user::Signature.name);
+            EXPECT_EQ(send(), needed) << to_utf8(key.name);
+            set(user::SettingButtonBar, u"auto");
+            set(key, before ? TextView(*before) : key.default_value);
+        }
+}
+
+TEST_F(Sending, ADisclaimerOfTenMegabytesGoesUnderAPlainText) {
+    std::string disclaimer;
+    while (disclaimer.size() < 10'000'000)
+        disclaimer += "This message is confidential, and so is its length.\r\n";
+    stage.machine.files().write(u"C:\\app\\DisclaimerText.txt", disclaimer);
+    item().editor_type = 1;
+    EXPECT_FALSE(send());
+    const auto lines = disclaimer.size() / 53;
+    EXPECT_EQ(item().html_body.size(),
+              lines * 55 + Text(u"<span> <font face='Courier new' size=2>Hello<P></font></span>").size());
+    EXPECT_TRUE(item().html_body.ends_with(u"and so is its length.<br></font></span>"));
+    EXPECT_EQ(item().billing_information, u"Ornavel from Brevant");
+}
+
+TEST_F(Sending, ABodyTooLargeForItsTextToGrowGoesOutAsItStood) {
+    item().html_body = Text(std::size_t{32} << 20, u'x');
+    set(admin::SigFullname, Text(std::size_t{1} << 20, u'y'));
+    stage.machine.files().write(u"C:\\stationery\\letter.htm", [] {
+        std::string fields = "[#Input your message here#]";
+        for (int i = 0; i < 40; ++i) fields += "[#SigFullname#]";
+        return fields;
+    }());
+    EXPECT_FALSE(send());
+    EXPECT_TRUE(item().html_body.starts_with(u"xxxx"));
+    EXPECT_TRUE(item().html_body.ends_with(u"[#SigFullname#]\r\n"));
+    EXPECT_NE(stage.machine.files().read(u"C:\\log.txt").find("CreateHTMLBody, CreateHTM_Err, "),
+              std::string::npos);
+}
+
+} // namespace
+} // namespace ornavel::connect
