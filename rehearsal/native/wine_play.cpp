@@ -2,6 +2,7 @@
 
 #include "rehearsal/native/apart.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 
@@ -27,6 +28,9 @@ int become(const std::vector<std::string>& command) {
     execv(arguments[0], arguments.data());
     return 127;
 }
+
+/// A command line of Windows ends at 32,767 characters.
+constexpr std::size_t most_at_once = 200;
 
 /// The Windows side of several rehearsals, each with a file for the scenario and one for the outcome.
 class Windows {
@@ -66,7 +70,8 @@ private:
 
     std::vector<std::string> command(std::size_t first) const {
         std::vector<std::string> words{runner_, player_};
-        for (std::size_t i = first; i < scenarios_.size(); ++i) {
+        const std::size_t end = std::min(scenarios_.size(), first + most_at_once);
+        for (std::size_t i = first; i < end; ++i) {
             words.push_back("Z:" + in(i));
             words.push_back("Z:" + out(i));
         }
