@@ -50,11 +50,12 @@ std::vector<std::string> words_of(const std::string& html) {
     return words;
 }
 
-/// A host or a disk that tells another text than there is: what then goes out is not the add-in's doing.
+/// A host or a disk that tells another text than there is, or another kind of it: what then goes out is not
+/// the add-in's doing.
 bool tells_another_text(const Planted& planted) {
     if (planted.fault != Fault::wrong_type && planted.fault != Fault::empty_value) return false;
     return planted.use.kind == Failing::Kind::read_file || planted.use.subject.ends_with(u".HTMLBody") ||
-           planted.use.subject.ends_with(u".Body");
+           planted.use.subject.ends_with(u".Body") || planted.use.subject.ends_with(u".EditorType");
 }
 
 bool lost_its_text(const std::string& body, const std::string& was, const std::string& sound) {
