@@ -77,7 +77,8 @@ Text replace_all(TextView text, TextView search, TextView replacement) {
         result.append(text.substr(done, at - done)).append(replacement);
         done = at + search.size();
     }
-    return result.append(text.substr(done));
+    result.append(text.substr(done));
+    return result;
 }
 
 std::vector<Text> split(TextView text, TextView separator) {

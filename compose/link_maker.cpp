@@ -115,7 +115,8 @@ private:
                 result.append(linked_in_order(Text(word)));
             if (result.size() > largest_text) throw TextTooLarge();
         }
-        return result.append(text_.substr(done));
+        result.append(text_.substr(done));
+        return result;
     }
 
     std::size_t expected_size() const {

@@ -50,6 +50,13 @@ TEST_F(Sending, HalfPairsAndNulUnitsOfAPlainTextGoOutAsTheyAre) {
     EXPECT_EQ(item().html_body, u"<span> <font face='Courier new' size=2>" + odd + u"</font></span>");
 }
 
+TEST_F(Sending, ABodyOfFiftyMegabytesIsDressedWhole) {
+    const Text body(std::size_t{25} << 20, u'x');
+    item().html_body = body;
+    EXPECT_FALSE(send());
+    EXPECT_TRUE(item().html_body == u"<" + body + u">\r\n"); // not printed when it differs
+}
+
 TEST_F(Sending, SettingsOfAnyTextAndSizeGoIntoTheMessage) {
     Text large;
     while (large.size() < 65536) large += odd + u"'\"<>&|#;";
