@@ -10,7 +10,8 @@ namespace {
 Text with_room(const Text& body) {
     Text text;
     text.reserve(body.size() + body.size() / 64 + 4096);
-    return text.append(body);
+    text.append(body);
+    return text;
 }
 
 Run copying(const Text& body) {
