@@ -17,7 +17,7 @@ Verdict refuse_without_default(Send& send, TextView prompt_mode) {
 void attach_selected_vcard(Send& send) {
     const Text path = read(send.settings(), user::vCardPathSelected);
     const bool wanted = send.session.dialog_answer && read(send.settings(), user::SendvCard) == on &&
-                        !path.empty() && send.session.preview.vcard_chosen;
+                        !path.empty() && send.preview.vcard_chosen;
     if (wanted) send.sent.attachments().add(path);
 }
 

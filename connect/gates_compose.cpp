@@ -7,7 +7,7 @@ namespace {
 using namespace settings;
 
 void attach_vcard(Send& send) {
-    if (!send.session.preview.vcard_chosen) return;
+    if (!send.preview.vcard_chosen) return;
     const Text path = split(read(send.settings(), user::vCardPath), u";").front();
     if (!path.empty()) send.item().attachments().add(path);
 }
@@ -46,7 +46,7 @@ Text composed_body(Send& send, bool plain_text) {
 
 Verdict compose_body(Send& send) {
     send.session.processed = true;
-    if (send.session.preview.send_plain) return Verdict::off;
+    if (send.preview.send_plain) return Verdict::off;
     record_gate(send, u"Auto Preview Send Plain check OK");
     attach_vcard(send);
     if (dress(send)) return Verdict::next;

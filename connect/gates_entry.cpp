@@ -64,7 +64,7 @@ Verdict copy_subject(Send& send) {
 }
 
 Verdict clear_answers(Send& send) {
-    send.session.preview = {};
+    send.preview = {};
     return Verdict::next;
 }
 

@@ -64,11 +64,11 @@ void show_plain_text(Form& form) {
 Verdict auto_preview(Send& send) {
     if (!is_on(send.settings(), admin::AutoPreview)) return Verdict::next;
     Session& session = send.session;
-    session.preview = {};
+    send.preview = {};
     const bool plain_text = send.item().inspector().editor_type() == host::plain_text_editor;
     forms::frmBrowser preview(
         {session.platform.settings, session.platform.files, session.platform.windows, session.errors},
-        session.preview, preview_page(session), [&] {
+        send.preview, preview_page(session), [&] {
             const ForPreview suppressed(session.shared);
             return composed_body(send, plain_text);
         });
@@ -80,7 +80,7 @@ Verdict auto_preview(Send& send) {
     if (plain_text) show_plain_text(form);
     preview.render();
     session.platform.windows.show_modal(form);
-    if (session.preview.send) return Verdict::next;
+    if (send.preview.send) return Verdict::next;
     send.cancel = true;
     return Verdict::leave;
 }

@@ -47,18 +47,20 @@ constexpr Gate gates[] = {
     {u"stamping", stamp, {}},
 };
 
-/// Makes the item the current one, and the outer send's item current again on every way out.
+/// Makes the item the current one. On every way out the outer send finds everything that it shares with the
+/// composer as it left it, its own item among it.
 class CurrentItem {
 public:
-    CurrentItem(Session& session, host::MailItem item)
-        : current_(session.shared.item), outer_(std::exchange(current_, std::move(item))) {}
-    ~CurrentItem() { current_ = std::move(outer_); }
+    CurrentItem(compose::Shared& shared, host::MailItem item) : shared_(shared), outer_(shared) {
+        shared_.item = std::move(item);
+    }
+    ~CurrentItem() { shared_ = std::move(outer_); }
     CurrentItem(const CurrentItem&) = delete;
     CurrentItem& operator=(const CurrentItem&) = delete;
 
 private:
-    host::MailItem& current_;
-    host::MailItem outer_;
+    compose::Shared& shared_;
+    compose::Shared outer_;
 };
 
 bool passes(const Gate& gate, Send& send) noexcept {
@@ -77,7 +79,7 @@ bool passes(const Gate& gate, Send& send) noexcept {
 } // namespace
 
 void ol_ItemSend(Session& session, const host::MailItem& item, bool& cancel) noexcept {
-    const CurrentItem current(session, item);
+    const CurrentItem current(session.shared, item);
     Send send{.session = session, .sent = item, .cancel = cancel};
     for (const Gate& gate : gates)
         if (!passes(gate, send)) return;

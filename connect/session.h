@@ -47,8 +47,7 @@ struct Session {
     bool processed = false;
     bool internal = false;
     bool dialog_answer = true; ///< the send-options form's answer
-    forms::PreviewAnswers preview;
-    Text browser_path; ///< the folder of the preview's page; empty for the application path
+    Text browser_path;         ///< the folder of the preview's page; empty for the application path
     Text language;
 };
 

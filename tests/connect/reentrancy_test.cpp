@@ -86,6 +86,15 @@ TEST_F(Reentrancy, ASendInsideASendIsDressedAndSoIsTheOuterOne) {
     EXPECT_EQ(windows.shown.size(), 2u);
 }
 
+TEST_F(Reentrancy, AReplyKeepsItsQuotedPartWhenANewMessageIsSentInBetween) {
+    stage.machine.change_settings({{u"System Settings", {{u"Office2003SearchString", u"-----Original"}}}});
+    stage.item(0).set_html_body(u"outer-----Original quoted");
+    windows.meanwhile = [&] { EXPECT_FALSE(send(1)); };
+    EXPECT_FALSE(send(0));
+    EXPECT_EQ(body(0), u"</script>{outer}\r\n<p><hr>----Original quoted");
+    EXPECT_EQ(body(1), u"</script>{inner}\r\n");
+}
+
 TEST_F(Reentrancy, AnItemThatAPreviewSendsInsideASendGoesOutUntouched) {
     stage.item(1).set_billing_information(u"Preview Send");
     windows.meanwhile = [&] { EXPECT_FALSE(send(1)); };
@@ -102,6 +111,14 @@ TEST_F(Reentrancy, ASendWhileThePromptIsOpenLeavesTheOuterOneCancelled) {
     EXPECT_EQ(mode(), u"on");
     EXPECT_EQ(body(0), u"outer");
     EXPECT_TRUE(stage.client.items[1]->sent);
+}
+
+TEST_F(Reentrancy, ASendWhileThePreviewIsOpenLeavesTheUsersAnswerToTheOuterOne) {
+    stage.machine.change_settings({{u"Admin Settings", {{u"AutoPreview", u"True"}}}});
+    stage.item(1).set_billing_information(u"Preview Send");
+    windows.meanwhile = [&] { EXPECT_FALSE(send(1)); };
+    EXPECT_TRUE(send(0)); // the preview is closed by its frame
+    EXPECT_EQ(body(0), u"outer");
 }
 
 TEST_F(Reentrancy, ALastExplorerClosedWhileThePromptIsOpenChangesTheModeAllTheSame) {
