@@ -21,6 +21,17 @@ double seconds(const std::function<void()>& body);
 /// The median seconds of each contender over that many rounds, in which they take turns.
 std::vector<double> medians(std::span<const Run> contenders, int rounds);
 
+/// As long as one of these lives, freed memory stays with the process. Growth is measured so: a fresh large
+/// block costs the system far more for each byte than a small one that is used again, and that is not the
+/// work's doing.
+class KeptMemory {
+public:
+    KeptMemory();
+    ~KeptMemory();
+    KeptMemory(const KeptMemory&) = delete;
+    KeptMemory& operator=(const KeptMemory&) = delete;
+};
+
 /// Bytes on the heap now, and the most there were since the last reset.
 std::size_t heap_bytes();
 std::size_t heap_peak();
