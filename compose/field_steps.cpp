@@ -15,7 +15,7 @@ struct ContactValues {
 
 /// The part of a message that a contact's note shows. A long one is cut by the subject's length as well, and
 /// a short one not at all: odd, and kept.
-Text noted_text(const Text& subject, Text body) {
+Text noted_text(const Text& subject, const Text& body) {
     Text text = replace_all(body, line_end, u" ");
     const std::size_t length = subject.size() + text.size();
     return length < 85 ? text : text.substr(0, length - 85);
@@ -39,8 +39,8 @@ ContactValues contact_values(const Composition& c) {
                 {}};
     const host::Contact contact = links.contact(1);
     const host::Folder folder = contact.parent();
-    const ContactValues values{contact.full_name(), contact.company_name(), folder.name(), contact.entry_id(),
-                               folder.entry_id()};
+    ContactValues values{contact.full_name(), contact.company_name(), folder.name(), contact.entry_id(),
+                         folder.entry_id()};
     if (c.is_on(user::LogContactNotes)) note_in(c, contact);
     return values;
 }

@@ -34,12 +34,12 @@ void Connect::OnConnection(host::Application application) noexcept {
     attempt([&] {
         session.host.application_events = session.host.oHostApp.on_events(
             {.item_send =
-                 [this](host::MailItem item, bool& cancel) {
+                 [this](const host::MailItem& item, bool& cancel) {
                      const auto& keep = session_->platform.keep;
                      const std::shared_ptr<void> kept = keep ? keep() : nullptr;
                      ol_ItemSend(*session_, item, cancel);
                  },
-             .options_pages_add = [this](host::PropertyPages pages) { OptionsPagesAdd(pages); }});
+             .options_pages_add = [this](const host::PropertyPages& pages) { OptionsPagesAdd(pages); }});
     });
     attempt([&] { hook_active_explorer(); });
     if (is_on(session.platform.settings, admin::SysTray)) show_tray_icon(session);

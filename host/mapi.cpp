@@ -23,7 +23,7 @@ LocalTime day(long long days) {
 
 LocalTime local_time(Date date) {
     constexpr long long first_day = 693899; // 30 December 1899
-    constexpr long long seconds_a_day = 24 * 60 * 60;
+    constexpr long long seconds_a_day = 24LL * 60 * 60;
     if (!(std::abs(date.days) < 3e6)) throw Error(u"Type mismatch");
     // In front of day 0 the fraction still counts forward from midnight.
     double whole = 0;
