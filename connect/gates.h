@@ -12,8 +12,8 @@ struct Send {
     bool system_check = false;
     int check_number = 1;
     Text subject = {};
-    forms::PreviewAnswers preview =
-        {}; ///< each send has its own: one may be raised while another's preview is open
+    /// Each send has its own: one may be raised while another's preview is open.
+    forms::PreviewAnswers preview = {};
 
     /// The item being sent, or its wrapper.
     const host::MailItem& item() const { return session.shared.item; }

@@ -27,7 +27,6 @@ Text composed_from(Send& send, Text source) {
 bool dress(Send& send) {
     const host::MailItem& item = send.item();
     const bool plain_text = item.inspector().editor_type() == host::plain_text_editor;
-    send.session.shared.template_refused = false;
     const Text body = composed_body(send, plain_text);
     if (send.session.shared.template_refused) return false;
     item.set_html_body(body);

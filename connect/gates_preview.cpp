@@ -1,7 +1,6 @@
+#include "base/flag.h"
 #include "connect/gates.h"
 #include "connect/scratch_files.h"
-
-#include <utility>
 
 namespace ornavel::connect {
 namespace {
@@ -9,20 +8,6 @@ namespace {
 using namespace settings;
 using forms::Control;
 using forms::Form;
-
-/// Composing for a preview asks nothing about the template's script and leaves contacts and usage log alone.
-class ForPreview {
-public:
-    explicit ForPreview(compose::Shared& shared)
-        : suppressed_(shared.script_check_suppressed), before_(std::exchange(suppressed_, true)) {}
-    ~ForPreview() { suppressed_ = before_; }
-    ForPreview(const ForPreview&) = delete;
-    ForPreview& operator=(const ForPreview&) = delete;
-
-private:
-    bool& suppressed_;
-    bool before_;
-};
 
 void show_what_settings_allow(const Store& store, Form& form) {
     Control& vcard = form[u"chkvCard"];
@@ -64,12 +49,12 @@ void show_plain_text(Form& form) {
 Verdict auto_preview(Send& send) {
     if (!is_on(send.settings(), admin::AutoPreview)) return Verdict::next;
     Session& session = send.session;
-    send.preview = {};
     const bool plain_text = send.item().inspector().editor_type() == host::plain_text_editor;
     forms::frmBrowser preview(
         {session.platform.settings, session.platform.files, session.platform.windows, session.errors},
         send.preview, preview_page(session), [&] {
-            const ForPreview suppressed(session.shared);
+            // Nobody is asked about the template's script; contacts and the usage log stay alone.
+            const Flag for_preview(session.shared.script_check_suppressed);
             return composed_body(send, plain_text);
         });
     Form& form = preview.form();

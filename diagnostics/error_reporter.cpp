@@ -1,6 +1,6 @@
 #include "diagnostics/error_reporter.h"
 
-#include <utility>
+#include "base/flag.h"
 
 namespace ornavel::diagnostics {
 namespace {
@@ -8,19 +8,6 @@ namespace {
 using namespace settings;
 
 constexpr TextView user_request = u"UserRequest";
-
-/// Sets a flag for as long as it lives.
-class Flag {
-public:
-    explicit Flag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
-    ~Flag() { flag_ = before_; }
-    Flag(const Flag&) = delete;
-    Flag& operator=(const Flag&) = delete;
-
-private:
-    bool& flag_;
-    bool before_;
-};
 
 } // namespace
 

@@ -30,7 +30,7 @@ TEST_F(Sending, AModeThatBecomesOnDuringASendLeavesTheItemToTheSendOptionsForm) 
     EXPECT_NE(log.find("vCard Attach check OK, Check 13, Send Event\r\n"), std::string::npos);
 }
 
-TEST_F(Sending, ATemplateThatIsUnsetDuringASendIsNoneOfItsFolder) {
+TEST_F(Sending, ATemplateThatIsUnsetDuringASendGivesWayToTheFirstOneOfItsFolder) {
     store.change_after(1, user::Template, u"");
     EXPECT_FALSE(send());
     EXPECT_EQ(item().html_body, u"<<p>Hello</p>>\r\n");

@@ -45,6 +45,15 @@ struct Tally {
         leaked += verdict.leaked;
         silent += verdict.silent;
     }
+    void add(const Tally& other) {
+        runs += other.runs;
+        escaped += other.escaped;
+        blocked += other.blocked;
+        half_dressed += other.half_dressed;
+        leaked += other.leaked;
+        silent += other.silent;
+        unfinished += other.unfinished;
+    }
     std::size_t bad() const { return escaped + blocked + half_dressed + leaked + silent; }
 };
 
@@ -123,17 +132,10 @@ Tally replay_everything(const std::vector<std::string>& files) {
     for (std::size_t i = 0; i < files.size(); ++i) {
         Tally tally;
         std::ifstream stream(result(i), std::ios::binary);
-        if (!stream.read(reinterpret_cast<char*>(&tally), sizeof tally)) {
+        if (stream.read(reinterpret_cast<char*>(&tally), sizeof tally))
+            sum.add(tally);
+        else
             std::cerr << files[i] << ": the add-in crashed\n";
-            continue;
-        }
-        sum.runs += tally.runs;
-        sum.escaped += tally.escaped;
-        sum.blocked += tally.blocked;
-        sum.half_dressed += tally.half_dressed;
-        sum.leaked += tally.leaked;
-        sum.silent += tally.silent;
-        sum.unfinished += tally.unfinished;
     }
     return sum;
 }
