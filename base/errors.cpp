@@ -2,39 +2,33 @@
 
 #include "base/encoding.h"
 
+#include <new>
+
 namespace ornavel {
 
-Failure::Failure(TextView description) : description_(description), narrow_(to_utf8(description)) {}
+Failure::Failure(TextView description) : Failure(description, std::string()) {}
+
+Failure::Failure(TextView description, std::string details)
+    : description_(description), narrow_(std::move(details)) {
+    narrow_ += (narrow_.empty() ? "" : ": ") + to_utf8(description);
+}
 
 Text current_description() noexcept {
-    try {
-        throw;
-    } catch (const Failure& failure) {
-        return failure.description();
-    } catch (const std::exception& exception) {
-        return from_utf8(exception.what());
-    } catch (...) {
-        return u"Unknown error";
-    }
-}
-
-bool trap(ErrorSink& errors, Place place, const std::function<void()>& body) noexcept {
-    try {
-        body();
-        return true;
-    } catch (...) {
-        errors.Write_to_error_file(current_description(), place.sub_function, place.section);
-        return false;
-    }
-}
-
-bool attempt(const std::function<void()>& body) noexcept {
-    try {
-        body();
-        return true;
-    } catch (...) {
-        return false;
-    }
+    Text description;
+    attempt([&] {
+        try {
+            throw;
+        } catch (const Failure& failure) {
+            description = failure.description();
+        } catch (const std::bad_alloc&) {
+            description = u"Out of memory";
+        } catch (const std::exception& exception) {
+            description = from_utf8(exception.what());
+        } catch (...) {
+            description = u"Unknown error";
+        }
+    });
+    return description;
 }
 
 } // namespace ornavel

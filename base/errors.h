@@ -3,7 +3,6 @@
 #include "base/text.h"
 
 #include <exception>
-#include <functional>
 
 namespace ornavel {
 
@@ -13,6 +12,10 @@ public:
     explicit Failure(TextView description);
     const Text& description() const { return description_; }
     const char* what() const noexcept override { return narrow_.c_str(); }
+
+protected:
+    /// details: for developers, in front of the description; may be empty.
+    Failure(TextView description, std::string details);
 
 private:
     Text description_;
@@ -25,11 +28,12 @@ public:
     TextTooLarge() : Failure(u"The text grew beyond the largest size") {}
 };
 
-/// The description of the exception being handled; to be called inside a catch block only.
+/// The description of the exception being handled, empty where there is no memory for it; to be called inside
+/// a catch block only.
 Text current_description() noexcept;
 
-/// Where a group of steps stands, as the error log names it: the routine or its label, and the error's name.
-struct Place {
+/// How the error log names a group of steps: its routine or label, and the name of its error.
+struct TrapName {
     TextView sub_function;
     TextView section;
 };
@@ -38,14 +42,30 @@ struct Place {
 class ErrorSink {
 public:
     virtual ~ErrorSink() = default;
-    virtual void Write_to_error_file(TextView description, TextView sub_function,
-                                     TextView section) noexcept = 0;
+    virtual void take(TextView description, TrapName trap) noexcept = 0;
 };
 
 /// Runs the body; what it throws goes to the sink. Returns whether the body got through. Lets nothing out.
-bool trap(ErrorSink& errors, Place place, const std::function<void()>& body) noexcept;
+template <class Body>
+bool trap(ErrorSink& errors, TrapName name, Body&& body) noexcept {
+    try {
+        body();
+        return true;
+    } catch (...) {
+        errors.take(current_description(), name);
+        return false;
+    }
+}
 
 /// Runs the body and ignores what it throws: the silent twin of trap. Returns whether the body got through.
-bool attempt(const std::function<void()>& body) noexcept;
+template <class Body>
+bool attempt(Body&& body) noexcept {
+    try {
+        body();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
 
 } // namespace ornavel

@@ -96,13 +96,13 @@ void print_composition() {
     };
     ReplyComposer composer;
     print_costs(
-        "whole composition of a reply", reply, [&](Text& text) { composer.compose(text); }, 40, 5);
+        "whole composition of a reply", reply, [&](Text& text) { composer.compose(std::move(text)); }, 40, 5);
 
     Text body = reply(10 * megabyte);
     composer.forget();
     const std::size_t input = body.capacity() * sizeof(char16_t), before = heap_bytes();
     reset_heap_peak();
-    composer.compose(body);
+    composer.compose(std::move(body));
     const double output = static_cast<double>(composer.result_bytes());
     const double used = static_cast<double>(heap_peak() - before + input);
     print_row("peak memory of a composition over input + 2 x output",

@@ -21,16 +21,16 @@ ReplyComposer::ReplyComposer() : item_(std::make_shared<RecordingObject>(journal
     files_.contents[u"C:\\temp\\letter.htm"] =
         "<HTML><BODY bgColor=[#SigBGColor#]>[#Input your message here#]</BODY></HTML>";
     item_->values[u"HTMLBody"] = Text(u"<p>");
-    shared_.item = host::MailItem(item_);
-    shared_.signature_from_settings = true;
-    shared_.reply = true;
-    shared_.reply_marker = u"-----Original";
 }
 
-void ReplyComposer::compose(Text& body) {
-    Text path = u"C:\\temp\\letter.htm";
-    result_ = CreateHTMLBody({store_, files_, clock_, boxes_, objects_, reports_, application_}, shared_,
-                             body, path);
+void ReplyComposer::compose(Text body) {
+    const host::MailItem item(item_);
+    result_ = CreateHTMLBody({store_, files_, clock_, boxes_, objects_, reports_, application_, start_up_},
+                             {.item = item,
+                              .source = std::move(body),
+                              .template_path = u"C:\\temp\\letter.htm",
+                              .reply = {.found = true, .marker = u"-----Original"}})
+                  .html;
     if (!reports_.entries.empty()) std::abort();
 }
 

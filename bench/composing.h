@@ -15,7 +15,7 @@ class ReplyComposer {
 public:
     ReplyComposer();
     /// Composes; aborts when a step failed.
-    void compose(Text& body);
+    void compose(Text body);
     std::size_t result_bytes() const { return result_.size() * sizeof(char16_t); }
     void forget() { Text().swap(result_); }
 
@@ -29,7 +29,7 @@ private:
     std::vector<Text> journal_;
     std::shared_ptr<RecordingObject> item_;
     host::Application application_;
-    compose::Shared shared_;
+    compose::StartUpValues start_up_;
     Text result_;
 };
 

@@ -11,7 +11,7 @@ using namespace settings;
 
 void write_for_compare(Composition& c, TextView name) {
     if (!c.is_on(admin::WipeOutFileCompare)) return;
-    c.services.files.write(c.shared.application_path + u"\\" + Text(name), encode_html(c.message));
+    c.services.files.write(c.services.start_up.application_path + u"\\" + Text(name), encode_html(c.message));
 }
 
 Text date_to_stamp(const Composition& c) {

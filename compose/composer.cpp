@@ -5,14 +5,18 @@
 namespace ornavel::compose {
 namespace {
 
+/// Whether the user's text is lost where the step doesn't get through.
+enum class Failing { harmless, loses_text };
+
 struct Step {
     void (*run)(Composition&);
-    Place trap;
+    TrapName trap;
+    Failing failing = Failing::harmless;
 };
 
-constexpr Place any_step{u"CreateHTMLBody", u"CreateHTM_Err"};
-constexpr Place file_compare{u"CreateHTMLBody- error HTML File Compare", u"CompareFile_Err"};
-constexpr Place font_control{u"CreateHTMLBody- error FontControl", u"FontControl_Err"};
+constexpr TrapName any_step{u"CreateHTMLBody", u"CreateHTM_Err"};
+constexpr TrapName file_compare{u"CreateHTMLBody- error HTML File Compare", u"CompareFile_Err"};
+constexpr TrapName font_control{u"CreateHTMLBody- error FontControl", u"FontControl_Err"};
 
 constexpr Step steps[] = {
     {find_template, any_step},
@@ -30,16 +34,16 @@ constexpr Step steps[] = {
     {link_addresses, any_step},
     {wrap_lines, {u"CreateHTMLBody- error SpanControl", u"SpanControl_Err"}},
     {replace_tabs, {u"CreateHTMLBody- error EndSpanControl", u"EndSpanControl_Err"}},
-    {cut_reply, any_step}, // has a trap of its own, whose label tells the length
+    {cut_reply, any_step, Failing::loses_text}, // has a trap of its own, whose label tells the length
     {choose_signature, any_step},
     {append_signature, {u"CreateHTMLBody", u"Signature_Err"}},
     {read_template, {u"CreateHTMLBody- error in htm file", u"NoFile_Err"}},
     {ask_about_script, any_step},
     {find_marker, any_step},
-    {insert_message, any_step},
+    {insert_message, any_step, Failing::loses_text},
     {break_reply_tags, any_step},
     {shrink_reply_font, any_step},
-    {insert_reply, any_step},
+    {insert_reply, any_step, Failing::loses_text},
     {fill_contact_fields, any_step},
     {log_usage, {u"CreateHTMLBody- eMarketing error", u"eMarketing_Err"}},
     {merge_fields, any_step}, // has a trap for each of its groups
@@ -47,9 +51,8 @@ constexpr Step steps[] = {
 
 } // namespace
 
-void AskingErrors::Write_to_error_file(TextView description, TextView sub_function,
-                                       TextView section) noexcept {
-    const auto report = errors_.log_error(description, sub_function, section);
+void AskingErrors::take(TextView description, TrapName trap) noexcept {
+    const auto report = errors_.log_error(description, trap);
     attempt([&] {
         if (report &&
             boxes_.ask(u"Error Report", u"Brevant has just experienced an error. Brevant has prepared a "
@@ -68,18 +71,17 @@ void substitute(Text& text, TextView search, TextView replacement) {
     if (!search.empty() && contains(text, search)) text = replace_all(text, search, replacement);
 }
 
-Text CreateHTMLBody(Services services, Shared& shared, Text& body, Text& template_path) noexcept {
+Composed CreateHTMLBody(const Services& services, Request request) noexcept {
     AskingErrors errors(services.errors, services.boxes);
-    Composition composition{services, shared, errors, body, template_path};
-    shared.template_refused = false;
-    composition.log_usage = shared.usage_log.enabled;
+    Composition composition{services, request, errors, std::move(request.source), request.template_path};
+    composition.log_usage = services.start_up.usage_log.enabled;
     for (const Step& step : steps) {
-        trap(errors, step.trap, [&] { step.run(composition); });
-        if (composition.refused) break;
+        const bool through = trap(errors, step.trap, [&] { step.run(composition); });
+        if (!through && step.failing == Failing::loses_text) return {Outcome::failed};
+        // A question that could not be put has refused nothing.
+        if (composition.refused) return {Outcome::refused, std::move(composition.result)};
     }
-    // A question that could not be put has refused nothing.
-    shared.template_refused = composition.refused;
-    return std::move(composition.result);
+    return {Outcome::composed, std::move(composition.result)};
 }
 
 } // namespace ornavel::compose

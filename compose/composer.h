@@ -8,7 +8,16 @@
 #include "host/application.h"
 #include "settings/store.h"
 
+#include <optional>
+
 namespace ornavel::compose {
+
+/// What was read once, when the mail client started.
+struct StartUpValues {
+    Text application_path; ///< the folder of scratch files and of the disclaimer
+    Text browser_path;     ///< the folder of the preview's page; empty for the application path
+    UsageLog usage_log;
+};
 
 /// What the composer works with; all of it outlives the composer.
 struct Services {
@@ -19,29 +28,43 @@ struct Services {
     host::Objects& objects;
     diagnostics::ErrorReports& errors;
     const host::Application& application; ///< may hold nothing
+    const StartUpValues& start_up;
 };
 
-/// What the composer shares with those who call it.
-struct Shared {
-    host::MailItem item;                  ///< the item being sent
-    bool signature_from_settings = false; ///< the name is the setting "Signature", not the form's choice
-    Text form_signature;                  ///< the send-options form's signature list
-    bool reply = false;                   ///< the item's body holds the reply marker
-    Text reply_marker;                    ///< the text that marks a reply in this mail client
-    Text reply_search_value = u"1";       ///< how far in front of the marker the new text ends, plus one
-    Text reply_insert_value = u"1";       ///< how far behind the marker the quoted part begins, plus one
-    Text application_path;                ///< the folder of scratch files and of the disclaimer
-    bool script_check_suppressed =
-        false;                     ///< composing for a preview: no script warning, no contact, no usage log
-    bool template_refused = false; ///< the user did not want the template's script
-    UsageLog usage_log;            ///< as read at start-up
+/// What is known of a message that answers another one.
+struct Reply {
+    bool found = false;    ///< the item's body holds the marker
+    Text marker{};         ///< the text that marks a reply in this mail client
+    int search_offset = 1; ///< how far in front of the marker the new text ends, plus one, in UTF-16 units
+    int insert_offset = 1; ///< how far behind the marker the quoted part begins, plus one, in UTF-16 units
 };
 
-/// Pours the user's text into an HTML template, adds the signature and fills the placeholder fields.
-/// body: the text that the user wrote; changed in place by the steps before insertion. template_path: the
-/// template's full path; replaced by the first template of the folder when there is no such file. Gives back
-/// the finished HTML. A step that fails is written to the error log, the user is asked whether to mail the
-/// report, and composition goes on with the text as it stood. Never throws.
-Text CreateHTMLBody(Services services, Shared& shared, Text& body, Text& template_path) noexcept;
+/// A preview asks nobody about the template's script, and leaves contacts and the usage log alone.
+enum class Purpose { send, preview };
+
+/// One message to compose.
+struct Request {
+    const host::MailItem& item; ///< the current item; it may be let go of while a question is open
+    Text source;                ///< what the user wrote, with what the caller puts in front of it
+    Text template_path; ///< the full path; the first template of the folder takes the place of one that is
+                        ///< missing
+    Reply reply{};
+    std::optional<Text>
+        form_signature{}; ///< a form's choice; where there is none, the setting "Signature" names it
+    Purpose purpose = Purpose::send;
+};
+
+/// refused: the user did not want the template's script. failed: the user's text could not be put in.
+enum class Outcome { composed, refused, failed };
+
+struct Composed {
+    Outcome outcome = Outcome::composed;
+    Text html{}; ///< of a refused message the template as it was read, of a failed one nothing
+};
+
+/// Pours the user's text into an HTML template, adds the signature and fills the placeholder fields. A step
+/// that fails is written to the error log, the user is asked whether to mail the report, and composition goes
+/// on with the text as it stood. Never throws.
+Composed CreateHTMLBody(const Services& services, Request request) noexcept;
 
 } // namespace ornavel::compose

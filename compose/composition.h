@@ -10,38 +10,41 @@ inline constexpr TextView insertion_marker = u"[#Input your message here#]";
 class AskingErrors final : public ErrorSink {
 public:
     AskingErrors(diagnostics::ErrorReports& errors, MessageBoxes& boxes) : errors_(errors), boxes_(boxes) {}
-    void Write_to_error_file(TextView description, TextView sub_function, TextView section) noexcept override;
+    void take(TextView description, TrapName trap) noexcept override;
 
 private:
     diagnostics::ErrorReports& errors_;
     MessageBoxes& boxes_;
 };
 
-/// One message on its way: the texts that the steps work on.
+/// One message on its way: what was asked for, and the texts that the steps work on.
 struct Composition {
     const Services& services;
-    Shared& shared;
+    const Request& request;
     AskingErrors& errors;
-    Text& message;
-    Text& template_path;
+    Text message;       ///< what the user wrote
+    Text template_path; ///< of the template that is there
 
     bool style_block_found = false;
     bool is_html = true; ///< the item has an HTML body
     bool is_word_mail = false;
-    Text new_text = {}; ///< on a reply: what the user wrote
-    Text quoted = {};   ///< on a reply: the earlier message
-    Text signature_name = {};
-    Text template_text = {};
+    Text html_with_marker{}; ///< the item's HTML body, kept where only it may hold the reply marker
+    Text new_text{};         ///< on a reply: what the user wrote
+    Text quoted{};           ///< on a reply: the earlier message
+    Text signature_name{};
+    Text template_text{};
     std::size_t marker = 0; ///< where the message goes in the template
-    Text result = {};
+    Text result{};
     bool refused = false; ///< the template's script was: nothing else runs
     bool log_usage = false;
 
     const settings::Store& settings() const { return services.settings; }
     bool is_on(const settings::Key& key) const { return settings::is_on(services.settings, key); }
     Text read(const settings::Key& key) const { return settings::read(services.settings, key); }
+    bool is_reply() const { return request.reply.found; }
+    bool for_preview() const { return request.purpose == Purpose::preview; }
     /// What goes into the template: the user's text, on a reply without the earlier message.
-    Text& body() { return shared.reply ? new_text : message; }
+    Text& body() { return is_reply() ? new_text : message; }
     bool takes_message() const { return marker != Text::npos; }
 };
 
@@ -52,8 +55,7 @@ Text path_or_first_of(const Composition& c, const Text& path, const settings::Ke
 /// Replaces every occurrence; the text is copied only when there is one. Throws TextTooLarge.
 void substitute(Text& text, TextView search, TextView replacement);
 
-// The steps, by the file that they stand in.
-
+// clean_up_steps.cpp
 void find_template(Composition& c);
 void write_before(Composition& c);
 void stamp_date(Composition& c);
@@ -65,6 +67,7 @@ void break_block_quotes(Composition& c);
 void write_after(Composition& c);
 void break_rules(Composition& c);
 
+// source_steps.cpp
 void look_at_item(Composition& c);
 void read_Word_document(Composition& c);
 void link_addresses(Composition& c);
@@ -72,6 +75,7 @@ void wrap_lines(Composition& c);
 void replace_tabs(Composition& c);
 void cut_reply(Composition& c);
 
+// layout_steps.cpp
 void choose_signature(Composition& c);
 void append_signature(Composition& c);
 void read_template(Composition& c);
@@ -82,6 +86,7 @@ void break_reply_tags(Composition& c);
 void shrink_reply_font(Composition& c);
 void insert_reply(Composition& c);
 
+// field_steps.cpp
 void fill_contact_fields(Composition& c);
 void log_usage(Composition& c);
 void merge_fields(Composition& c);

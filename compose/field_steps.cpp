@@ -22,17 +22,17 @@ Text noted_text(const Text& subject, const Text& body) {
 }
 
 void note_in(const Composition& c, const host::Contact& contact) {
-    const Text subject = c.shared.item.subject();
+    const Text subject = c.request.item.subject();
     const Text note = u"[" + note_moment(c.services.clock.now()) + u"] " + subject + u": " +
-                      noted_text(subject, c.shared.item.body()) + u"\r\n";
+                      noted_text(subject, c.request.item.body()) + u"\r\n";
     contact.set_body(note + contact.body());
     contact.close_saving();
 }
 
 ContactValues contact_values(const Composition& c) {
-    const host::Links links = c.shared.item.links();
+    const host::Links links = c.request.item.links();
     if (links.count() <= 0)
-        return {c.shared.item.subject(),
+        return {c.request.item.subject(),
                 c.message.substr(0, 50),
                 u"Mail not created from a contact item",
                 {},
@@ -46,15 +46,15 @@ ContactValues contact_values(const Composition& c) {
 }
 
 void fill_recipient(Composition& c) {
-    const Text placeholder = u"[#" + c.shared.usage_log.recipient_field + u"#]";
+    const Text placeholder = u"[#" + c.services.start_up.usage_log.recipient_field + u"#]";
     if (!contains(c.result, placeholder)) return;
-    substitute(c.result, placeholder, c.shared.item.recipients().item(1).address());
+    substitute(c.result, placeholder, c.request.item.recipients().item(1).address());
 }
 
 } // namespace
 
 void fill_contact_fields(Composition& c) {
-    if (c.shared.script_check_suppressed || c.read(admin::Marketing) != u"Enterprise") return;
+    if (c.for_preview() || c.read(admin::Marketing) != u"Enterprise") return;
     c.log_usage = false;
     const ContactValues values = contact_values(c);
     const Text address = c.read(admin::SigEmail);
@@ -69,19 +69,18 @@ void fill_contact_fields(Composition& c) {
 }
 
 void log_usage(Composition& c) {
-    if (c.shared.script_check_suppressed || !c.log_usage) return;
+    if (c.for_preview() || !c.log_usage) return;
     fill_recipient(c);
-    const UsageLog& log = c.shared.usage_log;
+    const UsageLog& log = c.services.start_up.usage_log;
     if (log.connection_string.empty()) return;
     const UsageRow row{log_moment(c.services.clock.now()), c.read(user::template_),
                        sender_of(c.services.application)};
-    write_usage(log, row, c.shared.item.recipients(), c.services.objects);
+    write_usage(log, row, c.request.item.recipients(), c.services.objects);
 }
 
 void merge_fields(Composition& c) {
-    Merge::of_body(c.settings()).apply(c.result, [&] {
+    for (auto failures = Merge::of_body(c.settings()).apply(c.result); failures > 0; --failures)
         trap(c.errors, {u"CreateHTMLBody", u"CreateHTM_Err"}, [] { throw TextTooLarge(); });
-    });
 }
 
 } // namespace ornavel::compose

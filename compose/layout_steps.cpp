@@ -17,8 +17,8 @@ std::size_t with_room(std::size_t size) { return size + size / 64 + 4096; }
 } // namespace
 
 void choose_signature(Composition& c) {
-    c.signature_name = c.shared.signature_from_settings ? read(c.settings(), user::Signature, u"none")
-                                                        : trim(c.shared.form_signature);
+    const auto& chosen = c.request.form_signature;
+    c.signature_name = chosen ? trim(*chosen) : read(c.settings(), user::Signature, u"none");
 }
 
 void append_signature(Composition& c) {
@@ -27,7 +27,7 @@ void append_signature(Composition& c) {
     const Text signature =
         read_lines(c.services.files, path_or_first_of(c, path, admin::SignaturesPath), line_end);
     Text& text = c.body();
-    const bool in_table = c.shared.reply && c.is_on(admin::WipeoutSignatureTable);
+    const bool in_table = c.is_reply() && c.is_on(admin::WipeoutSignatureTable);
     text.append(u"<P>").append(signature);
     if (!in_table) return;
     // Two blanks after "TABLE" are deliberate.
@@ -42,9 +42,8 @@ void read_template(Composition& c) {
 }
 
 void ask_about_script(Composition& c) {
-    if (c.shared.script_check_suppressed) return;
+    if (c.for_preview()) return;
     if (!contains(c.template_text, u"</script>") && !contains(c.template_text, u"</SCRIPT>")) return;
-    c.shared.template_refused = true; // while the user has not answered
     if (c.services.boxes.ask(
             u"Ornavel Security Warning",
             u"This Template has script in it. This means that your recipients may not be able to \r\nsee or "
@@ -72,11 +71,11 @@ void insert_message(Composition& c) {
     c.result.reserve(with_room(whole.size() + text.size() + c.quoted.size()));
     c.result.append(whole.substr(0, c.marker)).append(text);
     c.result.append(whole.substr(c.marker + insertion_marker.size()));
-    if (c.shared.reply) Text().swap(c.new_text);
+    if (c.is_reply()) Text().swap(c.new_text);
 }
 
 void break_reply_tags(Composition& c) {
-    if (!c.shared.reply || !c.is_on(admin::RemoveReplyTags)) return;
+    if (!c.is_reply() || !c.is_on(admin::RemoveReplyTags)) return;
     std::deque<Text> broken;
     const Text begin = c.read(admin::WipeoutHTMLBeginTag), end = c.read(admin::WipeoutHTMLEndTag);
     std::vector<Pass> passes{{begin, u"<!-- "}, {end, u" -->"}};
@@ -89,13 +88,13 @@ void break_reply_tags(Composition& c) {
 }
 
 void shrink_reply_font(Composition& c) {
-    if (!c.shared.reply || !c.is_on(admin::WipeoutReplyFontSmall)) return;
+    if (!c.is_reply() || !c.is_on(admin::WipeoutReplyFontSmall)) return;
     c.quoted.insert(0, u"<span font size=1>");
     c.quoted.append(u"</span>");
 }
 
 void insert_reply(Composition& c) {
-    if (!c.shared.reply || !c.takes_message()) return;
+    if (!c.is_reply() || !c.takes_message()) return;
     c.result.append(u"<p>").append(c.read(admin::WipeoutReplySeparator)).append(c.quoted);
     Text().swap(c.quoted);
 }

@@ -56,20 +56,22 @@ void Merge::add_group(std::span<const MergeBlock> blocks) {
     group_ends_.push_back(passes_.size());
 }
 
-void Merge::apply(Text& text, const std::function<void()>& failed) const {
+std::size_t Merge::apply(Text& text) const {
+    std::size_t failures = 0;
     for (std::size_t first = 0; first < passes_.size();) {
         first += Passes(std::span(passes_).subspan(first)).apply(text);
-        if (first == passes_.size()) return;
-        failed();
+        if (first == passes_.size()) break;
+        ++failures;
         first = *std::ranges::upper_bound(group_ends_, first);
     }
+    return failures;
 }
 
 void merge_signature_file(Text& text, const Store& settings, ErrorSink& errors) noexcept {
-    const Place place{u"merge_signature_file", u"Merge_Err"};
-    trap(errors, place, [&] {
-        Merge::of_signature_file(settings).apply(text,
-                                                 [&] { trap(errors, place, [] { throw TextTooLarge(); }); });
+    const TrapName name{u"merge_signature_file", u"Merge_Err"};
+    trap(errors, name, [&] {
+        for (auto failures = Merge::of_signature_file(settings).apply(text); failures > 0; --failures)
+            trap(errors, name, [] { throw TextTooLarge(); });
     });
 }
 

@@ -20,9 +20,9 @@ public:
 
     Merge(Merge&&) = default;
 
-    /// Changes the text. A pass that would let it grow beyond largest_text is not made and `failed` is
-    /// called; the rest of its group is left out, and the text keeps what was replaced so far.
-    void apply(Text& text, const std::function<void()>& failed) const;
+    /// Changes the text. A pass that would let it grow beyond largest_text is not made, and the rest of its
+    /// group is left out; the text keeps what was replaced so far. Gives back how many groups ended so.
+    std::size_t apply(Text& text) const;
 
     /// The passes in their order; for tests and measurements.
     std::span<const Pass> passes() const { return passes_; }

@@ -2,6 +2,8 @@
 #include "compose/composition.h"
 #include "compose/filters.h"
 
+#include <functional>
+
 // Where the text comes from: the item's HTML, Word's document, or plain text; and on a reply, where it ends.
 
 namespace ornavel::compose {
@@ -18,8 +20,8 @@ bool is_plain(const Composition& c) { return !c.is_html && !c.is_word_mail; }
 
 void split_at(Composition& c, TextView text, std::size_t marker) {
     const std::int64_t position = static_cast<std::int64_t>(marker) + 1;
-    const std::int64_t kept = position - numeric_value(c.shared.reply_search_value);
-    const std::int64_t quoted_from = position + numeric_value(c.shared.reply_insert_value) - 1;
+    const std::int64_t kept = position - c.request.reply.search_offset;
+    const std::int64_t quoted_from = position + c.request.reply.insert_offset - 1;
     if (kept < 0) throw Failure(u"Invalid procedure call or argument");
     c.new_text = text.substr(0, static_cast<std::size_t>(kept));
     if (quoted_from < static_cast<std::int64_t>(text.size()))
@@ -27,28 +29,28 @@ void split_at(Composition& c, TextView text, std::size_t marker) {
 }
 
 void cut_at_marker(Composition& c) {
-    const Text& sought = c.shared.reply_marker;
-    const auto marker = find_text(c.message, sought);
-    if (marker != Text::npos) return split_at(c, c.message, marker);
-    const Text html = c.shared.item.html_body();
-    const auto in_html = find_text(html, sought);
-    if (in_html != Text::npos) return split_at(c, html, in_html);
+    for (const Text& text : {std::cref(c.message), std::cref(c.html_with_marker)})
+        if (const auto at = find_text(text, c.request.reply.marker); at != Text::npos)
+            return split_at(c, text, at);
     c.new_text = c.message;
 }
 
 } // namespace
 
 void look_at_item(Composition& c) {
-    c.is_html = !c.shared.item.html_body().empty();
-    if (!c.is_html) c.is_word_mail = c.shared.item.inspector().is_word_mail();
+    Text html = c.request.item.html_body();
+    c.is_html = !html.empty();
+    if (!c.is_html) c.is_word_mail = c.request.item.inspector().is_word_mail();
+    // The item is read once: a filter may have taken the marker out of the message.
+    if (c.is_reply() && !contains(c.message, c.request.reply.marker)) c.html_with_marker = std::move(html);
 }
 
 void read_Word_document(Composition& c) {
     if (!c.is_word_mail) return;
-    const Text path = c.shared.application_path + u"\\GetMyHtml.htm";
+    const Text path = c.services.start_up.application_path + u"\\GetMyHtml.htm";
     // What an earlier message left behind is never read as this one.
     if (c.services.files.file_exists(path)) c.services.files.remove(path);
-    const host::WordDocument document = c.shared.item.inspector().word_editor();
+    const host::WordDocument document = c.request.item.inspector().word_editor();
     document.copy_content_to_clipboard();
     // A version that saves in no format leaves no file, and reading it fails into this step's trap.
     if (const auto format = format_for(document.word_version())) document.save_as(path, *format);
@@ -72,7 +74,7 @@ void replace_tabs(Composition& c) {
 }
 
 void cut_reply(Composition& c) {
-    if (!c.shared.reply) return;
+    if (!c.is_reply()) return;
     const Text label = u"parsing error - reply - length of the message is " +
                        to_text(static_cast<long long>(c.message.size())) +
                        (c.is_html ? u" - CreateHTMLBody- error Reply state parsing - myMessageReply_err"

@@ -50,13 +50,13 @@ void Connect::OnConnection(host::Application application) noexcept {
 
 void Connect::OnStartupComplete() noexcept {
     Session& session = *session_;
-    session.shared.application_path =
+    session.start_up.application_path =
         read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
-    session.browser_path = read(session.platform.settings, admin::BrowserPath);
+    session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);
     prepare_environment(session);
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
-    attempt([&] { session.shared.usage_log = compose::Get_Marketing_Info(session.platform.settings); });
+    attempt([&] { session.start_up.usage_log = compose::Get_Marketing_Info(session.platform.settings); });
     session.dialog_answer = true;
     session.language = u"English";
 }
@@ -135,7 +135,7 @@ void Connect::VarCleanup() noexcept {
         {u"oStandardBar", &host.oStandardBar},
         {u"myButtonSetting", &host.myButtonSetting},
         {u"MyButtonConfigWiz", &host.MyButtonConfigWiz},
-        {u"MyMessItem", &session.shared.item},
+        {u"MyMessItem", &host.MyMessItem},
     };
     for (const auto& [name, member] : members) {
         if (!*member) continue;

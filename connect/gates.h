@@ -1,5 +1,6 @@
 #pragma once
 
+#include "connect/item_body.h"
 #include "connect/session.h"
 
 namespace ornavel::connect {
@@ -12,11 +13,13 @@ struct Send {
     bool system_check = false;
     int check_number = 1;
     Text subject = {};
-    /// Each send has its own: one may be raised while another's preview is open.
+    // Each send has its own: one may be raised while another waits for the user.
+    ItemBody html = {};
+    compose::Reply reply = {};
     forms::PreviewAnswers preview = {};
 
     /// The item being sent, or its wrapper.
-    const host::MailItem& item() const { return session.shared.item; }
+    const host::MailItem& item() const { return session.host.MyMessItem; }
     settings::Store& settings() const { return session.platform.settings; }
 };
 
@@ -72,7 +75,7 @@ Verdict auto_preview(Send& send);
 
 // Composition and stamping.
 /// The body that the item goes out with. The item itself is not changed.
-Text composed_body(Send& send, bool plain_text);
+compose::Composed composed_body(Send& send, bool plain_text, compose::Purpose purpose);
 Verdict compose_body(Send& send);
 Verdict stamp(Send& send);
 

@@ -28,7 +28,7 @@ Verdict non_auto_branch(Send& send) {
     record_gate(send, u"Auto process end check OK");
     // The item is the current one already, so a send-options form would find it.
     record_gate(send, u"Ornavel Dialog check OK");
-    send.session.shared.item.release();
+    send.session.host.MyMessItem.release();
     attach_selected_vcard(send);
     record_gate(send, u"vCard Attach check OK");
     send.cancel = !send.session.dialog_answer;

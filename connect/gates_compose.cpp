@@ -1,5 +1,6 @@
 #include "connect/gates.h"
-#include "connect/plain_text.h"
+
+#include "compose/plain_text.h"
 
 namespace ornavel::connect {
 namespace {
@@ -12,35 +13,37 @@ void attach_vcard(Send& send) {
     if (!path.empty()) send.item().attachments().add(path);
 }
 
-Text composed_from(Send& send, Text source) {
-    const Platform& platform = send.session.platform;
+compose::Composed composed_from(Send& send, Text source, compose::Purpose purpose) {
     Text template_path =
         read(send.settings(), admin::HTMFilesPath) + u"\\" + trim(read(send.settings(), user::Template));
-    send.session.shared.signature_from_settings = true;
-    return compose::CreateHTMLBody({platform.settings, platform.files, platform.clock, platform.windows,
-                                    platform.objects, send.session.errors, send.session.host.oHostApp},
-                                   send.session.shared, source, template_path);
+    return compose::CreateHTMLBody(send.session.composing, {.item = send.item(),
+                                                            .source = std::move(source),
+                                                            .template_path = std::move(template_path),
+                                                            .reply = send.reply,
+                                                            .purpose = purpose});
 }
 
-/// Dresses the item. Gives back False when the user refused the template; the item's body then stands as it
-/// was.
-bool dress(Send& send) {
+/// Dresses the item; one whose message is not composed keeps its body.
+compose::Outcome dress(Send& send) {
     const host::MailItem& item = send.item();
     const bool plain_text = item.inspector().editor_type() == host::plain_text_editor;
-    const Text body = composed_body(send, plain_text);
-    if (send.session.shared.template_refused) return false;
-    item.set_html_body(body);
+    auto [outcome, html] = composed_body(send, plain_text, compose::Purpose::send);
+    if (outcome != compose::Outcome::composed) return outcome;
+    item.set_html_body(std::move(html));
     if (plain_text) item.save();
-    return true;
+    return outcome;
 }
 
 } // namespace
 
-Text composed_body(Send& send, bool plain_text) {
+compose::Composed composed_body(Send& send, bool plain_text, compose::Purpose purpose) {
+    using compose::Outcome;
     const host::MailItem& item = send.item();
-    if (plain_text) return plain_text_as_html(send.session, item.body());
-    const Text html = item.html_body();
-    return composed_from(send, html.empty() ? item.body() : html);
+    if (plain_text)
+        return {Outcome::composed,
+                compose::plain_text_as_html(send.session.composing, item.body(), send.reply.marker)};
+    Text html = send.html.take(item);
+    return composed_from(send, html.empty() ? item.body() : std::move(html), purpose);
 }
 
 Verdict compose_body(Send& send) {
@@ -48,8 +51,10 @@ Verdict compose_body(Send& send) {
     if (send.preview.send_plain) return Verdict::off;
     record_gate(send, u"Auto Preview Send Plain check OK");
     attach_vcard(send);
-    if (dress(send)) return Verdict::next;
-    send.cancel = true;
+    const compose::Outcome outcome = dress(send);
+    if (outcome == compose::Outcome::composed) return Verdict::next;
+    // A refusal holds the message back; a failure never does.
+    if (outcome == compose::Outcome::refused) send.cancel = true;
     return Verdict::leave;
 }
 

@@ -39,7 +39,7 @@ Verdict wrap_item(Send& send) {
     if (!is_on(send.settings(), admin::UseRedemption)) return Verdict::off;
     const auto wrapped = host::SafeMailItem::around(send.session.platform.objects, send.sent);
     wrapped.save();
-    send.session.shared.item = wrapped;
+    send.session.host.MyMessItem = wrapped;
     return Verdict::next;
 }
 

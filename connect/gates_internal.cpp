@@ -1,5 +1,6 @@
 #include "connect/gates.h"
-#include "connect/signatures.h"
+
+#include "compose/signatures.h"
 
 #include <algorithm>
 
@@ -62,9 +63,9 @@ void walk_wrapped(Send& send) {
     });
 }
 
-Verdict sign_and_leave(Send& send) {
+Verdict sign_and_leave(Send& send, int editor) {
     send.cancel = false;
-    add_internal_signature(send.settings(), send.item(), send.session.shared.reply_marker);
+    compose::add_internal_signature(send.settings(), send.item(), editor, send.reply.marker);
     send.item().save();
     return tag_and_leave(send);
 }
@@ -73,7 +74,8 @@ Verdict sign_and_leave(Send& send) {
 
 Verdict internal_mail(Send& send) {
     if (read(send.settings(), admin::SkipInternal) != u"1") return Verdict::next;
-    if (send.item().inspector().editor_type() == host::rich_text_editor) return Verdict::leave;
+    const int editor = send.item().inspector().editor_type();
+    if (editor == host::rich_text_editor) return Verdict::leave;
 
     const bool wrapped = is_on(send.settings(), admin::UseRedemption);
     wrapped ? walk_wrapped(send) : walk_unwrapped(send);
@@ -82,7 +84,7 @@ Verdict internal_mail(Send& send) {
         if (reply_test(send) == Verdict::leave) return Verdict::leave;
         record_gate(send, u"Reply check OK");
     }
-    return send.session.internal ? sign_and_leave(send) : Verdict::next;
+    return send.session.internal ? sign_and_leave(send, editor) : Verdict::next;
 }
 
 } // namespace ornavel::connect

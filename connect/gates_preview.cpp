@@ -1,4 +1,3 @@
-#include "base/flag.h"
 #include "connect/gates.h"
 #include "connect/scratch_files.h"
 
@@ -52,11 +51,8 @@ Verdict auto_preview(Send& send) {
     const bool plain_text = send.item().inspector().editor_type() == host::plain_text_editor;
     forms::frmBrowser preview(
         {session.platform.settings, session.platform.files, session.platform.windows, session.errors},
-        send.preview, preview_page(session), [&] {
-            // Nobody is asked about the template's script; contacts and the usage log stay alone.
-            const Flag for_preview(session.shared.script_check_suppressed);
-            return composed_body(send, plain_text);
-        });
+        send.preview, preview_page(session),
+        [&] { return composed_body(send, plain_text, compose::Purpose::preview).html; });
     Form& form = preview.form();
     form.load();
     show_what_settings_allow(send.settings(), form);

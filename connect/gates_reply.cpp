@@ -29,20 +29,20 @@ Verdict load_reply_marker(Send& send) {
     const Key& marker =
         older_host || is_plain_text(send) ? system::MyReplySearchString : system::Office2003SearchString;
     trace(send, u"Just after MyMessItem is called- line 1002");
-    send.session.shared.reply_marker = read(send.settings(), marker);
+    send.reply.marker = read(send.settings(), marker);
     return Verdict::next;
 }
 
 Verdict reply_test(Send& send) {
-    compose::Shared& shared = send.session.shared;
-    const Text& marker = shared.reply_marker;
-    shared.reply = !marker.empty() &&
-                   (contains(send.item().html_body(), marker) || contains(send.item().body(), marker));
-    if (!shared.reply) return Verdict::next;
-    shared.reply_search_value = read(send.settings(), system::ReplySearchStringVal);
-    shared.reply_insert_value = read(send.settings(), system::ReplyInsertStringVal);
+    compose::Reply& reply = send.reply;
+    const auto number = [&](const Key& key) { return numeric_value(read(send.settings(), key)); };
+    reply.found = !reply.marker.empty() && (contains(send.html.of(send.item()), reply.marker) ||
+                                            contains(send.item().body(), reply.marker));
+    if (!reply.found) return Verdict::next;
+    reply.search_offset = number(system::ReplySearchStringVal);
+    reply.insert_offset = number(system::ReplyInsertStringVal);
     if (read(send.settings(), user::ReplyAsIs) != u"1") return Verdict::next;
-    shared.reply = false;
+    reply.found = false;
     return Verdict::leave;
 }
 

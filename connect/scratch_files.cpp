@@ -12,8 +12,8 @@ void remove(Files& files, const Text& path) noexcept {
 } // namespace
 
 Text preview_page(const Session& session) {
-    const Text& folder = session.browser_path;
-    return (folder.empty() ? session.shared.application_path : folder) + u"\\myTestHtmlFile.html";
+    const Text& folder = session.start_up.browser_path;
+    return (folder.empty() ? session.start_up.application_path : folder) + u"\\myTestHtmlFile.html";
 }
 
 void remove_scratch_files(Session& session) noexcept {
@@ -21,7 +21,7 @@ void remove_scratch_files(Session& session) noexcept {
         if (is_on(session.platform.settings, settings::admin::WipeOutFileCompare)) return;
         remove(session.platform.files, preview_page(session));
         for (const TextView name : {u"beforetext.txt", u"aftertext.txt", u"GetMyHtml.htm"})
-            remove(session.platform.files, session.shared.application_path + u"\\" + Text(name));
+            remove(session.platform.files, session.start_up.application_path + u"\\" + Text(name));
     });
 }
 

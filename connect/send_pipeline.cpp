@@ -47,20 +47,24 @@ constexpr Gate gates[] = {
     {u"stamping", stamp, {}},
 };
 
-/// Makes the item the current one. On every way out the outer send finds everything that it shares with the
-/// composer as it left it, its own item among it.
+/// Makes the item the current one. On every way out the outer send, where there is one, finds its own item
+/// again, and the processed flag that it left: a send inside it may have been refused.
 class CurrentItem {
 public:
-    CurrentItem(compose::Shared& shared, host::MailItem item) : shared_(shared), outer_(shared) {
-        shared_.item = std::move(item);
+    CurrentItem(Session& session, const host::MailItem& item)
+        : session_(session), outer_(std::exchange(session.host.MyMessItem, item)),
+          processed_(session.processed) {}
+    ~CurrentItem() {
+        if (outer_) session_.processed = processed_;
+        session_.host.MyMessItem = std::move(outer_);
     }
-    ~CurrentItem() { shared_ = std::move(outer_); }
     CurrentItem(const CurrentItem&) = delete;
     CurrentItem& operator=(const CurrentItem&) = delete;
 
 private:
-    compose::Shared& shared_;
-    compose::Shared outer_;
+    Session& session_;
+    host::MailItem outer_;
+    bool processed_;
 };
 
 bool passes(const Gate& gate, Send& send) noexcept {
@@ -79,7 +83,7 @@ bool passes(const Gate& gate, Send& send) noexcept {
 } // namespace
 
 void ol_ItemSend(Session& session, const host::MailItem& item, bool& cancel) noexcept {
-    const CurrentItem current(session.shared, item);
+    const CurrentItem current(session, item);
     Send send{.session = session, .sent = item, .cancel = cancel};
     for (const Gate& gate : gates)
         if (!passes(gate, send)) return;

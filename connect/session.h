@@ -18,6 +18,7 @@ struct HostReferences {
     host::CommandBar oStandardBar;
     host::CommandBarButton myButtonSetting;
     host::CommandBarButton MyButtonConfigWiz;
+    host::MailItem MyMessItem; ///< the current item: the one being sent, or its wrapper
 
     host::Subscription application_events;
     host::Subscription explorer_events;
@@ -33,7 +34,7 @@ struct Session {
           prompt(platform.windows, platform.strings),
           errors({platform.settings, log, prompt, platform.machine, platform.objects, host.oHostApp,
                   platform.addin_folder}) {
-        shared.application_path = platform.addin_folder;
+        start_up.application_path = platform.addin_folder;
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -43,11 +44,12 @@ struct Session {
     diagnostics::ErrorLog log;
     forms::PromptDialog prompt;
     diagnostics::ErrorReporter errors;
-    compose::Shared shared; ///< with the current item: the item being sent
+    compose::StartUpValues start_up;
+    compose::Services composing{platform.settings, platform.files, platform.clock, platform.windows,
+                                platform.objects,  errors,         host.oHostApp,  start_up};
     bool processed = false;
     bool internal = false;
     bool dialog_answer = true; ///< the send-options form's answer
-    Text browser_path;         ///< the folder of the preview's page; empty for the application path
     Text language;
 };
 

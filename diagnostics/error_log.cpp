@@ -1,7 +1,5 @@
 #include "diagnostics/error_log.h"
 
-#include "base/errors.h"
-
 namespace ornavel::diagnostics {
 namespace {
 
@@ -16,9 +14,9 @@ Text log_date(const LocalTime& time) {
            two_digits(time.hour) + u":" + two_digits(time.minute) + u":" + two_digits(time.second);
 }
 
-void ErrorLog::append_error(TextView description, TextView sub_function, TextView section) {
-    append_line(location(), u"Date: " + date() + u", " + Text(sub_function) + u", " + Text(section) + u", " +
-                                Text(description));
+void ErrorLog::append_error(TextView description, TrapName trap) {
+    append_line(location(), u"Date: " + date() + u", " + Text(trap.sub_function) + u", " +
+                                Text(trap.section) + u", " + Text(description));
 }
 
 void ErrorLog::write_note(TextView text) noexcept {

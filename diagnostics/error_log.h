@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/clock.h"
+#include "base/errors.h"
 #include "base/files.h"
 #include "settings/store.h"
 
@@ -22,7 +23,7 @@ public:
     Text location();
 
     /// An error's line. Throws Failure when it can't be written.
-    void append_error(TextView description, TextView sub_function, TextView section);
+    void append_error(TextView description, TrapName trap);
 
     /// A dated note; chooses and creates the log when none is named. A note that can't be written is lost.
     void write_note(TextView text) noexcept;

@@ -11,9 +11,24 @@ constexpr TextView user_request = u"UserRequest";
 
 } // namespace
 
+/// Runs the body; a failure of the error routine itself becomes a dated note.
+template <class Body>
+void ErrorReporter::step(Body&& body) noexcept {
+    try {
+        body();
+    } catch (...) {
+        const Text failure = current_description();
+        attempt([&] {
+            services_.log.write_note(
+                u"An error has occurred in Ornavel- Procedure Write_to_error_file. The error is:" + failure +
+                u" Error trapping - Ornavel");
+        });
+    }
+}
+
 void ErrorReporter::Write_to_error_file(TextView description, TextView sub_function,
                                         TextView section) noexcept {
-    const auto report = log_error(description, sub_function, section);
+    const auto report = log_error(description, {sub_function, section});
     if (!report) return;
     bool agreed = false;
     step([&] {
@@ -23,17 +38,17 @@ void ErrorReporter::Write_to_error_file(TextView description, TextView sub_funct
     if (agreed) mail_report(*report);
 }
 
-std::optional<ErrorReport> ErrorReporter::log_error(TextView description, TextView sub_function,
-                                                    TextView section) noexcept {
+std::optional<ErrorReport> ErrorReporter::log_error(TextView description, TrapName trap) noexcept {
     std::optional<ErrorReport> report;
     step([&] {
         if (is_on(services_.settings, admin::ErrorFileSuppressEmail)) {
-            services_.log.write_note(Text(description) + u" - " + Text(sub_function) + u" - " +
-                                     Text(section));
+            services_.log.write_note(Text(description) + u" - " + Text(trap.sub_function) + u" - " +
+                                     Text(trap.section));
             return;
         }
         if (is_excepted(description)) return;
-        report = log_and_report({services_.log.date(), Text(description), Text(sub_function), Text(section)});
+        report = log_and_report(
+            {services_.log.date(), Text(description), Text(trap.sub_function), Text(trap.section)});
     });
     return report;
 }
@@ -52,7 +67,7 @@ std::optional<ErrorReport> ErrorReporter::log_and_report(const ErrorRecord& erro
         report.text = report_text(
             error, {services_.settings, services_.machine, services_.application, services_.addin_folder});
     });
-    step([&] { services_.log.append_error(error.description, error.sub_function, error.section); });
+    step([&] { services_.log.append_error(error.description, {error.sub_function, error.section}); });
     if (under_way_ || !is_on(services_.settings, admin::EmailErrorNotify)) return {};
     return report;
 }
@@ -74,20 +89,6 @@ void ErrorReporter::send_mail(const ErrorReport& report) {
     // A report whose log can't be attached is still worth sending.
     step([&] { mail.attachments().add(read(services_.settings, admin::ErrorFileLocation)); });
     mail.send();
-}
-
-/// Runs the body; a failure of the error routine itself becomes a dated note.
-void ErrorReporter::step(const std::function<void()>& body) noexcept {
-    try {
-        body();
-    } catch (...) {
-        const Text failure = current_description();
-        attempt([&] {
-            services_.log.write_note(
-                u"An error has occurred in Ornavel- Procedure Write_to_error_file. The error is:" + failure +
-                u" Error trapping - Ornavel");
-        });
-    }
 }
 
 } // namespace ornavel::diagnostics

@@ -25,16 +25,19 @@ public:
     explicit ErrorReporter(Services services) : services_(std::move(services)) {}
 
     /// The section "UserRequest" is a user's own request for help: it is mailed without asking.
-    void Write_to_error_file(TextView description, TextView sub_function, TextView section) noexcept override;
-    std::optional<ErrorReport> log_error(TextView description, TextView sub_function,
-                                         TextView section) noexcept override;
+    void Write_to_error_file(TextView description, TextView sub_function, TextView section) noexcept;
+    void take(TextView description, TrapName trap) noexcept override {
+        Write_to_error_file(description, trap.sub_function, trap.section);
+    }
+    std::optional<ErrorReport> log_error(TextView description, TrapName trap) noexcept override;
     void mail_report(const ErrorReport& report) noexcept override;
 
 private:
     bool is_excepted(TextView description) const;
     std::optional<ErrorReport> log_and_report(const ErrorRecord& error) noexcept;
     void send_mail(const ErrorReport& report);
-    void step(const std::function<void()>& body) noexcept;
+    template <class Body>
+    void step(Body&& body) noexcept;
 
     Services services_;
     bool under_way_ = false;

@@ -19,8 +19,7 @@ class ErrorReports : public ErrorSink {
 public:
     /// Logs the error but asks nobody. Gives back the report when it may be mailed: not for an error that is
     /// excepted or only noted, not while mail to support is off, and not while another report is under way.
-    virtual std::optional<ErrorReport> log_error(TextView description, TextView sub_function,
-                                                 TextView section) noexcept = 0;
+    virtual std::optional<ErrorReport> log_error(TextView description, TrapName trap) noexcept = 0;
 
     /// Mails the report to support, with the log attached.
     virtual void mail_report(const ErrorReport& report) noexcept = 0;

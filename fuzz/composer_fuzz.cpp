@@ -45,32 +45,35 @@ struct World {
     std::vector<Text> journal;
     std::shared_ptr<RecordingObject> item = std::make_shared<RecordingObject>(journal);
     host::Application application;
-    compose::Shared shared;
+    compose::StartUpValues start_up;
+    compose::Reply reply{.marker = u"-----Original"};
+    compose::Purpose purpose = compose::Purpose::send;
 
-    Text compose(Text& body) {
-        shared.item = host::MailItem(item);
-        shared.signature_from_settings = true;
-        Text path = u"C:\\temp\\letter.htm";
-        return CreateHTMLBody({store, files, clock, boxes, objects, reports, application}, shared, body,
-                              path);
+    Text compose(Text body) {
+        const host::MailItem mail(item);
+        return CreateHTMLBody({store, files, clock, boxes, objects, reports, application, start_up},
+                              {.item = mail,
+                               .source = std::move(body),
+                               .template_path = u"C:\\temp\\letter.htm",
+                               .reply = reply,
+                               .purpose = purpose})
+            .html;
     }
 };
 
 [[maybe_unused]] void cut_reply(fuzz::Input& input) {
     World world;
-    world.shared.reply = true;
-    world.shared.reply_marker = u"-----Original";
-    world.shared.reply_search_value = to_text(input.byte() % 8);
-    world.shared.reply_insert_value = to_text(input.byte() % 32);
+    world.reply.found = true;
+    world.reply.search_offset = input.byte() % 8;
+    world.reply.insert_offset = input.byte() % 32;
     save(world.store, settings::admin::WipeoutBlockquote, u"False");
     save(world.store, settings::admin::WipeoutReplySeparator, u"\x1");
     world.files.contents[u"C:\\temp\\letter.htm"] = "[#Input your message here#]";
     world.item->values[u"HTMLBody"] = Text(u"x");
     constexpr TextView plain[] = {u"-----Original", u"-----Orig", u"-", u"a", u"www.a", u"\r\n"};
-    Text body = input.text(plain);
-    const Text before = body, result = world.compose(body);
+    const Text before = input.text(plain), result = world.compose(before);
     const auto middle = result.find(u"\r\n<p>\x1");
-    fuzz::require(middle != Text::npos && body == before && before.starts_with(result.substr(0, middle)));
+    fuzz::require(middle != Text::npos && before.starts_with(result.substr(0, middle)));
     const Text quoted = result.substr(middle + 6);
     fuzz::require(before.ends_with(quoted));
 }
@@ -85,18 +88,16 @@ struct World {
         if (bits & 1) save(world.store, *key, u"True");
         bits >>= 1;
     }
-    world.shared.reply = bits & 1;
-    world.shared.reply_marker = u"-----Original";
-    world.shared.script_check_suppressed = bits & 2;
-    world.shared.usage_log.enabled = bits & 4;
+    world.reply.found = bits & 1;
+    if (bits & 2) world.purpose = compose::Purpose::preview;
+    world.start_up.usage_log.enabled = bits & 4;
     if (bits & 8) save(world.store, settings::user::Signature, u"jo.htm");
     if (bits & 16) save(world.store, settings::admin::Marketing, u"Enterprise");
     save(world.store, settings::admin::WipeoutHTMLBeginTag, input.text(pieces));
     world.files.contents[u"C:\\temp\\letter.htm"] = to_utf8(input.text(pieces));
     world.files.contents[u"C:\\temp\\jo.htm"] = to_utf8(input.text(pieces));
     world.item->values[u"HTMLBody"] = input.text(pieces);
-    Text body = input.text(pieces);
-    world.compose(body);
+    world.compose(input.text(pieces));
 }
 
 } // namespace

@@ -7,9 +7,9 @@ constexpr std::int32_t control_button = 1;
 constexpr std::int32_t style_caption = 2;
 constexpr std::int32_t style_face_and_caption = 3;
 
-class Collection : public View {
+class Collection : public ViewOf<u"Collection"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     int count() const { return as_number(get({u"Count"})); }
     ObjectPtr add_temporary(std::int32_t type) const {
         return as_object(call({u"Add"}, {type, Omitted{}, Omitted{}, Omitted{}, true}));

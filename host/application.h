@@ -5,9 +5,9 @@
 namespace ornavel::host {
 
 /// A button that the add-in puts on a toolbar.
-class CommandBarButton : public View {
+class CommandBarButton : public ViewOf<u"CommandBarButton"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     Text caption() const { return as_text(get({u"Caption"})); }
     void set_caption(TextView caption) const { put({u"Caption"}, Text(caption)); }
     void set_tag(TextView tag) const { put({u"Tag"}, Text(tag)); }
@@ -19,33 +19,33 @@ public:
     Subscription on_click(std::function<void()> handler) const;
 };
 
-class CommandBar : public View {
+class CommandBar : public ViewOf<u"CommandBar"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     /// A new button that goes when the host closes.
     CommandBarButton add_temporary_button() const;
     /// The button with this tag, or one that holds nothing.
     CommandBarButton find_button(TextView tag) const;
 };
 
-class CommandBars : public View {
+class CommandBars : public ViewOf<u"CommandBars"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     CommandBar item(TextView name) const { return CommandBar(as_object(get({u"Item"}, {Text(name)}))); }
 };
 
 /// A window that shows folders.
-class Explorer : public View {
+class Explorer : public ViewOf<u"Explorer"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     CommandBars command_bars() const { return CommandBars(as_object(get({u"CommandBars"}))); }
     Subscription on_close(std::function<void()> handler) const;
 };
 
 /// The pages of the host's Options dialog.
-class PropertyPages : public View {
+class PropertyPages : public ViewOf<u"PropertyPages"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     void add(const ObjectPtr& page, TextView title) const { call({u"Add"}, {page, Text(title)}); }
 };
 
@@ -58,9 +58,9 @@ struct ApplicationEvents {
     std::function<void(PropertyPages pages)> options_pages_add;
 };
 
-class Application : public View {
+class Application : public ViewOf<u"Application"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     Text version() const { return as_text(get({u"Version"})); }
     int explorer_count() const;
     /// Holds nothing when no explorer window is open.

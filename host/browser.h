@@ -5,9 +5,9 @@
 namespace ornavel::host {
 
 /// A web browser: the control inside a window, or a program of its own.
-class Browser : public View {
+class Browser : public ViewOf<u"WebBrowser"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     /// Shows a file or an address.
     void navigate(TextView page) const { call({u"Navigate"}, {Text(page)}); }
 };

@@ -4,17 +4,17 @@
 
 namespace ornavel::host {
 
-class Folder : public View {
+class Folder : public ViewOf<u"Folder"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     Text name() const { return as_text(get({u"Name"})); }
     Text entry_id() const { return as_text(get({u"EntryID"})); }
 };
 
 /// A person in the user's contacts.
-class Contact : public View {
+class Contact : public ViewOf<u"ContactItem"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     Text full_name() const { return as_text(get({u"FullName"})); }
     Text company_name() const { return as_text(get({u"CompanyName"})); }
     Text entry_id() const { return as_text(get({u"EntryID"})); }
@@ -28,9 +28,9 @@ public:
 };
 
 /// The contacts that an item was made for.
-class Links : public View {
+class Links : public ViewOf<u"Links"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     int count() const { return as_number(get({u"Count"})); }
     /// Counts from 1.
     Contact contact(int index) const {
@@ -39,9 +39,9 @@ public:
     }
 
 private:
-    class Link : public View {
+    class Link : public ViewOf<u"Link"> {
     public:
-        using View::View;
+        using ViewOf::ViewOf;
         Value target() const { return get({u"Item"}); }
     };
 };

@@ -6,15 +6,15 @@
 namespace ornavel::host {
 
 /// A named value that an add-in keeps with an item.
-class UserProperty : public View {
+class UserProperty : public ViewOf<u"UserProperty"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     void set_value(TextView value) const { put({u"Value"}, Text(value)); }
 };
 
-class UserProperties : public View {
+class UserProperties : public ViewOf<u"UserProperties"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     int count() const { return as_number(get({u"Count"})); }
     /// Adds a text property.
     UserProperty add(TextView name) const {
@@ -23,15 +23,15 @@ public:
     }
 };
 
-class Attachment : public View {
+class Attachment : public ViewOf<u"Attachment"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     Text file_name() const { return as_text(get({u"FileName"})); }
 };
 
-class Attachments : public View {
+class Attachments : public ViewOf<u"Attachments"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     int count() const { return as_number(get({u"Count"})); }
     /// Counts from 1.
     Attachment item(int index) const {
@@ -40,15 +40,15 @@ public:
     void add(TextView path) const { call({u"Add"}, {Text(path)}); }
 };
 
-class Recipient : public View {
+class Recipient : public ViewOf<u"Recipient"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     Text address() const { return as_text(get({u"Address"})); }
 };
 
-class Recipients : public View {
+class Recipients : public ViewOf<u"Recipients"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     int count() const { return as_number(get({u"Count"})); }
     /// Counts from 1.
     Recipient item(int index) const {
@@ -60,18 +60,18 @@ public:
 /// What the editor of an item is, as the host numbers it; other numbers occur and count as HTML.
 enum EditorType : int { plain_text_editor = 1, html_editor = 2, rich_text_editor = 3, word_editor = 4 };
 
-class Inspector : public View {
+class Inspector : public ViewOf<u"Inspector"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     int editor_type() const { return as_number(get({u"EditorType"})); }
     bool is_word_mail() const { return as_flag(get({u"IsWordMail"})); }
     WordDocument word_editor() const { return WordDocument(as_object(get({u"WordEditor"}))); }
 };
 
 /// An item being written or sent. A `Redemption.SafeMailItem` around one has the same members.
-class MailItem : public View {
+class MailItem : public ViewOf<u"MailItem"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
 
     Text message_class() const { return as_text(get({u"MessageClass"})); }
     Folder parent() const { return Folder(as_object(get({u"Parent"}))); }
@@ -79,9 +79,9 @@ public:
     Text subject() const { return as_text(get({u"Subject"})); }
     void set_subject(TextView subject) const { put({u"Subject"}, Text(subject)); }
     Text body() const { return as_text(get({u"Body"})); }
-    void set_body(TextView body) const { put({u"Body"}, Text(body)); }
+    void set_body(Text body) const { put({u"Body"}, std::move(body)); }
     Text html_body() const { return as_text(get({u"HTMLBody"})); }
-    void set_html_body(TextView body) const { put({u"HTMLBody"}, Text(body)); }
+    void set_html_body(Text body) const { put({u"HTMLBody"}, std::move(body)); }
 
     Text billing_information() const { return as_text(get({u"BillingInformation"})); }
     void set_billing_information(TextView text) const { put({u"BillingInformation"}, Text(text)); }

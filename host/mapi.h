@@ -8,17 +8,17 @@ namespace ornavel::host {
 /// A moment as the user's clock shows it, to the second.
 LocalTime local_time(Date date);
 
-class Appointment : public View {
+class Appointment : public ViewOf<u"AppointmentItem"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     Text subject() const { return as_text(get({u"Subject"})); }
     LocalTime start() const;
 };
 
 /// A collection of appointments, or of those that a filter lets through.
-class Appointments : public View {
+class Appointments : public ViewOf<u"Items"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     void sort(TextView property) const { call({u"Sort"}, {Text(property)}); }
     void include_recurrences() const { put({u"IncludeRecurrences"}, true); }
     Appointments restrict(TextView filter) const {
@@ -29,9 +29,9 @@ public:
     Appointment next() const { return Appointment(as_object_or_nothing(call({u"GetNext"}))); }
 };
 
-class CalendarFolder : public View {
+class CalendarFolder : public ViewOf<u"Folder"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     Appointments items() const { return Appointments(as_object(get({u"Items"}))); }
 };
 
@@ -42,9 +42,9 @@ public:
 };
 
 /// The user's session with the message store.
-class Namespace : public View {
+class Namespace : public ViewOf<u"NameSpace"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     CurrentUser current_user() const { return CurrentUser(as_object(get({u"CurrentUser"}))); }
     CalendarFolder default_calendar() const {
         constexpr std::int32_t calendar = 9;

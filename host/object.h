@@ -8,9 +8,14 @@
 
 namespace ornavel::host {
 
-/// The name of a member of a host object, spelled once, in the typed views of this room.
+/// The name of a member of a host object, spelled once, in the typed views of this room, and that of its
+/// object's class, for those who look for an error.
 struct Member {
     const char16_t* name;
+    const char16_t* object = u"";
+
+    /// "MailItem.HTMLBody"
+    Text full_name() const { return Text(object) + u"." + name; }
 };
 
 using Arguments = std::vector<Value>;

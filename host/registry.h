@@ -6,9 +6,9 @@ namespace ornavel::host {
 
 /// The registry of the user (HKEY_CURRENT_USER) through the management provider, which the add-in uses for
 /// values that belong to the mail client.
-class RegistryProvider : public View {
+class RegistryProvider : public ViewOf<u"StdRegProv"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     /// The provider of this computer. Throws Error when there is none.
     static RegistryProvider of(Objects& objects, TextView computer);
 

@@ -1,5 +1,7 @@
 #include "host/value.h"
 
+#include "base/encoding.h"
+
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -27,7 +29,7 @@ struct ToText {
     Text operator()(bool flag) const { return flag ? u"True" : u"False"; }
     Text operator()(std::int32_t number) const { return to_text(number); }
     Text operator()(double number) const { return to_text(rounded(number)); }
-    Text operator()(const Text& text) const { return text; }
+    Text operator()(Text& text) const { return std::move(text); }
     Text operator()(const auto&) const { mismatch(); }
 };
 
@@ -43,9 +45,22 @@ struct ToNumber {
     std::int32_t operator()(const auto&) const { mismatch(); }
 };
 
+std::string hexadecimal(std::int32_t code) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text = "0x";
+    for (int shift = 28; shift >= 0; shift -= 4)
+        text += digits[static_cast<std::uint32_t>(code) >> shift & 15];
+    return text;
+}
+
 } // namespace
 
-Text as_text(const Value& value) { return std::visit(ToText{}, value); }
+Error::Error(TextView description, Text member, std::int32_t code)
+    : Failure(description,
+              member.empty() ? std::string() : to_utf8(member) + " failed with " + hexadecimal(code)),
+      member_(std::move(member)), code_(code) {}
+
+Text as_text(Value value) { return std::visit(ToText{}, value); }
 
 std::int32_t as_number(const Value& value) { return std::visit(ToNumber{}, value); }
 

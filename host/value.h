@@ -37,15 +37,23 @@ struct Result {
 };
 
 /// A member of a host object that fails, is missing, or gives back another type. Its description is the
-/// host's own where there is one.
+/// host's own where there is one, and nothing else goes into logs; what() tells a developer more.
 class Error : public Failure {
 public:
-    using Failure::Failure;
+    /// member: the object's class and the member, "MailItem.HTMLBody"; code: the HRESULT, 0 where there is
+    /// none.
+    explicit Error(TextView description, Text member = {}, std::int32_t code = 0);
+    const Text& member() const { return member_; }
+    std::int32_t code() const { return code_; }
+
+private:
+    Text member_;
+    std::int32_t code_;
 };
 
 /// The conversions that late binding makes: an empty value is "", 0 and False; numbers and texts convert
-/// where the text is a number. Anything else throws Error.
-Text as_text(const Value& value);
+/// where the text is a number. Anything else throws Error. A text that is handed over is not copied.
+Text as_text(Value value);
 std::int32_t as_number(const Value& value);
 bool as_flag(const Value& value);
 

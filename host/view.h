@@ -2,6 +2,8 @@
 
 #include "host/object.h"
 
+#include <algorithm>
+
 namespace ornavel::host {
 
 /// A typed view of a late-bound object: each member is spelled in one view, once. A view that holds nothing
@@ -16,24 +18,42 @@ public:
     void release() { object_.reset(); }
 
 protected:
-    Value get(Member member, const Arguments& arguments = {}) const {
-        return target().get(member, arguments);
-    }
-    void put(Member member, const Value& value) const { target().put(member, value); }
-    Value call(Member member, const Arguments& arguments = {}) const {
-        return target().call(member, arguments);
-    }
-    Subscription advise(EventSource source, EventHandler handler) const {
-        return target().advise(source, std::move(handler));
-    }
-
-private:
-    Object& target() const {
-        if (!object_) throw Error(u"Object variable not set");
+    Object& target(Member member) const {
+        if (!object_) throw Error(u"Object variable not set", member.full_name());
         return *object_;
     }
 
+private:
     ObjectPtr object_;
+};
+
+/// The name of an object's class, as a template's argument.
+template <std::size_t size>
+struct ClassName {
+    consteval ClassName(const char16_t (&name)[size]) { std::ranges::copy(name, text); }
+    char16_t text[size];
+};
+
+/// A view of an object of the class with this name.
+template <ClassName class_name>
+class ViewOf : public View {
+public:
+    using View::View;
+
+protected:
+    Value get(Member member, const Arguments& arguments = {}) const {
+        return target(named(member)).get(named(member), arguments);
+    }
+    void put(Member member, Value value) const { target(named(member)).put(named(member), value); }
+    Value call(Member member, const Arguments& arguments = {}) const {
+        return target(named(member)).call(named(member), arguments);
+    }
+    Subscription advise(EventSource source, EventHandler handler) const {
+        return target({u"events", class_name.text}).advise(source, std::move(handler));
+    }
+
+private:
+    static Member named(Member member) { return {member.name, class_name.text}; }
 };
 
 } // namespace ornavel::host

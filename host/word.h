@@ -5,9 +5,9 @@
 namespace ornavel::host {
 
 /// The message as Word holds it while Word is the editor.
-class WordDocument : public View {
+class WordDocument : public ViewOf<u"Document"> {
 public:
-    using View::View;
+    using ViewOf::ViewOf;
     void copy_content_to_clipboard() const { Range(as_object(get({u"Content"}))).copy(); }
     Text word_version() const { return WordApplication(as_object(get({u"Application"}))).version(); }
     /// The format is Word's own number.
@@ -16,14 +16,14 @@ public:
     }
 
 private:
-    class Range : public View {
+    class Range : public ViewOf<u"Range"> {
     public:
-        using View::View;
+        using ViewOf::ViewOf;
         void copy() const { call({u"Copy"}); }
     };
-    class WordApplication : public View {
+    class WordApplication : public ViewOf<u"Word.Application"> {
     public:
-        using View::View;
+        using ViewOf::ViewOf;
         Text version() const { return as_text(get({u"Version"})); }
     };
 };

@@ -6,7 +6,9 @@
 
 namespace ornavel::win32 {
 
-Bstr::Bstr(TextView text) : string_(SysAllocStringLen(wide(text).c_str(), static_cast<UINT>(text.size()))) {
+Bstr::Bstr(TextView text)
+    : string_(
+          SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text.data()), static_cast<UINT>(text.size()))) {
     if (!string_) throw std::bad_alloc();
 }
 

@@ -16,6 +16,7 @@ public:
         SysFreeString(info_.bstrHelpFile);
     }
     EXCEPINFO* out() { return &info_; }
+    HRESULT code() const { return info_.scode != 0 ? info_.scode : DISP_E_EXCEPTION; }
 
     Text description() {
         if (info_.pfnDeferredFillIn) info_.pfnDeferredFillIn(&info_);
@@ -33,7 +34,7 @@ private:
 /// own.
 class CallArguments {
 public:
-    explicit CallArguments(const host::Arguments& arguments) : results_(arguments.size()) {
+    explicit CallArguments(std::span<const host::Value> arguments) : results_(arguments.size()) {
         values_.reserve(arguments.size());
         for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument) {
             Variant& value = values_.emplace_back(to_variant(*argument));
@@ -46,10 +47,10 @@ public:
     VARIANT* first() { return values_.empty() ? nullptr : values_.front().address(); }
     UINT count() const { return static_cast<UINT>(values_.size()); }
 
-    void hand_over(const host::Arguments& arguments) {
+    void hand_over(std::span<const host::Value> arguments) {
         for (std::size_t i = 0; i < arguments.size(); ++i)
             if (const auto* result = std::get_if<host::Result*>(&arguments[arguments.size() - 1 - i]))
-                (*result)->value = to_value(*results_[i].address());
+                (*result)->value = to_value(std::move(results_[i]));
     }
 
 private:
@@ -66,7 +67,7 @@ host::Value DispatchObject::get(host::Member member, const host::Arguments& argu
 }
 
 void DispatchObject::put(host::Member member, const host::Value& value) {
-    invoke(member, DISPATCH_PROPERTYPUT, {value});
+    invoke(member, DISPATCH_PROPERTYPUT, {&value, 1});
 }
 
 host::Value DispatchObject::call(host::Member member, const host::Arguments& arguments) {
@@ -82,11 +83,12 @@ DISPID DispatchObject::identifier(host::Member member) const {
     LPOLESTR names[] = {name.data()};
     DISPID id = DISPID_UNKNOWN;
     if (FAILED(dispatch_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id)))
-        throw host::Error(u"Object doesn't support this property or method");
+        throw host::Error(u"Object doesn't support this property or method", member.full_name(),
+                          DISP_E_UNKNOWNNAME);
     return id;
 }
 
-host::Value DispatchObject::invoke(host::Member member, WORD how, const host::Arguments& arguments) {
+host::Value DispatchObject::invoke(host::Member member, WORD how, std::span<const host::Value> arguments) {
     const DISPID id = identifier(member);
     CallArguments values(arguments);
     DISPID put_name = DISPID_PROPERTYPUT;
@@ -100,10 +102,12 @@ host::Value DispatchObject::invoke(host::Member member, WORD how, const host::Ar
     Exception exception;
     const HRESULT outcome = dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, how, &parameters,
                                               putting ? nullptr : result.address(), exception.out(), nullptr);
-    if (outcome == DISP_E_EXCEPTION) throw host::Error(exception.description());
-    check(outcome);
+    if (outcome == DISP_E_EXCEPTION)
+        throw host::Error(exception.description(), member.full_name(), exception.code());
+    if (FAILED(outcome))
+        throw host::Error(system_message(static_cast<DWORD>(outcome)), member.full_name(), outcome);
     values.hand_over(arguments);
-    return to_value(*result.address());
+    return to_value(std::move(result));
 }
 
 host::ObjectPtr object_of(IUnknown* unknown) {
@@ -122,7 +126,7 @@ ComPtr<IDispatch> dispatch_of(const host::ObjectPtr& object) {
 }
 
 void check(HRESULT result) {
-    if (FAILED(result)) throw host::Error(system_message(static_cast<DWORD>(result)));
+    if (FAILED(result)) throw host::Error(system_message(static_cast<DWORD>(result)), {}, result);
 }
 
 } // namespace ornavel::win32

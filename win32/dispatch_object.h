@@ -19,7 +19,7 @@ public:
 
 private:
     DISPID identifier(host::Member member) const;
-    host::Value invoke(host::Member member, WORD how, const host::Arguments& arguments);
+    host::Value invoke(host::Member member, WORD how, std::span<const host::Value> arguments);
 
     ComPtr<IDispatch> dispatch_;
 };

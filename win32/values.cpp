@@ -76,6 +76,11 @@ Variant to_variant(const host::Value& value) { return std::visit(ToVariant{}, va
 host::Value to_value(VARIANT& from) {
     Variant value;
     if (FAILED(VariantCopyInd(value.address(), &from))) mismatch();
+    return to_value(std::move(value));
+}
+
+host::Value to_value(Variant value) {
+    if ((value->vt & VT_BYREF) != 0) return to_value(*value.address());
     switch (value->vt) {
     case VT_EMPTY:
     case VT_NULL:

@@ -10,5 +10,7 @@ Variant to_variant(const host::Value& value);
 
 /// What automation passed, by value or by reference. Throws host::Error for what the seam has no type for.
 host::Value to_value(VARIANT& variant);
+/// The same for what a call gave back: nothing of it is copied on the way to the value.
+host::Value to_value(Variant variant);
 
 } // namespace ornavel::win32

@@ -9,9 +9,8 @@ namespace {
 
 class Recorder final : public ErrorSink {
 public:
-    void Write_to_error_file(TextView description, TextView sub_function,
-                             TextView section) noexcept override {
-        line = Text(sub_function) + u"/" + Text(section) + u"/" + Text(description);
+    void take(TextView description, TrapName trap) noexcept override {
+        line = Text(trap.sub_function) + u"/" + Text(trap.section) + u"/" + Text(description);
     }
     Text line;
 };

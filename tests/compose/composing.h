@@ -31,18 +31,18 @@ protected:
         recipients->values[u"Item"] = as(recipient);
         recipient->values[u"Address"] = Text(u"ann@example.com");
         links->values[u"Count"] = std::int32_t{0};
-        shared.item = host::MailItem(item);
-        shared.signature_from_settings = true;
-        shared.application_path = u"C:\\add-in";
+        start_up.application_path = u"C:\\add-in";
     }
 
     Recorder recorder(TextView name) { return std::make_shared<RecordingObject>(journal, name); }
     static host::Value as(const Recorder& object) { return host::ObjectPtr(object); }
 
-    Text compose(Text body) {
-        text = std::move(body);
-        return CreateHTMLBody({store, files, clock, boxes, objects, reports, application}, shared, text,
-                              path);
+    Text compose(Text source) {
+        auto [ended, html] =
+            CreateHTMLBody({store, files, clock, boxes, objects, reports, application, start_up},
+                           {mail, std::move(source), path, reply, form_signature, purpose});
+        outcome = ended;
+        return std::move(html);
     }
 
     void set(const settings::Key& key, TextView value) { settings::save(store, key, value); }
@@ -64,9 +64,13 @@ protected:
              recipients = recorder(u"recipients"), recipient = recorder(u"recipient"),
              mapi = recorder(u"mapi"), host_application = recorder(u"application");
     host::Application application{host_application};
-    Shared shared;
+    host::MailItem mail{item};
+    StartUpValues start_up;
     Text path = u"C:\\stationery\\letter.htm";
-    Text text; ///< the body after the composition
+    compose::Reply reply;
+    std::optional<Text> form_signature;
+    Purpose purpose = Purpose::send;
+    Outcome outcome = Outcome::composed; ///< of the last composition
 };
 
 } // namespace ornavel::compose

@@ -15,7 +15,7 @@ protected:
         user_->values[u"Address"] = Text(u"jo@example.com");
         user_->values[u"Name"] = Text(u"Jo Sender");
         objects.prepared[u"ADODB.Connection"] = connection;
-        shared.usage_log = {true, u"dsn=log", u"sent", u"Address", {}};
+        start_up.usage_log = {true, u"dsn=log", u"sent", u"Address", {}};
         set(user::Template, u"letter.htm");
     }
 
@@ -90,7 +90,7 @@ TEST_F(Fields, WithoutALinkTheSubjectAndTheTextStandIn) {
 TEST_F(Fields, WithoutEnterpriseOrInAPreviewTheContactFieldsStay) {
     EXPECT_EQ(compose(u"[#ContactName#]"), u"[[#ContactName#]]\r\n");
     set(admin::Marketing, u"Enterprise");
-    shared.script_check_suppressed = true;
+    purpose = Purpose::preview;
     journal.clear();
     EXPECT_EQ(compose(u"[#ContactName#][#Address#]"), u"[[#ContactName#][#Address#]]\r\n");
     EXPECT_TRUE(journal.empty());
@@ -124,7 +124,7 @@ TEST_F(Fields, SeveralRecipientsAreARowEach) {
 }
 
 TEST_F(Fields, WithoutAConnectionStringNoRowIsWritten) {
-    shared.usage_log.connection_string.clear();
+    start_up.usage_log.connection_string.clear();
     EXPECT_EQ(compose(u"[#Address#]"), u"[ann@example.com]\r\n");
     EXPECT_TRUE(database_calls().empty());
 }

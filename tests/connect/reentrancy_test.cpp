@@ -103,6 +103,20 @@ TEST_F(Reentrancy, AnItemThatAPreviewSendsInsideASendGoesOutUntouched) {
     EXPECT_EQ(body(1), u"inner");
 }
 
+TEST_F(Reentrancy, ASendInsideASendThatIsRefusedForItsStationeryDoesNotHoldTheDressedOneBack) {
+    windows.meanwhile = [&] {
+        stage.machine.change_settings({{u"Admin Settings", {{u"WipeoutPersonalStationery", u"True"}}}});
+        stage.machine.registry().set(
+            u"HKEY_CURRENT_USER\\Software\\Microsoft\\Office\\11.0\\Common\\MailSettings", u"NewStationery",
+            Text(u"Ivy"));
+        EXPECT_TRUE(send(1));
+    };
+    EXPECT_FALSE(send(0));
+    EXPECT_EQ(body(0), u"</script>{outer}\r\n");
+    EXPECT_EQ(stage.item(0).billing_information(), u"Ornavel from Brevant");
+    EXPECT_EQ(stage.item(1).billing_information(), u"DoNotSend");
+}
+
 TEST_F(Reentrancy, ASendWhileThePromptIsOpenLeavesTheOuterOneCancelled) {
     set_up_without_template();
     stage.item(1).set_billing_information(u"Preview Send");

@@ -2,6 +2,8 @@
 
 #include "base/encoding.h"
 
+#include <algorithm>
+
 namespace ornavel::connect {
 namespace {
 
@@ -48,6 +50,19 @@ TEST_F(Sending, HalfPairsAndNulUnitsOfAPlainTextGoOutAsTheyAre) {
     item().body = odd;
     EXPECT_FALSE(send());
     EXPECT_EQ(item().html_body, u"<span> <font face='Courier new' size=2>" + odd + u"</font></span>");
+}
+
+TEST_F(Sending, AReplyIsReadOnceByTheGatesAndOnceByTheComposer) {
+    set(system::Office2003SearchString, u"-----Original");
+    item().html_body = u"new -----Original old";
+    EXPECT_FALSE(send());
+    EXPECT_EQ(item().html_body, u"<new >\r\n<p><hr>----Original old");
+    EXPECT_EQ(std::ranges::count_if(stage.journal.entries(),
+                                    [](const rehearsal::JournalEntry& entry) {
+                                        return entry.deed == rehearsal::Deed::get &&
+                                               entry.what == u"MailItem.HTMLBody";
+                                    }),
+              2);
 }
 
 TEST_F(Sending, ABodyOfFiftyMegabytesIsDressedWhole) {

@@ -20,7 +20,7 @@ struct ErrorLogTest : testing::Test {
 };
 
 TEST_F(ErrorLogTest, WithoutANamedLogTheDefaultOneIsCreatedInItsFolderAndNamed) {
-    log.append_error(u"Disk full", u"cmdOkToSend_Click", u"Send_Err");
+    log.append_error(u"Disk full", {u"cmdOkToSend_Click", u"Send_Err"});
     EXPECT_TRUE(files.folder_exists(u"C:\\addin\\Support"));
     EXPECT_EQ(read(store, admin::ErrorFileLocation), u"C:\\addin\\Support\\SupportLog.txt");
     EXPECT_EQ(files.contents[u"C:\\addin\\Support\\SupportLog.txt"],
@@ -64,7 +64,7 @@ TEST_F(ErrorLogTest, NotesAndChecksThatCantBeWrittenAreLostQuietly) {
     log.write_note(u"a note");
     log.SystemCheck(u"a", u"b", u"c");
     EXPECT_TRUE(files.contents.empty());
-    EXPECT_THROW(log.append_error(u"a", u"b", u"c"), Failure);
+    EXPECT_THROW(log.append_error(u"a", {u"b", u"c"}), Failure);
 }
 
 } // namespace

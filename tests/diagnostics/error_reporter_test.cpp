@@ -323,7 +323,7 @@ TEST_F(ErrorReporterTest, AnErrorWhileTheQuestionIsOpenIsLoggedAndNotAskedAgain)
     prompt.answer = true;
     prompt.while_open = [this] {
         errors.Write_to_error_file(u"second", u"inner", u"Inner_Err");
-        EXPECT_EQ(errors.log_error(u"third", u"inner", u"Inner_Err"), std::nullopt);
+        EXPECT_EQ(errors.log_error(u"third", {u"inner", u"Inner_Err"}), std::nullopt);
     };
     raise();
     EXPECT_EQ(prompt.modes.size(), 1U);
@@ -352,7 +352,7 @@ TEST_F(ErrorReporterTest, TheMailClientMayGoWhileTheQuestionIsOpen) {
 }
 
 TEST_F(ErrorReporterTest, ARoutineWithItsOwnQuestionLogsFirstAndMailsOnYes) {
-    const auto report = errors.log_error(u"Disk full", u"CreateHTMLBody", u"Merge_Err");
+    const auto report = errors.log_error(u"Disk full", {u"CreateHTMLBody", u"Merge_Err"});
     EXPECT_EQ(logged(), line);
     EXPECT_TRUE(prompt.modes.empty());
     EXPECT_TRUE(mail.empty());
@@ -365,13 +365,13 @@ TEST_F(ErrorReporterTest, ARoutineWithItsOwnQuestionLogsFirstAndMailsOnYes) {
 
 TEST_F(ErrorReporterTest, ARoutineWithItsOwnQuestionHasNothingToAskWhenNoReportMayGo) {
     save(store, admin::ErrorFileExceptions, u"known");
-    EXPECT_EQ(errors.log_error(u"known", u"r", u"s"), std::nullopt);
+    EXPECT_EQ(errors.log_error(u"known", {u"r", u"s"}), std::nullopt);
     save(store, admin::EmailErrorNotify, u"False");
-    EXPECT_EQ(errors.log_error(u"Disk full", u"CreateHTMLBody", u"Merge_Err"), std::nullopt);
+    EXPECT_EQ(errors.log_error(u"Disk full", {u"CreateHTMLBody", u"Merge_Err"}), std::nullopt);
     EXPECT_EQ(logged(), line);
     save(store, admin::EmailErrorNotify, u"True");
     save(store, admin::ErrorFileSuppressEmail, u"True");
-    EXPECT_EQ(errors.log_error(u"Disk full", u"r", u"s"), std::nullopt);
+    EXPECT_EQ(errors.log_error(u"Disk full", {u"r", u"s"}), std::nullopt);
     EXPECT_EQ(logged(), line + "Date: 11-20-2003 14:05:09, Disk full - r - s\r\n");
 }
 

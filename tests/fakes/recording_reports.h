@@ -16,13 +16,9 @@ public:
     std::vector<Entry> entries;
     std::vector<Text> mailed;
 
-    void Write_to_error_file(TextView description, TextView sub_function,
-                             TextView section) noexcept override {
-        log_error(description, sub_function, section);
-    }
-    std::optional<diagnostics::ErrorReport> log_error(TextView description, TextView sub_function,
-                                                      TextView section) noexcept override {
-        entries.push_back({Text(description), Text(sub_function), Text(section)});
+    void take(TextView description, TrapName trap) noexcept override { log_error(description, trap); }
+    std::optional<diagnostics::ErrorReport> log_error(TextView description, TrapName trap) noexcept override {
+        entries.push_back({Text(description), Text(trap.sub_function), Text(trap.section)});
         if (!offers) return {};
         return diagnostics::ErrorReport{u"Ornavel Error", Text(description)};
     }

@@ -17,9 +17,9 @@ using namespace ornavel;
 
 /// Says on the console what a form's code trapped.
 class Console final : public ErrorSink {
-    void Write_to_error_file(TextView description, TextView routine, TextView section) noexcept override {
-        std::printf("%s, %s, %s\n", to_utf8(description).c_str(), to_utf8(routine).c_str(),
-                    to_utf8(section).c_str());
+    void take(TextView description, TrapName trap) noexcept override {
+        std::printf("%s, %s, %s\n", to_utf8(description).c_str(), to_utf8(trap.sub_function).c_str(),
+                    to_utf8(trap.section).c_str());
     }
 };
 

@@ -35,12 +35,24 @@ TEST(Value, AnythingElseIsAnErrorOfTheHost) {
 }
 
 TEST(View, ThatHoldsNothingFailsInsteadOfCrashing) {
-    struct Named : View {
-        using View::View;
+    struct Named : ViewOf<u"Thing"> {
+        using ViewOf::ViewOf;
         Text name() const { return as_text(get({u"Name"})); }
     };
     EXPECT_FALSE(Named());
-    EXPECT_THROW(Named().name(), Error);
+    try {
+        Named().name();
+        FAIL();
+    } catch (const Error& error) {
+        EXPECT_EQ(error.description(), u"Object variable not set");
+        EXPECT_EQ(error.member(), u"Thing.Name");
+    }
+}
+
+TEST(Error, TellsADeveloperTheMemberAndTheCodeAndTheLogTheHostsOwnWords) {
+    const Error error(u"The item is gone.", u"MailItem.HTMLBody", static_cast<std::int32_t>(0x8004010F));
+    EXPECT_EQ(error.description(), u"The item is gone.");
+    EXPECT_STREQ(error.what(), "MailItem.HTMLBody failed with 0x8004010F: The item is gone.");
 }
 
 } // namespace

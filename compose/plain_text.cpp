@@ -1,8 +1,8 @@
-#include "connect/plain_text.h"
+#include "compose/plain_text.h"
 
-#include "connect/signatures.h"
+#include "compose/signatures.h"
 
-namespace ornavel::connect {
+namespace ornavel::compose {
 namespace {
 
 using namespace settings;
@@ -11,29 +11,28 @@ Text with_html_breaks(TextView text) {
     return replace_all(replace_all(replace_all(text, line_end, u"<br>"), u"\n", u"<br>"), u"\r", u"<br>");
 }
 
-Text disclaimer(const Session& session) {
-    const Files& files = session.platform.files;
-    const Text path = session.shared.application_path + u"\\DisclaimerText.txt";
+Text disclaimer(const Services& services) {
+    const Files& files = services.files;
+    const Text path = services.start_up.application_path + u"\\DisclaimerText.txt";
     return files.file_exists(path) ? read_lines(files, path, u"<br>") : Text();
 }
 
-Text closing(const Session& session) {
-    const Store& store = session.platform.settings;
+Text closing(const Services& services) {
+    const Store& store = services.settings;
     Text result;
     if (trim(read(store, user::Signature)) != u"none") result += u"<p>" + text_signature(store);
-    const Text small_print = disclaimer(session);
+    const Text small_print = disclaimer(services);
     return small_print.empty() ? result : result + u"<P>" + small_print;
 }
 
 } // namespace
 
-Text plain_text_as_html(const Session& session, const Text& body) {
-    const Text& reply_marker = session.shared.reply_marker;
+Text plain_text_as_html(const Services& services, const Text& body, TextView reply_marker) {
     const auto marker = reply_marker.empty() ? Text::npos : body.find(reply_marker);
     const auto own_length = std::min(marker, body.size());
     return u"<span> <font face='Courier new' size=2>" +
-           with_html_breaks(TextView(body).substr(0, own_length)) + closing(session) +
+           with_html_breaks(TextView(body).substr(0, own_length)) + closing(services) +
            with_html_breaks(TextView(body).substr(own_length)) + u"</font></span>";
 }
 
-} // namespace ornavel::connect
+} // namespace ornavel::compose

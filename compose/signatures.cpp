@@ -1,6 +1,6 @@
-#include "connect/signatures.h"
+#include "compose/signatures.h"
 
-namespace ornavel::connect {
+namespace ornavel::compose {
 namespace {
 
 using namespace settings;
@@ -38,8 +38,8 @@ Text columns(const Text& left, const Text& right) { return piece(left) + u"&nbsp
 
 } // namespace
 
-void add_internal_signature(const Store& store, const host::MailItem& item, TextView reply_marker) {
-    const int editor = item.inspector().editor_type();
+void add_internal_signature(const Store& store, const host::MailItem& item, int editor,
+                            TextView reply_marker) {
     if (editor == host::plain_text_editor || editor == host::rich_text_editor)
         item.set_body(with_signature(item.body(), short_text_signature(store), reply_marker, line_end));
     else
@@ -58,4 +58,4 @@ Text text_signature(const Store& store) {
            piece(value(admin::SigAddress4)) + u"<br>";
 }
 
-} // namespace ornavel::connect
+} // namespace ornavel::compose
