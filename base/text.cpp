@@ -1,7 +1,7 @@
 #include "base/text.h"
 
-#include "base/errors.h"
 #include "base/find.h"
+#include "base/splice.h"
 
 #include <algorithm>
 #include <limits>
@@ -15,14 +15,6 @@ constexpr char16_t lower(char16_t unit) {
 
 constexpr char16_t upper(char16_t unit) {
     return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 32) : unit;
-}
-
-std::size_t count_of(TextView text, TextView search) {
-    std::size_t count = 0;
-    for (auto at = find_text(text, search); at != TextView::npos;
-         at = find_text(text, search, at + search.size()))
-        ++count;
-    return count;
 }
 
 } // namespace
@@ -62,23 +54,9 @@ bool contains(TextView text, TextView part) {
     return part.empty() || find_text(text, part) != TextView::npos;
 }
 
-Text replace_all(TextView text, TextView search, TextView replacement) {
-    const auto count = search.empty() ? 0 : count_of(text, search);
-    if (count == 0) return Text(text);
-
-    const auto kept = text.size() - count * search.size();
-    if (kept > largest_text || (!replacement.empty() && count > (largest_text - kept) / replacement.size()))
-        throw TextTooLarge();
-
-    Text result;
-    result.reserve(kept + count * replacement.size());
-    std::size_t done = 0;
-    for (auto at = find_text(text, search); at != TextView::npos; at = find_text(text, search, done)) {
-        result.append(text.substr(done, at - done)).append(replacement);
-        done = at + search.size();
-    }
-    result.append(text.substr(done));
-    return result;
+Text replace_all(Text text, TextView search, TextView replacement) {
+    substitute(text, search, replacement);
+    return text;
 }
 
 std::vector<Text> split(TextView text, TextView separator) {

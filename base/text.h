@@ -34,7 +34,7 @@ bool contains(TextView text, TextView part);
 
 /// Replaces every occurrence, case-sensitively, in one pass from the first unit. An empty search text leaves
 /// the text as it is. Throws Failure when the result would exceed largest_text.
-Text replace_all(TextView text, TextView search, TextView replacement);
+Text replace_all(Text text, TextView search, TextView replacement);
 
 /// The pieces between the separators; a text without one is a single piece. The separator is not empty.
 std::vector<Text> split(TextView text, TextView separator);

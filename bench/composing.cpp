@@ -25,12 +25,13 @@ ReplyComposer::ReplyComposer() : item_(std::make_shared<RecordingObject>(journal
 
 void ReplyComposer::compose(Text body) {
     const host::MailItem item(item_);
-    result_ = CreateHTMLBody({store_, files_, clock_, boxes_, objects_, reports_, application_, start_up_},
-                             {.item = item,
-                              .source = std::move(body),
-                              .template_path = u"C:\\temp\\letter.htm",
-                              .reply = {.found = true, .marker = u"-----Original"}})
-                  .html;
+    result_ =
+        compose::CreateHTMLBody({store_, files_, clock_, boxes_, objects_, reports_, application_, start_up_},
+                                {.item = item,
+                                 .source = std::move(body),
+                                 .template_path = u"C:\\temp\\letter.htm",
+                                 .reply = {.found = true, .marker = u"-----Original"}})
+            .html;
     if (!reports_.entries.empty()) std::abort();
 }
 

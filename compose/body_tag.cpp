@@ -5,13 +5,18 @@
 
 namespace ornavel::compose {
 
-void bare_body_tag(Text& text) {
+void put_back(Text& text, const Cut& cut) { text.replace(cut.at, cut.size, cut.taken); }
+
+std::optional<Cut> bare_body_tag(Text& text) {
     const auto begin = find_in_either_case(text, u"<body");
-    if (begin == Text::npos) return;
+    if (begin == Text::npos) return {};
     const auto end = text.find(u'>', begin);
     // A bare tag that opens the text is left in its own case: deliberate.
-    if (end == Text::npos || end + 1 == 6) return;
-    text.replace(begin, end + 1 - begin, u"<BODY>");
+    if (end == Text::npos || end + 1 == 6) return {};
+    constexpr TextView bare = u"<BODY>";
+    Cut cut{begin, bare.size(), text.substr(begin, end + 1 - begin)};
+    text.replace(begin, cut.taken.size(), bare);
+    return cut;
 }
 
 } // namespace ornavel::compose

@@ -1,3 +1,4 @@
+#include "base/splice.h"
 #include "compose/composition.h"
 #include "compose/dates.h"
 #include "compose/filters.h"
@@ -47,17 +48,20 @@ void stamp_date(Composition& c) {
 
 void wipe_out_HTML(Composition& c) {
     if (!c.is_on(admin::WipeoutHTML)) return;
-    Text text = c.message;
-    bare_body_tag(text);
-    c.style_block_found = empty_style_block(text);
-    c.message = c.style_block_found ? without_images(text) : std::move(text);
+    const auto body = bare_body_tag(c.message);
+    const auto style = empty_style_block(c.message);
+    if (!style) return;
+    try {
+        c.message = without_images(c.message);
+    } catch (...) {
+        put_back(c.message, *style);
+        if (body) put_back(c.message, *body);
+        throw;
+    }
 }
 
-void break_fonts(Composition& c) {
-    if (!c.is_on(admin::WipeOutFontControl)) return;
-    Text text = replace_all(c.message, u"face=", u"xface=");
-    substitute(text, u"size=", u"xsize=");
-    c.message = std::move(text);
+void break_font_control(Composition& c) {
+    if (c.is_on(admin::WipeOutFontControl)) break_fonts(c.message);
 }
 
 void remove_divisions(Composition& c) {

@@ -23,7 +23,7 @@ constexpr Step steps[] = {
     {write_before, file_compare},
     {stamp_date, any_step},
     {wipe_out_HTML, {u"CreateHTMLBody- error Wipeout HTML", u"WipeoutHTML_Err"}},
-    {break_fonts, font_control},
+    {break_font_control, font_control},
     {remove_divisions, {u"CreateHTMLBody- error DivControl", u"DivControl_Err"}},
     {end_divisions, {u"CreateHTMLBody- error EndDIvControl", u"EndDivControl_Err"}},
     {break_block_quotes, font_control},
@@ -65,10 +65,6 @@ Text path_or_first_of(const Composition& c, const Text& path, const settings::Ke
     if (c.services.files.file_exists(path)) return path;
     const auto first = first_html_file(c.services.files, c.read(folder));
     return first ? c.read(folder) + u"\\" + *first : path;
-}
-
-void substitute(Text& text, TextView search, TextView replacement) {
-    if (!search.empty() && contains(text, search)) text = replace_all(text, search, replacement);
 }
 
 Composed CreateHTMLBody(const Services& services, Request request) noexcept {

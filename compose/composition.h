@@ -22,15 +22,16 @@ struct Composition {
     const Services& services;
     const Request& request;
     AskingErrors& errors;
-    Text message;       ///< what the user wrote
+    Text message;       ///< what the user wrote, until it is poured into the template
     Text template_path; ///< of the template that is there
 
-    bool style_block_found = false;
     bool is_html = true; ///< the item has an HTML body
     bool is_word_mail = false;
-    Text html_with_marker{}; ///< the item's HTML body, kept where only it may hold the reply marker
-    Text new_text{};         ///< on a reply: what the user wrote
-    Text quoted{};           ///< on a reply: the earlier message
+    Text html_with_marker{};  ///< the item's HTML body, kept where only it may hold the reply marker
+    Text beginning{};         ///< of the message: what stands for the company of a message without a contact
+    Text new_text{};          ///< on a reply: what the user wrote
+    Text quoted{};            ///< on a reply: the earlier message
+    bool small_quote = false; ///< the earlier message stands in small letters
     Text signature_name{};
     Text template_text{};
     std::size_t marker = 0; ///< where the message goes in the template
@@ -46,21 +47,19 @@ struct Composition {
     /// What goes into the template: the user's text, on a reply without the earlier message.
     Text& body() { return is_reply() ? new_text : message; }
     bool takes_message() const { return marker != Text::npos; }
+    void keep_beginning() { beginning = message.substr(0, 50); }
 };
 
 /// The path itself, or the first HTML file of the folder when there is no such file; an empty folder leaves
 /// the path.
 Text path_or_first_of(const Composition& c, const Text& path, const settings::Key& folder);
 
-/// Replaces every occurrence; the text is copied only when there is one. Throws TextTooLarge.
-void substitute(Text& text, TextView search, TextView replacement);
-
 // clean_up_steps.cpp
 void find_template(Composition& c);
 void write_before(Composition& c);
 void stamp_date(Composition& c);
 void wipe_out_HTML(Composition& c);
-void break_fonts(Composition& c);
+void break_font_control(Composition& c);
 void remove_divisions(Composition& c);
 void end_divisions(Composition& c);
 void break_block_quotes(Composition& c);

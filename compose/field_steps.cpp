@@ -1,3 +1,4 @@
+#include "base/splice.h"
 #include "compose/composition.h"
 #include "compose/dates.h"
 #include "compose/merge.h"
@@ -32,11 +33,7 @@ void note_in(const Composition& c, const host::Contact& contact) {
 ContactValues contact_values(const Composition& c) {
     const host::Links links = c.request.item.links();
     if (links.count() <= 0)
-        return {c.request.item.subject(),
-                c.message.substr(0, 50),
-                u"Mail not created from a contact item",
-                {},
-                {}};
+        return {c.request.item.subject(), c.beginning, u"Mail not created from a contact item", {}, {}};
     const host::Contact contact = links.contact(1);
     const host::Folder folder = contact.parent();
     ContactValues values{contact.full_name(), contact.company_name(), folder.name(), contact.entry_id(),
@@ -63,9 +60,7 @@ void fill_contact_fields(Composition& c) {
         {u"[#ContactFolder#]", values.folder},      {u"[#ContactID#]", values.id},
         {u"[#ContactFolderID#]", values.folder_id}, {u"[#SigEmail#]", address},
     };
-    Text text = c.result;
-    if (Passes(passes).apply(text) < std::size(passes)) throw TextTooLarge();
-    c.result = std::move(text);
+    if (!Passes(passes).apply_all(c.result)) throw TextTooLarge();
 }
 
 void log_usage(Composition& c) {

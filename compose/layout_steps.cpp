@@ -26,13 +26,12 @@ void append_signature(Composition& c) {
     const Text path = c.read(admin::SignaturesPath) + u"\\" + trim(c.signature_name);
     const Text signature =
         read_lines(c.services.files, path_or_first_of(c, path, admin::SignaturesPath), line_end);
-    Text& text = c.body();
     const bool in_table = c.is_reply() && c.is_on(admin::WipeoutSignatureTable);
-    text.append(u"<P>").append(signature);
-    if (!in_table) return;
-    // Two blanks after "TABLE" are deliberate.
-    text.insert(0, u"<TABLE  width='100%' cellspacing='0' cellpadding='0' border='0'>");
-    text.append(u"</TABLE>");
+    Text& text = c.body();
+    text.reserve(with_room(text.size() + signature.size() + c.quoted.size()));
+    // Its two blanks stay: rules that administrators wrote for quoted mail name this opening as it stands.
+    if (in_table) text.insert(0, u"<TABLE  width='100%' cellspacing='0' cellpadding='0' border='0'>");
+    text.append(u"<P>").append(signature).append(in_table ? u"</TABLE>" : u"");
 }
 
 void read_template(Composition& c) {
@@ -65,13 +64,14 @@ void find_marker(Composition& c) {
 }
 
 void insert_message(Composition& c) {
+    if (!c.is_reply()) c.keep_beginning();
     if (!c.takes_message()) return;
-    const Text& text = c.body();
+    // The message's own memory becomes the result's.
+    Text& text = c.body();
     const TextView whole = c.template_text;
-    c.result.reserve(with_room(whole.size() + text.size() + c.quoted.size()));
-    c.result.append(whole.substr(0, c.marker)).append(text);
-    c.result.append(whole.substr(c.marker + insertion_marker.size()));
-    if (c.is_reply()) Text().swap(c.new_text);
+    text.reserve(with_room(whole.size() + text.size() + c.quoted.size()));
+    text.insert(0, whole.substr(0, c.marker)).append(whole.substr(c.marker + insertion_marker.size()));
+    c.result = std::move(text);
 }
 
 void break_reply_tags(Composition& c) {
@@ -82,20 +82,18 @@ void break_reply_tags(Composition& c) {
     const Text group = c.read(admin::WipeoutHTMLTagsGroup);
     const auto tags = group.empty() || contains(group, u"NONE") ? std::vector<Text>() : split(group, u",");
     for (const Text& tag : tags) passes.push_back({tag, broken.emplace_back(u"x" + tag)});
-    Text text = c.quoted;
-    if (Passes(passes).apply(text) < passes.size()) throw TextTooLarge();
-    c.quoted = std::move(text);
+    if (!Passes(passes).apply_all(c.quoted)) throw TextTooLarge();
 }
 
 void shrink_reply_font(Composition& c) {
-    if (!c.is_reply() || !c.is_on(admin::WipeoutReplyFontSmall)) return;
-    c.quoted.insert(0, u"<span font size=1>");
-    c.quoted.append(u"</span>");
+    c.small_quote = c.is_reply() && c.is_on(admin::WipeoutReplyFontSmall);
 }
 
 void insert_reply(Composition& c) {
     if (!c.is_reply() || !c.takes_message()) return;
-    c.result.append(u"<p>").append(c.read(admin::WipeoutReplySeparator)).append(c.quoted);
+    c.result.append(u"<p>").append(c.read(admin::WipeoutReplySeparator));
+    c.result.append(c.small_quote ? u"<span font size=1>" : u"").append(c.quoted);
+    c.result.append(c.small_quote ? u"</span>" : u"");
     Text().swap(c.quoted);
 }
 

@@ -149,6 +149,14 @@ std::size_t Passes::apply_in_order(Text& text) const {
     return make(text, spare, trace);
 }
 
+bool Passes::apply_all(Text& text) const {
+    if (OneScan(*this).apply(text)) return true;
+    Text copy = text;
+    if (apply_in_order(copy) < rows_.size()) return false;
+    text = std::move(copy);
+    return true;
+}
+
 std::size_t Passes::apply(Text& text) const {
     if (OneScan(*this).apply(text)) return rows_.size();
     return apply_in_order(text);

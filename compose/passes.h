@@ -27,6 +27,9 @@ public:
     /// the text is as it stood before that one.
     std::size_t apply(Text& text) const;
 
+    /// All of them, or none where one would let the text grow too far. Gives back whether they were made.
+    bool apply_all(Text& text) const;
+
     /// The same by walking the whole text once for each pass.
     std::size_t apply_in_order(Text& text) const;
 

@@ -1,5 +1,6 @@
 #include "compose/plain_text.h"
 
+#include "base/splice.h"
 #include "compose/signatures.h"
 
 namespace ornavel::compose {
@@ -7,8 +8,11 @@ namespace {
 
 using namespace settings;
 
-Text with_html_breaks(TextView text) {
-    return replace_all(replace_all(replace_all(text, line_end, u"<br>"), u"\n", u"<br>"), u"\r", u"<br>");
+Text with_html_breaks(TextView plain) {
+    Text text(plain);
+    for (const TextView line_break : {line_end, TextView(u"\n"), TextView(u"\r")})
+        substitute(text, line_break, u"<br>");
+    return text;
 }
 
 Text disclaimer(const Services& services) {

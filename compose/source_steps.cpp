@@ -2,8 +2,6 @@
 #include "compose/composition.h"
 #include "compose/filters.h"
 
-#include <functional>
-
 // Where the text comes from: the item's HTML, Word's document, or plain text; and on a reply, where it ends.
 
 namespace ornavel::compose {
@@ -18,21 +16,23 @@ std::optional<int> format_for(TextView version) {
 
 bool is_plain(const Composition& c) { return !c.is_html && !c.is_word_mail; }
 
-void split_at(Composition& c, TextView text, std::size_t marker) {
+/// The text is the message or another one; the message's own memory serves the new text.
+void split_at(Composition& c, Text& text, std::size_t marker) {
     const std::int64_t position = static_cast<std::int64_t>(marker) + 1;
     const std::int64_t kept = position - c.request.reply.search_offset;
     const std::int64_t quoted_from = position + c.request.reply.insert_offset - 1;
     if (kept < 0) throw Failure(u"Invalid procedure call or argument");
-    c.new_text = text.substr(0, static_cast<std::size_t>(kept));
     if (quoted_from < static_cast<std::int64_t>(text.size()))
         c.quoted = text.substr(static_cast<std::size_t>(quoted_from));
+    text.resize(static_cast<std::size_t>(kept));
+    c.new_text = std::move(text);
 }
 
 void cut_at_marker(Composition& c) {
-    for (const Text& text : {std::cref(c.message), std::cref(c.html_with_marker)})
-        if (const auto at = find_text(text, c.request.reply.marker); at != Text::npos)
-            return split_at(c, text, at);
-    c.new_text = c.message;
+    for (Text* text : {&c.message, &c.html_with_marker})
+        if (const auto at = find_text(*text, c.request.reply.marker); at != Text::npos)
+            return split_at(c, *text, at);
+    c.new_text = std::move(c.message);
 }
 
 } // namespace
@@ -79,9 +79,12 @@ void cut_reply(Composition& c) {
                        to_text(static_cast<long long>(c.message.size())) +
                        (c.is_html ? u" - CreateHTMLBody- error Reply state parsing - myMessageReply_err"
                                   : u" - myMessageReplyFormatFalse_err");
-    if (trap(c.errors, {label, u""}, [&] { cut_at_marker(c); })) return;
-    c.new_text = c.message;
-    c.quoted.clear();
+    c.keep_beginning();
+    if (!trap(c.errors, {label, u""}, [&] { cut_at_marker(c); })) {
+        c.new_text = std::move(c.message);
+        c.quoted.clear();
+    }
+    Text().swap(c.message);
 }
 
 } // namespace ornavel::compose

@@ -39,7 +39,7 @@ void trace(Send& send, TextView text, TextView detail = {});
 
 // Modes and stamps.
 Verdict entry_mode(Send& send);
-Verdict already_tagged(Send& send);
+Verdict already_stamped(Send& send);
 Verdict wrap_item(Send& send);
 Verdict message_class(Send& send);
 Verdict system_check_switch(Send& send);

@@ -1,5 +1,6 @@
 #include "connect/gates.h"
 #include "connect/toolbar.h"
+#include "settings/modes.h"
 
 namespace ornavel::connect {
 namespace {
@@ -10,7 +11,7 @@ using namespace settings;
 Verdict refuse_without_default(Send& send, TextView prompt_mode) {
     send.session.prompt.ask(prompt_mode);
     send.cancel = true;
-    set_mode(send.session, u"on");
+    set_mode(send.session, modes::on);
     return Verdict::leave;
 }
 
@@ -24,7 +25,7 @@ void attach_selected_vcard(Send& send) {
 } // namespace
 
 Verdict non_auto_branch(Send& send) {
-    if (read(send.settings(), user::SettingButtonBar, u"on") == u"auto") return Verdict::off;
+    if (read(send.settings(), user::SettingButtonBar, modes::on) == modes::automatic) return Verdict::off;
     record_gate(send, u"Auto process end check OK");
     // The item is the current one already, so a send-options form would find it.
     record_gate(send, u"Ornavel Dialog check OK");
@@ -37,13 +38,15 @@ Verdict non_auto_branch(Send& send) {
 
 Verdict default_template(Send& send) {
     const Text name = read(send.settings(), user::Template);
-    return contains(name, u".htm") ? Verdict::next : refuse_without_default(send, u"Auto-no Template");
+    return contains(name, u".htm")
+               ? Verdict::next
+               : refuse_without_default(send, diagnostics::prompt_modes::auto_no_template);
 }
 
 Verdict default_signature(Send& send) {
     const Text name = read(send.settings(), user::Signature);
     if (contains(name, u".htm") || contains(name, u"none")) return Verdict::next;
-    return refuse_without_default(send, u"Auto-no signature");
+    return refuse_without_default(send, diagnostics::prompt_modes::auto_no_signature);
 }
 
 } // namespace ornavel::connect

@@ -1,6 +1,7 @@
 #include "connect/gates.h"
 
 #include "compose/plain_text.h"
+#include "host/stamps.h"
 
 namespace ornavel::connect {
 namespace {
@@ -61,8 +62,8 @@ Verdict compose_body(Send& send) {
 Verdict stamp(Send& send) {
     send.cancel = !send.session.processed;
     if (!send.session.processed) return Verdict::leave;
-    send.item().set_billing_information(u"Ornavel from Brevant");
-    send.item().user_properties().add(u"BrevantOrnavel").set_value(u"Version 3.9.9");
+    send.item().set_billing_information(host::stamps::dressed);
+    send.item().user_properties().add(host::stamps::property_name).set_value(host::stamps::property_value);
     tag_for_Exclaimer(send);
     send.item().save();
     return Verdict::next;

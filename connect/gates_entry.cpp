@@ -1,6 +1,8 @@
 #include "connect/gates.h"
 
 #include "compose/insertions.h"
+#include "host/stamps.h"
+#include "settings/modes.h"
 
 namespace ornavel::connect {
 
@@ -28,10 +30,10 @@ void trace(Send& send, TextView text, TextView detail) {
 
 Verdict entry_mode(Send& send) {
     const Text mode = read(send.settings(), user::SettingButtonBar, u"");
-    return mode == u"auto" ? Verdict::next : tag_and_leave(send);
+    return mode == modes::automatic ? Verdict::next : tag_and_leave(send);
 }
 
-Verdict already_tagged(Send& send) {
+Verdict already_stamped(Send& send) {
     return send.item().user_properties().count() > 0 ? tag_and_leave(send) : Verdict::next;
 }
 
@@ -75,15 +77,16 @@ Verdict send_as_is(Send& send) {
 }
 
 Verdict mode_off(Send& send) {
-    return read(send.settings(), user::SettingButtonBar, u"on") == u"off" ? Verdict::leave : Verdict::next;
+    return read(send.settings(), user::SettingButtonBar, modes::on) == modes::off ? Verdict::leave
+                                                                                  : Verdict::next;
 }
 
 Verdict preview_stamp(Send& send) {
-    return send.item().billing_information() == u"Preview" ? Verdict::leave : Verdict::next;
+    return send.item().billing_information() == host::stamps::preview ? Verdict::leave : Verdict::next;
 }
 
 Verdict preview_send_stamp(Send& send) {
-    if (send.item().billing_information() != u"Preview Send") return Verdict::next;
+    if (send.item().billing_information() != host::stamps::preview_send) return Verdict::next;
     send.cancel = false;
     return Verdict::leave;
 }

@@ -1,5 +1,7 @@
 #include "connect/gates.h"
 
+#include "host/stamps.h"
+
 namespace ornavel::connect {
 namespace {
 
@@ -10,7 +12,7 @@ bool lies_in(const Send& send, TextView folder) { return upper_case(send.item().
 /// The system check is read at the line: these gates stand in front of the one that reads it for the send.
 Verdict resent(Send& send, TextView trace_line) {
     record(send.session, trace_line, u"", u"");
-    const bool dressed_before = send.item().billing_information() == u"Ornavel from Brevant";
+    const bool dressed_before = send.item().billing_information() == host::stamps::dressed;
     return dressed_before ? tag_and_leave(send) : Verdict::next;
 }
 

@@ -1,6 +1,7 @@
 #include "connect/gates.h"
 
 #include "host/registry.h"
+#include "host/stamps.h"
 
 #include <algorithm>
 
@@ -8,8 +9,8 @@ namespace ornavel::connect {
 namespace {
 
 using namespace settings;
+using namespace forms::text_ids;
 
-constexpr TextView refused_mark = u"DoNotSend";
 constexpr TextView profiles =
     u"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows Messaging Subsystem\\Profiles";
 
@@ -33,10 +34,14 @@ void inform(Send& send, const Text& text) { send.session.platform.windows.inform
 /// Each statement stands alone: whatever fails, the rest is done and the send stays cancelled.
 void refuse(Send& send, const host::RegistryProvider& registry, const StationeryPlace& place,
             const Text& found) {
-    attempt([&] { inform(send, found + Text(line_end) + lines(send, {5083, 5084, 5085, 5086})); });
+    attempt([&] {
+        inform(send, found + Text(line_end) +
+                         lines(send, {stationery_in_use, stationery_cancel, stationery_removed,
+                                      stationery_cannot_be_sent}));
+    });
     send.session.processed = false;
     send.cancel = true;
-    attempt([&] { send.item().set_billing_information(refused_mark); });
+    attempt([&] { send.item().set_billing_information(host::stamps::refused); });
     attempt([&] { send.item().save(); });
     attempt([&] { registry.set_user_string(place.key, place.value_name, u""); });
 }
@@ -67,7 +72,7 @@ bool refused_for_stationery(Send& send) {
 
 bool refused_before(const Send& send) {
     bool marked = false;
-    attempt([&] { marked = send.item().billing_information() == refused_mark; });
+    attempt([&] { marked = send.item().billing_information() == host::stamps::refused; });
     return marked;
 }
 
@@ -78,7 +83,7 @@ Verdict personal_stationery(Send& send) {
     if (refused_for_stationery(send)) return Verdict::leave;
     if (!refused_before(send)) return Verdict::next;
     send.cancel = true;
-    attempt([&] { inform(send, lines(send, {5083, 5084, 5085})); });
+    attempt([&] { inform(send, lines(send, {stationery_in_use, stationery_cancel, stationery_removed})); });
     return Verdict::leave;
 }
 

@@ -18,8 +18,8 @@ struct Gate {
 };
 
 constexpr Gate gates[] = {
-    {u"entry mode", entry_mode, {}}, // only "auto" passes; everything else is tagged and leaves
-    {u"already tagged", already_tagged, {}},
+    {u"entry mode", entry_mode, {}},          // only "auto" passes; everything else is tagged and leaves
+    {u"already tagged", already_stamped, {}}, // by an earlier send, or with another user property
     {u"wrapping", wrap_item, {}}, // from here on the current item is the wrapper, where there is one
     {u"message class", message_class, {}},
     {u"resend from the Outbox", resend_from_outbox, {}},

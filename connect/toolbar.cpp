@@ -3,6 +3,7 @@
 #include "connect/environment.h"
 #include "connect/session.h"
 #include "connect/setup_program.h"
+#include "settings/modes.h"
 
 namespace ornavel::connect {
 namespace {
@@ -10,16 +11,18 @@ namespace {
 using namespace settings;
 
 constexpr int setup_face = 3271;
-// The mode and the setting that offers it share their name.
-constexpr TextView signature_mode = admin::eSignature.name;
 
-Text off_caption(const Session& session) { return forms::load_text(session.platform.strings, 5071); }
+Text off_caption(const Session& session) {
+    return forms::load_text(session.platform.strings, forms::text_ids::ornavel_off);
+}
 // The mode "auto" is shown as "Ornavel On"; so is "on", which only a send writes.
-Text on_caption(const Session& session) { return forms::load_text(session.platform.strings, 5072); }
+Text on_caption(const Session& session) {
+    return forms::load_text(session.platform.strings, forms::text_ids::ornavel_on);
+}
 
 Text caption_of_mode(const Session& session, TextView mode) {
-    if (mode == u"off") return off_caption(session);
-    return mode == signature_mode ? Text(signature_mode) : on_caption(session);
+    if (mode == modes::off) return off_caption(session);
+    return mode == modes::signature ? Text(modes::signature) : on_caption(session);
 }
 
 /// The button's caption, not the setting, says where the cycle stands.
@@ -27,14 +30,14 @@ void myButtonSetting_Click(Session& session) noexcept {
     attempt([&] {
         const Text caption = session.host.myButtonSetting.caption();
         if (caption == on_caption(session)) {
-            set_mode(session, u"off");
+            set_mode(session, modes::off);
         } else if (caption == off_caption(session) && is_on(session.platform.settings, admin::eSignature)) {
-            set_mode(session, signature_mode);
+            set_mode(session, modes::signature);
             write_signature_files(session);
         } else if (caption == off_caption(session)) {
-            set_mode(session, u"auto");
-        } else if (caption == signature_mode) {
-            set_mode(session, u"auto");
+            set_mode(session, modes::automatic);
+        } else if (caption == modes::signature) {
+            set_mode(session, modes::automatic);
             reset_host_signatures(session);
         }
     });
@@ -50,7 +53,8 @@ host::CommandBarButton button_with_tag(const host::CommandBar& bar, TextView tag
 void add_setup_button(Session& session) {
     HostReferences& host = session.host;
     host.MyButtonConfigWiz = button_with_tag(host.oStandardBar, u"ButtonWiz");
-    host.MyButtonConfigWiz.set_caption(forms::load_text(session.platform.strings, 5101));
+    host.MyButtonConfigWiz.set_caption(
+        forms::load_text(session.platform.strings, forms::text_ids::ornavel_setup));
     host.MyButtonConfigWiz.show_face_and_caption(setup_face);
     host.setup_button_events = host.MyButtonConfigWiz.on_click([&session] { start_setup_program(session); });
 }

@@ -1,6 +1,7 @@
 #include "diagnostics/error_reporter.h"
 
 #include "base/flag.h"
+#include "host/stamps.h"
 
 namespace ornavel::diagnostics {
 namespace {
@@ -33,7 +34,7 @@ void ErrorReporter::Write_to_error_file(TextView description, TextView sub_funct
     bool agreed = false;
     step([&] {
         const Flag asking(under_way_);
-        agreed = section == user_request || services_.prompt.ask(u"Support email request");
+        agreed = section == user_request || services_.prompt.ask(prompt_modes::support_email_request);
     });
     if (agreed) mail_report(*report);
 }
@@ -81,8 +82,7 @@ void ErrorReporter::send_mail(const ErrorReport& report) {
     const host::MailItem item = services_.application.create_mail();
     const auto mail = host::SafeMailItem::around(services_.objects, item);
     mail.set_subject(report.subject);
-    // The send pipeline lets a mail with this mark through untouched.
-    mail.set_billing_information(u"Preview Send");
+    mail.set_billing_information(host::stamps::preview_send);
     mail.set_delete_after_submit(true);
     mail.set_body(report.text + editor_lines(item));
     mail.recipients().add(read(services_.settings, admin::EmailAddressNotify));

@@ -7,6 +7,9 @@
 namespace ornavel::forms {
 namespace {
 
+namespace prompt_modes = diagnostics::prompt_modes;
+using namespace text_ids;
+
 constexpr TextView lblMessage = u"lblMessage";
 constexpr TextView cmdYes = u"cmdYes";
 constexpr TextView cmdNo = u"cmdNo";
@@ -21,29 +24,32 @@ struct Wording {
     TextView fixed{};
 };
 
-enum class Choice { ok, yes_or_no };
+enum class Choice { agree, yes_or_no };
 
 struct Mode {
     TextView name;
     Wording message;
     Wording title;
-    Choice choice = Choice::ok;
+    Choice choice = Choice::agree;
     Wording yes{};
     Wording no{};
 };
 
 constexpr Mode modes[] = {
     // The table has a text much like this title, and 5015 much like this answer; neither is meant here.
-    {u"Reply", 5016, u"Ornavel Reply", Choice::yes_or_no, 5013, u"No. Send 'as is'."},
-    {u"Auto-no Template", 5018, u"Ornavel Template warning"},
-    {u"Auto-no signature", 5018, 5019}, // tells of the template as well, deliberately
-    {u"Security warning", 5020, 5023, Choice::yes_or_no, 5021, 5022},
-    {u"Bad Template", 5024, 5025},
-    {u"Choose Template", 5026, 5027},
-    {u"Choose signature", 5028, 5029},
-    {u"Format Warning", 5030, 5031},
-    {u"Support email request", 5032, 5033, Choice::yes_or_no, u"Yes. Notify Brevant support.",
-     u"No. Continue."},
+    {prompt_modes::reply, reply_question, u"Ornavel Reply", Choice::yes_or_no, use_a_template,
+     u"No. Send 'as is'."},
+    {prompt_modes::auto_no_template, no_default_template, u"Ornavel Template warning"},
+    {prompt_modes::auto_no_signature, no_default_template,
+     template_warning}, // tells of the template as well, deliberately
+    {prompt_modes::security_warning, script_question, security_warning, Choice::yes_or_no, send_with_script,
+     cancel_script},
+    {prompt_modes::bad_template, bad_template, template_failure},
+    {prompt_modes::choose_template, no_template_chosen, template_choice},
+    {prompt_modes::choose_signature, no_signature_chosen, signature_choice},
+    {prompt_modes::format_warning, format_warning, format_warning_title},
+    {prompt_modes::support_email_request, support_question, support_title, Choice::yes_or_no,
+     u"Yes. Notify Brevant support.", u"No. Continue."},
 };
 
 std::vector<Control> designed_controls() {
@@ -62,7 +68,7 @@ std::vector<Control> designed_controls() {
         {.kind = Kind::command_button,
          .name = Text(cmdOK),
          .place = {4590, 1200, 1215, 375},
-         .tag = u"5014",
+         .tag = to_text(ok),
          .is_default = true,
          .is_cancel = true},
     };

@@ -10,7 +10,7 @@ struct Row {
     TextView text;
 };
 
-#define TEXT_ROW(id, text) {id, u"" text},
+#define TEXT_ROW(id, name, text) {id, u"" text},
 constexpr Row rows[] = {
 #include "forms/string_table.inc"
 };

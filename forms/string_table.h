@@ -6,6 +6,15 @@
 
 namespace ornavel::forms {
 
+/// The numbers of the texts that users see.
+namespace text_ids {
+enum TextId : int {
+#define TEXT_ROW(id, name, text) name = id,
+#include "forms/string_table.inc"
+#undef TEXT_ROW
+};
+} // namespace text_ids
+
 /// The numbered texts that users see.
 class StringTable {
 public:

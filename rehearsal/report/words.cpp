@@ -1,6 +1,7 @@
 #include "rehearsal/report/words.h"
 
 #include "base/encoding.h"
+#include "host/stamps.h"
 #include "rehearsal/report/reasons.h"
 
 #include <algorithm>
@@ -64,8 +65,8 @@ Fate fate_of(const Story& story, const Send& send) {
     if (send.cancelled) return Fate::held_back;
     const Item& before = story.scenario.items.at(send.item);
     const Json& after = story.outcome.at("items").at(send.item);
-    const bool stamped = text_of(after, "BillingInformation") == "Ornavel from Brevant" &&
-                         before.billing_information != u"Ornavel from Brevant";
+    const bool stamped = text_of(after, "BillingInformation") == to_utf8(host::stamps::dressed) &&
+                         before.billing_information != host::stamps::dressed;
     if (stamped) return Fate::dressed;
     const bool same_subject = to_utf8(before.subject) == text_of(after, "Subject");
     return same_body(before, after) && same_subject ? Fate::untouched : Fate::changed;

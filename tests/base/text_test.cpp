@@ -36,7 +36,7 @@ TEST(Text, ReplacesEveryOccurrenceInOnePass) {
         {u"\xD800x", u"\xD800", u"y", u"yx"},
         {u"XX", u"X", u"XX", u"XXXX"},
     };
-    for (const auto& c : cases) EXPECT_EQ(replace_all(c.text, c.search, c.replacement), c.result);
+    for (const auto& c : cases) EXPECT_EQ(replace_all(Text(c.text), c.search, c.replacement), c.result);
 }
 
 TEST(Text, AReplacementThatGrowsWithoutBoundIsAFailure) {

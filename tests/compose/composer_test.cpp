@@ -377,5 +377,15 @@ TEST_F(Composer, AFilterThatGrowsTooFarEndsInItsOwnTrap) {
     expect_error(u"CreateHTMLBody- error FontControl", u"FontControl_Err");
 }
 
+TEST_F(Composer, ImagesThatGrowTooFarLeaveBodyTagAndStyleAsTheyWere) {
+    set(admin::WipeoutHTML, u"True");
+    Text images = u"<body a><style>b</style>";
+    for (int i = 0; i < 10; ++i) images += u"<img>";
+    images += Text(largest_text - images.size(), u' ');
+    const Text composed = compose(images);
+    EXPECT_TRUE(composed == u"[" + images + u"]\r\n"); // not printed when it differs
+    expect_error(u"CreateHTMLBody- error Wipeout HTML", u"WipeoutHTML_Err");
+}
+
 } // namespace
 } // namespace ornavel::compose
