@@ -56,12 +56,12 @@ public:
 
 private:
     Json collect(std::size_t i, int code) const {
-        const auto& [file, json, scenario] = scenarios_[i];
+        const Loaded& loaded = scenarios_[i];
         try {
-            return collect_outcome(code, out(i), scenario, file);
+            return collect_outcome(code, out(i), loaded.scenario, loaded.source);
         } catch (const Unusable& error) {
             const std::string reason = error.what(), copy = "Z:" + in(i);
-            throw Unusable(reason.starts_with(copy) ? file + reason.substr(copy.size()) : reason);
+            throw Unusable(reason.starts_with(copy) ? loaded.source + reason.substr(copy.size()) : reason);
         }
     }
 
