@@ -12,7 +12,7 @@ std::vector<GateVisit> gates_of(const std::vector<JournalEntry>& journal, std::s
     std::vector<GateVisit> gates;
     for (const auto& entry : journal)
         if (entry.act == act && entry.deed == Deed::gate)
-            gates.push_back({to_utf8(entry.what), entry.value == u"passed"});
+            gates.push_back({to_utf8(entry.what), entry.value != u"left"});
     return gates;
 }
 
