@@ -59,6 +59,11 @@ pid_t start_player() {
     return child;
 }
 
+/// With the scenario's name in front, unless the reason has it.
+[[noreturn]] void refuse(const std::string& source, const std::string& reason) {
+    throw Unusable(reason.starts_with(source + ":") ? reason : source + ": " + reason);
+}
+
 } // namespace
 
 ScratchFolder::ScratchFolder() {
@@ -90,7 +95,7 @@ int run_apart(const std::function<int()>& body) {
 Json collect_outcome(int code, const std::string& file, const Scenario& scenario, const std::string& source) {
     constexpr int unusable = 2;
     const bool left_something = fs::exists(file) && fs::file_size(file) > 0;
-    if (code == unusable) throw Unusable(left_something ? load_file(file) : source + ": can't be played");
+    if (code == unusable) refuse(source, left_something ? load_file(file) : "can't be played");
     if (left_something && code >= 0) return parse_json(load_file(file), source + " (outcome)");
     const std::string how =
         code < 0 ? "signal " + std::to_string(-code) : "exit code " + std::to_string(code);

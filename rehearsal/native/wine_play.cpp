@@ -65,11 +65,11 @@ public:
 private:
     Json collect(std::size_t i, int code) const {
         const Loaded& loaded = scenarios_[i];
+        const std::string copy = "Z:" + in(i);
         try {
-            return collect_outcome(code, out(i), loaded.scenario, loaded.source);
+            return collect_outcome(code, out(i), loaded.scenario, copy);
         } catch (const Unusable& error) {
-            const std::string reason = error.what(), copy = "Z:" + in(i);
-            throw Unusable(reason.starts_with(copy) ? loaded.source + reason.substr(copy.size()) : reason);
+            throw Unusable(loaded.source + std::string(error.what()).substr(copy.size()));
         }
     }
 

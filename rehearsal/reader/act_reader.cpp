@@ -152,13 +152,25 @@ void check_acts(const Scenario& scenario, const std::string& source) {
     }
 }
 
+/// Under Wine drive C is the rehearsal's own; any other belongs to this machine.
+void check_addin_folder(const Place& scenario) {
+    if (!scenario.json().contains("computer") || !scenario.json()["computer"].contains("addin folder"))
+        return;
+    const Place folder = scenario.member("computer").member("addin folder");
+    if (!same_name(folder.text().substr(0, 3), u"C:\\"))
+        folder.refuse("another drive than C works only with --binding native");
+}
+
 void check_native_only(const Place& scenario) {
-    const auto refuse = [](const Place& place) { place.refuse("native only"); };
+    const auto refuse = [](const Place& place) {
+        place.refuse("native only: works only with --binding native");
+    };
     const Json& json = scenario.json();
     if (json.contains("clock")) refuse(scenario.member("clock"));
     if (json.contains("computer"))
         for (const auto& [name, value] : json["computer"].items())
             if (name != "addin folder") refuse(scenario.member("computer").member(name));
+    check_addin_folder(scenario);
     if (json.contains("fail"))
         scenario.member("fail").each_element([&](const Place& entry) {
             if (!entry.json().contains("member")) refuse(entry);

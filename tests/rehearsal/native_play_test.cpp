@@ -40,6 +40,18 @@ TEST(Apart, TheReasonOfAnUnusableScenarioComesBack) {
     }
 }
 
+TEST(Apart, AReasonThatNamesNoScenarioIsGivenItsName) {
+    const ScratchFolder scratch;
+    const std::string file = scratch / "outcome.json";
+    std::ofstream(file) << "no window could be had";
+    try {
+        collect_outcome(2, file, {}, "a.json");
+        ADD_FAILURE() << "accepted";
+    } catch (const Unusable& error) {
+        EXPECT_STREQ(error.what(), "a.json: no window could be had");
+    }
+}
+
 TEST(Apart, AnInterruptionTakesTheScratchFolderAndTheProcessThatPlaysAlong) {
     const ScratchFolder notes;
     int ready[2];
