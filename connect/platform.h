@@ -27,6 +27,8 @@ struct Platform {
     const forms::StringTable& strings;
     const SystemInformation& machine;
     Text addin_folder; ///< the folder of Ornavel.dll, without a backslash at its end
+    /// The folder among the user's application data where folders may be made; empty where none is known.
+    Text user_folder = {};
     /// Keeps the add-in and its machine for as long as the result lives: the mail client may let go of them
     /// while a send waits for the user. Empty where they outlive every send anyway.
     std::function<std::shared_ptr<void>()> keep = {};
