@@ -54,6 +54,10 @@ struct Composition {
 /// the path.
 Text path_or_first_of(const Composition& c, const Text& path, const settings::Key& folder);
 
+/// The trap of a step that has no name of its own, and the places of two that stand inside steps.
+inline constexpr TrapName any_step{u"CreateHTMLBody", u"CreateHTM_Err"};
+inline constexpr TextView reply_cut = u"cut at the reply's marker", merge_group = u"a group of the merge";
+
 // clean_up_steps.cpp
 void find_template(Composition& c);
 void write_before(Composition& c);

@@ -68,10 +68,9 @@ std::size_t Merge::apply(Text& text) const {
 }
 
 void merge_signature_file(Text& text, const Store& settings, ErrorSink& errors) noexcept {
-    const TrapName name{u"merge_signature_file", u"Merge_Err"};
-    trap(errors, name, [&] {
+    trap(errors, signature_file_trap, [&] {
         for (auto failures = Merge::of_signature_file(settings).apply(text); failures > 0; --failures)
-            trap(errors, name, [] { throw TextTooLarge(); });
+            trap(errors, signature_file_trap, [] { throw TextTooLarge(); });
     });
 }
 

@@ -39,6 +39,8 @@ private:
     std::vector<std::size_t> group_ends_;
 };
 
+inline constexpr TrapName signature_file_trap{u"merge_signature_file", u"Merge_Err"};
+
 /// Merges one signature text. A failure is written to the error log.
 void merge_signature_file(Text& text, const settings::Store& settings, ErrorSink& errors) noexcept;
 

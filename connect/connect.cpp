@@ -8,6 +8,7 @@
 #include "connect/system_test.h"
 #include "connect/toolbar.h"
 #include "connect/tray.h"
+#include "connect/user_folder.h"
 
 namespace ornavel::connect {
 namespace {
@@ -40,6 +41,7 @@ Connect::~Connect() = default;
 void Connect::OnConnection(host::Application application, int mode) noexcept {
     Session& session = *session_;
     session.started = false;
+    make_user_folders(session); // before the first record goes into its log
     record(session, u"Fired", u"", u"On Connection");
     session.host.oHostApp = std::move(application);
     subscribe();

@@ -8,12 +8,11 @@ using namespace settings;
 /// The number that the first two characters of the host's version form; one that can't be read counts as 0.
 int host_major_version(Send& send) {
     int major = 0;
-    trap(send.session.errors,
-         {u"ol_ItemSend", u"Error establishing the Outlook Version, MyVersion_err in OL_itemsend"}, [&] {
-             const Text version = send.session.host.oHostApp.version();
-             if (version.find_first_of(u"0123456789") != 0) throw Failure(u"Type mismatch");
-             major = numeric_value(TextView(version).substr(0, 2));
-         });
+    trap(send.session.errors, version_trap, [&] {
+        const Text version = send.session.host.oHostApp.version();
+        if (version.find_first_of(u"0123456789") != 0) throw Failure(u"Type mismatch");
+        major = numeric_value(TextView(version).substr(0, 2));
+    });
     return major;
 }
 

@@ -34,7 +34,7 @@ struct Session {
           log(platform.settings, platform.files, platform.clock, platform.addin_folder),
           prompt(platform.windows, platform.strings),
           errors({platform.settings, log, prompt, platform.machine, platform.objects, host.oHostApp,
-                  platform.addin_folder}) {
+                  platform.addin_folder, platform.on_trap}) {
         start_up.application_path = platform.addin_folder;
     }
     Session(const Session&) = delete;

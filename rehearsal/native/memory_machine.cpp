@@ -5,6 +5,7 @@
 #include "forms/frmMessage.h"
 #include "rehearsal/form_record.h"
 #include "rehearsal/native/form_player.h"
+#include "rehearsal/native/watching.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -62,7 +63,8 @@ void MemoryMachine::change_settings(const SettingsTree& settings) {
 }
 
 std::optional<Text> MemoryMachine::prompt(TextView mode) {
-    forms::PromptDialog dialog(*this, forms::built_in_strings());
+    const WatchedStrings strings(journal_);
+    forms::PromptDialog dialog(*this, strings);
     attempt([&] { dialog.ask(mode); }); // like every caller in the add-in
     return dialog.values().answer;
 }

@@ -77,8 +77,8 @@ protected:
                            .strings = forms::built_in_strings(),
                            .machine = stage.machine.addin_machine(),
                            .addin_folder = u"C:\\app",
-                           .on_gate = [this](TextView gate, bool through) {
-                               if (through) passed.emplace_back(gate);
+                           .on_gate = [this](TextView gate, Verdict verdict) {
+                               if (verdict != Verdict::leave) passed.emplace_back(gate);
                            }}};
 };
 
