@@ -3,8 +3,9 @@
 namespace ornavel::settings {
 namespace {
 
-#define KEY(section, id, name, fallback) section::id,
+#define KEY(section, id, ...) section::id,
 #define TEXT_KEY KEY
+#define CHOICE_KEY KEY
 #define SWITCH_KEY KEY
 #define TICK_KEY KEY
 #define NUMBER_KEY KEY

@@ -16,15 +16,17 @@ inline constexpr TextView templates_section = u"Template Settings";
     namespace section {                                                                                      \
     inline constexpr type id{section##_section, u"" name, fallback};                                         \
     }
-#define TEXT_KEY(section, id, name, fallback) KEY_OF_TYPE(TextKey, section, id, name, u"" fallback)
-#define SWITCH_KEY(section, id, name, fallback) KEY_OF_TYPE(SwitchKey, section, id, name, fallback)
-#define TICK_KEY(section, id, name, fallback) KEY_OF_TYPE(TickKey, section, id, name, u"" fallback)
-#define NUMBER_KEY(section, id, name, fallback) KEY_OF_TYPE(NumberKey, section, id, name, u"" fallback)
-#define PATH_KEY(section, id, name, fallback) KEY_OF_TYPE(PathKey, section, id, name, u"" fallback)
+#define TEXT_KEY(section, id, name, fallback, ...) KEY_OF_TYPE(TextKey, section, id, name, u"" fallback)
+#define CHOICE_KEY(section, id, name, fallback, ...) KEY_OF_TYPE(TextKey, section, id, name, u"" fallback)
+#define SWITCH_KEY(section, id, name, fallback, ...) KEY_OF_TYPE(SwitchKey, section, id, name, fallback)
+#define TICK_KEY(section, id, name, fallback, ...) KEY_OF_TYPE(TickKey, section, id, name, u"" fallback)
+#define NUMBER_KEY(section, id, name, fallback, ...) KEY_OF_TYPE(NumberKey, section, id, name, u"" fallback)
+#define PATH_KEY(section, id, name, fallback, ...) KEY_OF_TYPE(PathKey, section, id, name, u"" fallback)
 inline constexpr TextView on = u"True";
 inline constexpr TextView off = u"False";
 #include "settings/catalogue.inc"
 #undef TEXT_KEY
+#undef CHOICE_KEY
 #undef SWITCH_KEY
 #undef TICK_KEY
 #undef NUMBER_KEY
