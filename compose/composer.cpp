@@ -68,7 +68,7 @@ void AskingErrors::take(TextView description, TrapName trap) noexcept {
     });
 }
 
-Text path_or_first_of(const Composition& c, const Text& path, const settings::Key& folder) {
+Text path_or_first_of(const Composition& c, const Text& path, const settings::PathKey& folder) {
     if (c.services.files.file_exists(path)) return path;
     const auto first = first_html_file(c.services.files, c.read(folder));
     return first ? c.read(folder) + u"\\" + *first : path;

@@ -78,6 +78,7 @@ void Connect::OnStartupComplete() noexcept {
 void Connect::start_up() noexcept {
     Session& session = *session_;
     session.started = true;
+    // No catalogue can know where the add-in lies.
     session.start_up.application_path =
         read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
     session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);

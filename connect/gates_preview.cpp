@@ -30,7 +30,7 @@ void show_attachments(const host::Attachments& attachments, Form& form) {
 }
 
 void place_window(const Store& store, Form& form) {
-    const auto twips = [&](const Key& key) { return numeric_value(read(store, key)); };
+    const auto twips = [&](const NumberKey& key) { return read_number(store, key); };
     form.properties.place = {twips(user::BrowserLeft), twips(user::BrowserTop), twips(user::BrowserWidth),
                              twips(user::BrowserHeight)};
     form.on_resize();

@@ -89,7 +89,7 @@ void add_buttons(Session& session) noexcept {
     if (!on_a_toolbar) return;
     const Store& store = session.platform.settings;
     if (is_on(store, admin::ShowConfigWizButton)) attempt([&] { add_setup_button(session); });
-    if (read(store, user::SuppressToolbar) == off) attempt([&] { add_mode_button(session); });
+    if (is_off(store, user::SuppressToolbar)) attempt([&] { add_mode_button(session); });
 }
 
 void remove_buttons(Session& session) noexcept {
