@@ -90,6 +90,7 @@ frmBrowser::frmBrowser(Needs needs, PreviewAnswers& answers, Text page, std::fun
       form_({.name = u"frmBrowser", .place = {2595, 990, 10170, 6000}, .caption = u"Ornavel Preview"},
             designed_controls()) {
     form_.sizable = true;
+    form_.topmost = true; // the message may be open in another program, Word
     form_.centred = false;
     form_.on_load = [this] { Form_Load(); };
     form_.on_resize = [this] { Form_Resize(); };

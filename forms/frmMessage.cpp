@@ -98,6 +98,7 @@ frmMessage::frmMessage(PromptValues& shared, const StringTable& table)
     : shared_(shared), table_(table),
       form_({.name = u"frmMessage", .place = {0, 0, 6135, 2265}, .caption = u"Ornavel"},
             designed_controls()) {
+    form_.topmost = true; // the message may be open in another program, Word
     form_.on_load = [this] { Form_Load(); };
     form_.on(cmdYes, Event::click, [this] { cmdYes_Click(); });
     form_.on(cmdNo, Event::click, [this] { cmdNo_Click(); });

@@ -1,6 +1,7 @@
 #include "win32/form_window.h"
 
 #include "forms/centre.h"
+#include "win32/modality.h"
 #include "win32/wide.h"
 #include "win32/window_name.h"
 
@@ -33,21 +34,6 @@ HWND create_dialog(const forms::Form& form, HWND owner, DLGPROC procedure, void*
     if (!window) fail(form.name(), GetLastError());
     return window;
 }
-
-/// Keeps a window from the user for as long as it lives.
-class Disabled {
-public:
-    explicit Disabled(HWND window) : window_(window), was_enabled_(window && !EnableWindow(window, FALSE)) {}
-    ~Disabled() {
-        if (was_enabled_) EnableWindow(window_, TRUE);
-    }
-    Disabled(const Disabled&) = delete;
-    Disabled& operator=(const Disabled&) = delete;
-
-private:
-    HWND window_;
-    bool was_enabled_;
-};
 
 } // namespace
 
@@ -139,11 +125,10 @@ void FormWindow::show_default_button() {
 
 void show_form_modally(forms::Form& form) noexcept {
     attempt([&] {
-        const HWND owner = GetActiveWindow();
         FormWindow window(form);
-        window.open(owner);
+        window.open(GetActiveWindow());
         // The owner is enabled before the window goes, or the system would activate another program's window.
-        const Disabled disabled(owner);
+        const Modality modality(window.window());
         window.run();
     });
     attempt([&] { form.unload(); });

@@ -20,6 +20,7 @@ public:
     /// Makes the window, still hidden, in front of its owner. Throws Failure when the system has none to
     /// give.
     void open(HWND owner);
+    HWND window() const { return window_; }
     /// Shows the window and returns when the form is unloaded.
     void run();
 
@@ -54,8 +55,9 @@ private:
     bool refreshing_ = true; ///< what the windows tell now comes from the code, not from the user
 };
 
-/// Shows a loaded form in front of the window that is active in this thread, which the user can't reach until
-/// the form is unloaded. Where the system has no window to give, the form is closed by its frame.
+/// Shows a loaded form in front of the window that is active in this thread. The user can't reach any other
+/// window of the thread until the form is unloaded. Where the system has no window to give, the form is
+/// closed by its frame.
 void show_form_modally(forms::Form& form) noexcept;
 
 } // namespace ornavel::win32

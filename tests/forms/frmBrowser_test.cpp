@@ -41,6 +41,10 @@ TEST_F(PreviewWindow, ClosedWithoutAChoiceAnswersThatNothingIsSent) {
     EXPECT_FALSE(answers.vcard_chosen);
 }
 
+TEST_F(PreviewWindow, StaysAboveTheEditorThatTheMessageIsWrittenIn) {
+    show([](Form& form, FormUser) { EXPECT_TRUE(form.topmost); });
+}
+
 TEST_F(PreviewWindow, SendAnswersSendWithoutTheCardWhereTheBoxIsNotTicked) {
     show([](Form&, FormUser user) { user.click(u"command1"); });
     EXPECT_TRUE(answers.send);

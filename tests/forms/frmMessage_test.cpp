@@ -53,6 +53,10 @@ std::function<void(Form&, FormUser)> clicking(TextView button) {
     return [button](Form&, FormUser user) { user.click(button); };
 }
 
+TEST(PromptDialog, StaysAboveTheEditorThatTheMessageIsWrittenIn) {
+    answer(u"Reply", [](Form& form, FormUser) { EXPECT_TRUE(form.topmost); });
+}
+
 TEST(PromptDialog, EachModeHasItsMessageItsTitleAndItsButtons) {
     for (const Expected& mode : expected_modes) {
         SCOPED_TRACE(to_utf8(mode.mode));
