@@ -34,7 +34,8 @@ public:
 private:
     void show_text(const forms::Control& control);
     void show_list(const forms::Control& control);
-    void show_place(const forms::Place& place, const Scale& scale);
+    /// Whether it stood elsewhere before.
+    bool show_place(const forms::Place& place, const Scale& scale);
     void show_state(bool visible, bool enabled);
     LRESULT send(UINT message, WPARAM word = 0, LPARAM pointer = 0) const;
 
@@ -43,6 +44,7 @@ private:
     HWND window_ = nullptr;
     std::unique_ptr<WebBrowser> browser_; ///< of a web browser, where the system has one
     forms::Control shown_;                ///< the control as the window shows it
+    Text tip_for_place_;                  ///< what the form's window shows there
     forms::Place place_;                  ///< within the form, also for a control that stands in a frame
 };
 

@@ -31,10 +31,10 @@ INT_PTR CALLBACK FormWindow::procedure(HWND window, UINT message, WPARAM word, L
         return FALSE;
     }
     auto* const self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, DWLP_USER));
-    return self && self->handle(message, word);
+    return self && self->handle(message, word, pointer);
 }
 
-bool FormWindow::handle(UINT message, WPARAM word) {
+bool FormWindow::handle(UINT message, WPARAM word, LPARAM pointer) {
     switch (message) {
     case WM_COMMAND:
         on_command(LOWORD(word), HIWORD(word));
@@ -46,6 +46,9 @@ bool FormWindow::handle(UINT message, WPARAM word) {
     case WM_SIZE:
         on_moved();
         return false;
+    case WM_GETMINMAXINFO:
+        tell_least_size(*reinterpret_cast<MINMAXINFO*>(pointer));
+        return true;
     case WM_DESTROY:
         take_name(window_);
         for (const ControlWindow& control : controls_) control.release_name();
@@ -100,17 +103,28 @@ void FormWindow::on_escape() {
     });
 }
 
+/// A maximised window is larger than its place, to which it returns, and an icon is nowhere.
 void FormWindow::on_moved() {
+    if (refreshing_ || IsIconic(window_)) return;
     RECT frame;
     GetWindowRect(window_, &frame);
     const RECT shown = scale_.pixels(place_);
-    if (refreshing_ || EqualRect(&frame, &shown)) return;
+    if (IsZoomed(window_) || EqualRect(&frame, &shown)) {
+        attempt([&] { refresh(); });
+        return;
+    }
     const forms::Place before = std::exchange(place_, scale_.twips(frame));
     step([&](FormUser user) {
         user.move(place_.left, place_.top);
         if (place_.width != before.width || place_.height != before.height)
             user.resize(place_.width, place_.height);
     });
+}
+
+void FormWindow::tell_least_size(MINMAXINFO& limits) const {
+    const forms::Size least = form_.least_size();
+    const RECT pixels = scale_.pixels({0, 0, least.width, least.height});
+    limits.ptMinTrackSize = {pixels.right, pixels.bottom};
 }
 
 /// Runs the user's step, and shows what the form's code made of it. A step that the form refuses changes

@@ -38,6 +38,7 @@ void ShellLauncher::launch(TextView program, TextView arguments, WindowState win
 Answer DesktopWindows::show(TextView title, TextView text, Buttons buttons) {
     const HWND owner = GetActiveWindow();
     const int button = MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(), box_style(buttons, owner));
+    if (button <= 0) fail(title, GetLastError());
     if (buttons == Buttons::ok) return Answer::ok;
     return button == IDYES ? Answer::yes : Answer::no;
 }

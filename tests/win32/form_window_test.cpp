@@ -219,6 +219,51 @@ TEST_F(FormWindowTest, AToolTipIsTheControls) {
          }});
 }
 
+TEST_F(FormWindowTest, ADisabledControlHasItsToolTipToo) {
+    form[u"txtNote"].tool_tip = u"All of it";
+    form[u"txtNote"].enabled = false;
+    show(form, {[](HWND window) {
+             wchar_t tip[128] = {};
+             TTHITTESTINFOW under_mouse{};
+             under_mouse.hwnd = window;
+             const RECT place = Scale::of_screen().pixels({150, 150, 2400, 315});
+             under_mouse.pt = {place.left + 5, place.top + 5};
+             under_mouse.ti.cbSize = TTTOOLINFOW_V1_SIZE;
+             under_mouse.ti.lpszText = tip;
+             EXPECT_TRUE(SendMessageW(tool_tips(), TTM_HITTESTW, 0, reinterpret_cast<LPARAM>(&under_mouse)));
+             EXPECT_EQ(text_of(tip), u"All of it");
+         }});
+}
+
+TEST_F(FormWindowTest, AButtonThatHasTheKeyboardIsPressedByEnterAgainAndAgain) {
+    note(u"cmdCancel", Event::click, u"again;");
+    const auto is_default = [](HWND button) {
+        return (GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+    };
+    show(form, {[](HWND window) {
+                    SendMessageW(window, WM_NEXTDLGCTL,
+                                 reinterpret_cast<WPARAM>(control(window, L"cmdCancel")), TRUE);
+                },
+                pressing(L"cmdCancel"),
+                [&](HWND window) {
+                    EXPECT_EQ(GetFocus(), control(window, L"cmdCancel"));
+                    EXPECT_TRUE(is_default(control(window, L"cmdCancel")));
+                    EXPECT_FALSE(is_default(control(window, L"cmdSend")));
+                }});
+    EXPECT_EQ(events, u"again;");
+}
+
+TEST_F(FormWindowTest, ADefaultThatTheFormsCodeChangesIsPressedByEnter) {
+    form.on(u"chkGift", Event::click, [this] {
+        form[u"cmdSend"].is_default = false;
+        form[u"cmdCancel"].is_default = true;
+    });
+    unload_on(u"cmdCancel", u"cancelled");
+    show(form,
+         {pressing(L"chkGift"), [](HWND window) { SetFocus(control(window, L"txtNote")); }, key(VK_RETURN)});
+    EXPECT_EQ(events, u"cancelled");
+}
+
 TEST_F(FormWindowTest, ADoubleClickOnATextBoxReachesItsHandler) {
     form.on(u"txtTips", Event::double_click, [this] { form[u"txtTips"].text = u"second tip"; });
     show(form, {[](HWND window) {

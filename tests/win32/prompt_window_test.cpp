@@ -51,5 +51,28 @@ TEST(PromptWindow, AnswersAsTheUserClicks) {
     }
 }
 
+TEST(PromptWindow, EnterAnswersNoToARiskyQuestionAndYesToAnyOther) {
+    const std::pair<TextView, TextView> answers[] = {{u"Security warning", u"No"}, {u"Reply", u"Yes"}};
+    for (const auto& [mode, answer] : answers) {
+        forms::PromptValues values{.mode = Text(mode), .answer = u"none"};
+        forms::frmMessage prompt(values, forms::built_in_strings());
+        show(prompt.form(), {[&](HWND window) {
+                                 EXPECT_EQ(GetFocus(),
+                                           control(window, answer == u"No" ? L"cmdNo" : L"cmdYes"));
+                             },
+                             key(VK_RETURN)});
+        EXPECT_EQ(values.answer, answer);
+    }
+}
+
+TEST(PromptWindow, ShowsThePictureOfItsKind) {
+    forms::PromptValues values{.mode = u"Bad Template", .answer = u"No"};
+    forms::frmMessage prompt(values, forms::built_in_strings());
+    show(prompt.form(), {[](HWND window) {
+             const auto picture = SendMessageW(control(window, L"imgIcon"), STM_GETICON, 0, 0);
+             EXPECT_EQ(reinterpret_cast<HICON>(picture), LoadIconW(nullptr, IDI_WARNING));
+         }});
+}
+
 } // namespace
 } // namespace ornavel::win32
