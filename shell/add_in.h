@@ -8,6 +8,7 @@
 #include "win32/machine.h"
 #include "win32/registry_store.h"
 #include "win32/system_information.h"
+#include "win32/this_module.h"
 #include "win32/windows_files.h"
 
 namespace ornavel::shell {
@@ -25,7 +26,7 @@ private:
     win32::ShellLauncher launcher_;
     win32::ComObjects objects_;
     win32::DesktopWindows windows_;
-    win32::ResourceStrings strings_{this_module()};
+    win32::ResourceStrings strings_{win32::this_module()};
     win32::WindowsInformation information_;
 };
 

@@ -1,9 +1,7 @@
 #include "shell/module.h"
 
+#include "win32/this_module.h"
 #include "win32/wide.h"
-
-// The linker's own name for the start of this module.
-extern "C" IMAGE_DOS_HEADER __ImageBase;
 
 namespace ornavel::shell {
 namespace {
@@ -12,10 +10,8 @@ LONG uses = 0;
 
 } // namespace
 
-HINSTANCE this_module() { return reinterpret_cast<HINSTANCE>(&__ImageBase); }
-
 Text addin_folder() {
-    const Text path = win32::path_of(this_module());
+    const Text path = win32::path_of(win32::this_module());
     return path.substr(0, path.find_last_of(u'\\'));
 }
 

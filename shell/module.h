@@ -2,12 +2,7 @@
 
 #include "base/text.h"
 
-#include <windows.h>
-
 namespace ornavel::shell {
-
-/// Ornavel.dll itself.
-HINSTANCE this_module();
 
 /// The folder of Ornavel.dll, without a backslash at its end.
 Text addin_folder();

@@ -3,6 +3,7 @@
 #include "forms/screen_place.h"
 #include "forms/unloading.h"
 #include "win32/modality.h"
+#include "win32/program_icon.h"
 #include "win32/screens.h"
 #include "win32/wide.h"
 #include "win32/window_name.h"
@@ -44,6 +45,7 @@ FormWindow::FormWindow(forms::Form& form) : form_(form), font_(dialog_font(scale
 void FormWindow::open(HWND owner) {
     window_ = create_dialog(form_, owner, procedure, this);
     give_name(window_, form_.name());
+    show_program_icon(window_);
     find_place();
     // Before there are tool tips: under Wine a window that owns another one never becomes topmost.
     show_frame();

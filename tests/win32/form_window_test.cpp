@@ -205,6 +205,13 @@ TEST_F(FormWindowTest, APlaceThatIsNoWholeNumberOfPixelsStaysAsItIs) {
     EXPECT_EQ(form.properties.place, (forms::Place{997, 2593, 6001, 4501}));
 }
 
+TEST_F(FormWindowTest, TheWindowShowsTheProgramsIcon) {
+    show(form, {[](HWND window) {
+             EXPECT_TRUE(SendMessageW(window, WM_GETICON, ICON_SMALL, 0));
+             EXPECT_TRUE(SendMessageW(window, WM_GETICON, ICON_BIG, 0));
+         }});
+}
+
 TEST_F(FormWindowTest, AToolTipIsTheControls) {
     show(form, {[](HWND window) {
              wchar_t tip[128] = {};
