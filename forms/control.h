@@ -51,16 +51,17 @@ struct Control {
     Text tag{};
     Text caption{};
     Text tool_tip{};
-    Text text{};               ///< of a text box or a combo box
-    std::vector<Text> items{}; ///< of a combo box
-    int index = -1;            ///< the chosen entry of a combo box; -1 when its text is none of them
-    bool ticked = false;       ///< of a check box
-    Text page{};               ///< the file or address that a web browser shows
-    int visits = 0;            ///< how often the page was shown; the same page may have new contents
-    Text picture{};            ///< the file that an image shows
-    Icon icon = Icon::none;    ///< what an image shows that has no file
-    std::vector<Part> parts{}; ///< of a tab strip, a toolbar or a list view
-    Text frame{};              ///< the name of the frame that it stands in; empty on the form itself
+    Text text{};                ///< of a text box or a combo box
+    std::vector<Text> items{};  ///< of a combo box
+    int index = -1;             ///< the chosen entry of a combo box; -1 when its text is none of them
+    bool ticked = false;        ///< of a check box
+    Text page{};                ///< the file or address that a web browser shows
+    bool follows_links = false; ///< of a web browser: else a page stays where it is, and on this machine
+    int visits = 0;             ///< how often the page was shown; the same page may have new contents
+    Text picture{};             ///< the file that an image shows
+    Icon icon = Icon::none;     ///< what an image shows that has no file
+    std::vector<Part> parts{};  ///< of a tab strip, a toolbar or a list view
+    Text frame{};               ///< the name of the frame that it stands in; empty on the form itself
     bool visible = true;
     bool enabled = true;
     bool locked = false;        ///< a text box that the user reads but can't change

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "connect/connect.h"
-#include "shell/module.h"
 #include "win32/com.h"
 #include "win32/com_objects.h"
 #include "win32/extensibility.h"
@@ -51,7 +50,6 @@ public:
     HRESULT STDMETHODCALLTYPE OnBeginShutdown(SAFEARRAY** custom) override;
 
 private:
-    ModuleUse use_;
     Machine machine_;
     connect::Connect connect_{machine_.platform(this)};
 };

@@ -79,8 +79,13 @@ ControlWindow::ControlWindow(const Control& control, HWND parent, int id, HFONT 
     give_name(window_, control.name);
     if (control.icon != forms::Icon::none)
         send(STM_SETICON, reinterpret_cast<WPARAM>(LoadIconW(nullptr, system_icon(control.icon))));
-    // A page that can't be shown must not keep the form from the user.
-    if (control.kind == Kind::web_browser) attempt([&] { browser_ = std::make_unique<WebBrowser>(window_); });
+    if (control.kind == Kind::web_browser) make_browser(control.follows_links);
+}
+
+/// A page that can't be shown must not keep the form from the user.
+void ControlWindow::make_browser(bool follows_links) {
+    attempt([&] { browser_ = std::make_unique<WebBrowser>(window_, follows_links); });
+    if (browser_) SetWindowLongW(window_, GWL_STYLE, GetWindowLongW(window_, GWL_STYLE) | WS_TABSTOP);
 }
 
 void ControlWindow::release_name() const {

@@ -31,6 +31,8 @@ private:
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM word, LPARAM pointer);
     bool handle(UINT message, WPARAM word, LPARAM pointer);
     bool translate(const MSG& message);
+    bool translate_in_text_box(const ControlWindow& box, const MSG& message);
+    bool translate_in_page(const ControlWindow& page, const MSG& message);
 
     void find_place();
     void create_controls();

@@ -110,6 +110,20 @@ TEST_F(AddIn, KeepsTheDllUntilItsLastReferenceIsGone) {
     EXPECT_EQ(AddInDll().call("DllCanUnloadNow"), S_OK);
 }
 
+TEST_F(AddIn, ASinkThatTheMailClientHasNotGivenBackYetKeepsTheDll) {
+    const AddInDll dll;
+    const auto application = make_fake();
+    application->event_interface = {0x0006304E, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
+    add_in->OnConnection(application.get(), 1, nullptr, nullptr);
+    ComPtr<IDispatch> sink = application->sink;
+    ASSERT_TRUE(sink);
+    add_in->OnDisconnection(0, nullptr);
+    add_in = {};
+    EXPECT_EQ(dll.call("DllCanUnloadNow"), S_FALSE);
+    sink = {};
+    EXPECT_EQ(dll.call("DllCanUnloadNow"), S_OK);
+}
+
 TEST_F(AddIn, ALockOnTheFactoryKeepsTheDll) {
     add_in = {};
     const AddInDll dll;
