@@ -61,9 +61,9 @@ constexpr Step steps[] = {
 void AskingErrors::take(TextView description, TrapName trap) noexcept {
     const auto report = errors_.log_error(description, trap);
     attempt([&] {
-        if (report &&
-            boxes_.ask(u"Error Report", u"Brevant has just experienced an error. Brevant has prepared a "
-                                        u"desciption or the error.\r\nWould you like to send it now?"))
+        if (report && boxes_.ask_risky(u"Error Report",
+                                       u"Brevant has just experienced an error. Brevant has prepared a "
+                                       u"desciption or the error.\r\nWould you like to send it now?"))
             errors_.mail_report(*report);
     });
 }

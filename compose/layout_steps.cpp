@@ -44,7 +44,7 @@ void read_template(Composition& c) {
 void ask_about_script(Composition& c) {
     if (c.for_preview()) return;
     if (!contains(c.template_text, u"</script>") && !contains(c.template_text, u"</SCRIPT>")) return;
-    if (c.services.boxes.ask(
+    if (c.services.boxes.ask_risky(
             u"Ornavel Security Warning",
             u"This Template has script in it. This means that your recipients may not be able to \r\nsee or "
             u"access your message. Continue with your message? Click No to cancel, Yes to continue"))

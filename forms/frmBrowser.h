@@ -45,6 +45,7 @@ private:
     static const Choice templates, signatures;
 
     void Form_Load();
+    void arrange();
     void Form_Resize();
     void Form_Unload();
     void command1_Click();

@@ -32,6 +32,12 @@ DISPID find_handler(TextView name) {
     return DISPID_UNKNOWN;
 }
 
+/// Without a backslash at its end.
+Text addin_folder() {
+    const Text path = win32::path_of(win32::this_module());
+    return path.substr(0, path.find_last_of(u'\\'));
+}
+
 /// Runs a handler on behalf of the mail client: nothing gets out, and the object stays until it has ended.
 template <class Body>
 HRESULT at_boundary(IUnknown* object, Body body) noexcept {
