@@ -3,6 +3,7 @@
 #include "base/errors.h"
 #include "rehearsal/failures.h"
 #include "rehearsal/journal.h"
+#include "rehearsal/turn.h"
 #include "settings/store.h"
 
 namespace ornavel::rehearsal {
@@ -14,6 +15,7 @@ public:
         : store_(store), failures_(failures), journal_(journal) {}
 
     std::optional<Text> find(TextView section, TextView key) const noexcept override {
+        const MachinesTurn turn;
         std::optional<Text> value;
         attempt([&] {
             failures_.use(Failing::Kind::read_setting, key);
@@ -24,6 +26,7 @@ public:
     }
 
     void save(TextView section, TextView key, TextView value) noexcept override {
+        const MachinesTurn turn;
         attempt([&] {
             journal_.note(Deed::save_setting, named(section, key), value);
             failures_.use(Failing::Kind::save_setting, key);
