@@ -35,8 +35,7 @@ void Connect::OnConnection(host::Application application) noexcept {
         session.host.application_events = session.host.oHostApp.on_events(
             {.item_send =
                  [this](const host::MailItem& item, bool& cancel) {
-                     const auto& keep = session_->platform.keep;
-                     const std::shared_ptr<void> kept = keep ? keep() : nullptr;
+                     const auto kept = session_->platform.kept();
                      ol_ItemSend(*session_, item, cancel);
                  },
              .options_pages_add = [this](const host::PropertyPages& pages) { OptionsPagesAdd(pages); }});
@@ -103,7 +102,10 @@ void Connect::hook_active_explorer() {
     host.explorer_events.reset();
     host.myActiveExplorer = host.oHostApp.active_explorer();
     if (host.myActiveExplorer)
-        host.explorer_events = host.myActiveExplorer.on_close([this] { myActiveExplorer_Close(); });
+        host.explorer_events = host.myActiveExplorer.on_close([this] {
+            const auto kept = session_->platform.kept();
+            myActiveExplorer_Close();
+        });
 }
 
 void Connect::myActiveExplorer_Close() noexcept {

@@ -26,8 +26,10 @@ struct Platform {
     const SystemInformation& machine;
     Text addin_folder; ///< the folder of Ornavel.dll, without a backslash at its end
     /// Keeps the add-in and its machine for as long as the result lives: the mail client may let go of them
-    /// while a send waits for the user. Empty where they outlive every send anyway.
+    /// in the middle of an event, while a window waits for the user. Empty where they outlive every event
+    /// anyway.
     std::function<std::shared_ptr<void>()> keep = {};
+    std::shared_ptr<void> kept() const { return keep ? keep() : nullptr; }
     /// Told each gate that a send reaches and whether it passed; empty where nobody watches.
     std::function<void(TextView gate, bool passed)> on_gate = {};
 };

@@ -56,7 +56,10 @@ void add_setup_button(Session& session) {
     host.MyButtonConfigWiz.set_caption(
         forms::load_text(session.platform.strings, forms::text_ids::ornavel_setup));
     host.MyButtonConfigWiz.show_face_and_caption(setup_face);
-    host.setup_button_events = host.MyButtonConfigWiz.on_click([&session] { start_setup_program(session); });
+    host.setup_button_events = host.MyButtonConfigWiz.on_click([&session] {
+        const auto kept = session.platform.kept();
+        start_setup_program(session);
+    });
 }
 
 void add_mode_button(Session& session) {
@@ -65,7 +68,10 @@ void add_mode_button(Session& session) {
     host.myButtonSetting.show_caption();
     host.myButtonSetting.set_caption(
         caption_of_mode(session, read(session.platform.settings, user::SettingButtonBar)));
-    host.mode_button_events = host.myButtonSetting.on_click([&session] { myButtonSetting_Click(session); });
+    host.mode_button_events = host.myButtonSetting.on_click([&session] {
+        const auto kept = session.platform.kept();
+        myButtonSetting_Click(session);
+    });
 }
 
 } // namespace
