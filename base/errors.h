@@ -36,6 +36,7 @@ Text current_description() noexcept;
 struct TrapName {
     TextView sub_function;
     TextView section;
+    TextView place{}; ///< which of several that share a name; not logged
 };
 
 /// Takes what a trap caught. Never throws.

@@ -67,4 +67,7 @@ struct Composed {
 /// on with the text as it stood. Never throws.
 Composed CreateHTMLBody(const Services& services, Request request) noexcept;
 
+/// Every trap of this room, those of the steps in their order; for those who watch which of them are sprung.
+std::vector<TrapName> traps();
+
 } // namespace ornavel::compose

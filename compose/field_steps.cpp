@@ -75,7 +75,7 @@ void log_usage(Composition& c) {
 
 void merge_fields(Composition& c) {
     for (auto failures = Merge::of_body(c.settings()).apply(c.result); failures > 0; --failures)
-        trap(c.errors, {u"CreateHTMLBody", u"CreateHTM_Err"}, [] { throw TextTooLarge(); });
+        trap(c.errors, {any_step.sub_function, any_step.section, merge_group}, [] { throw TextTooLarge(); });
 }
 
 } // namespace ornavel::compose

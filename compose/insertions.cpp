@@ -35,7 +35,7 @@ Text quote_numbered(std::span<const Text> lines, long long number) {
 
 Text next_appointment(const host::Application& application, const Clock& clock, ErrorSink& errors) noexcept {
     Text answer;
-    trap(errors, {u"next_appointment", u"NextAppointment_Err"}, [&] {
+    trap(errors, next_appointment_trap, [&] {
         const LocalTime now = clock.now();
         const auto appointments = appointments_of(application, now);
         for (auto appointment = appointments.first(); appointment; appointment = appointments.next()) {
@@ -49,9 +49,9 @@ Text next_appointment(const host::Application& application, const Clock& clock, 
 }
 
 void GetNextQuote(Store& settings, const Files& files, ErrorSink& errors) noexcept {
-    trap(errors, {u"GetNextQuote", u"GetNextQuote_Err"}, [&] {
+    trap(errors, next_quote_trap, [&] {
         const long long number =
-            std::max<long long>(numeric_value(read(settings, system::LastTipNumber)), first_quote);
+            std::max<long long>(read_number(settings, system::LastTipNumber), first_quote);
         const auto lines = lines_of(read_text(files, read(settings, admin::TipsFileLocation)));
         const bool wraps = number > static_cast<long long>(lines.size()) - 1;
         // A wrap-around carries no quote and goes on with 16, not 15: deliberate.
@@ -63,7 +63,7 @@ void GetNextQuote(Store& settings, const Files& files, ErrorSink& errors) noexce
 Text boilerplate_text(const Store& settings, const Files& files, TextView name, ErrorSink& errors) noexcept {
     Text text;
     if (name.empty() || name == u"None") return text;
-    trap(errors, {u"boilerplate_text", u"Boilerplate_Err"}, [&] {
+    trap(errors, boilerplate_trap, [&] {
         // The forward slash is deliberate.
         const Text path = read(settings, admin::HTMFilesPath) + u"/" + Text(name);
         text = u"<BR>" + read_lines(files, path, u"<BR>") + u"<BR>";

@@ -8,6 +8,10 @@
 
 namespace ornavel::compose {
 
+inline constexpr TrapName next_appointment_trap{u"next_appointment", u"NextAppointment_Err"};
+inline constexpr TrapName next_quote_trap{u"GetNextQuote", u"GetNextQuote_Err"};
+inline constexpr TrapName boilerplate_trap{u"boilerplate_text", u"Boilerplate_Err"};
+
 /// The next of today's appointments, as "Review at 4:00 PM"; empty when there is none. A calendar that can't
 /// be read counts as empty and is written to the error log.
 Text next_appointment(const host::Application& application, const Clock& clock, ErrorSink& errors) noexcept;

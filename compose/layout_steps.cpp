@@ -18,6 +18,7 @@ std::size_t with_room(std::size_t size) { return size + size / 64 + 4096; }
 
 void choose_signature(Composition& c) {
     const auto& chosen = c.request.form_signature;
+    // A message of somebody who never chose a signature has none.
     c.signature_name = chosen ? trim(*chosen) : read(c.settings(), user::Signature, u"none");
 }
 

@@ -30,7 +30,6 @@ public:
 private:
     explicit Merge(const settings::Store& settings) : settings_(settings) {}
     void add_group(std::span<const MergeBlock> blocks);
-    bool takes_part(const MergeBlock& block) const;
     TextView keep(Text text);
 
     const settings::Store& settings_;
@@ -38,6 +37,8 @@ private:
     std::vector<Pass> passes_;
     std::vector<std::size_t> group_ends_;
 };
+
+inline constexpr TrapName signature_file_trap{u"merge_signature_file", u"Merge_Err"};
 
 /// Merges one signature text. A failure is written to the error log.
 void merge_signature_file(Text& text, const settings::Store& settings, ErrorSink& errors) noexcept;

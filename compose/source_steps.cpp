@@ -91,7 +91,7 @@ void cut_reply(Composition& c) {
                        (c.is_html ? u" - CreateHTMLBody- error Reply state parsing - myMessageReply_err"
                                   : u" - myMessageReplyFormatFalse_err");
     c.keep_beginning();
-    if (!trap(c.errors, {label, u""}, [&] { cut_at_marker(c); })) {
+    if (!trap(c.errors, {label, u"", reply_cut}, [&] { cut_at_marker(c); })) {
         c.new_text = std::move(c.message);
         c.quoted.clear();
     }

@@ -23,10 +23,6 @@ struct Send {
     settings::Store& settings() const { return session.platform.settings; }
 };
 
-/// What a gate answers: the next gate is asked; the gate is switched off and leaves no record; or the send
-/// leaves with cancel as it stands.
-enum class Verdict { next, off, leave };
-
 /// Appends the rule of the outside signature product to the subject and saves, while the setting
 /// "UseExclaimer" is on.
 void tag_for_Exclaimer(Send& send);
@@ -59,6 +55,8 @@ Verdict resend_from_sent_items(Send& send);
 Verdict personal_stationery(Send& send);
 
 // Replies.
+inline constexpr TrapName version_trap{
+    u"ol_ItemSend", u"Error establishing the Outlook Version, MyVersion_err in OL_itemsend"};
 Verdict load_reply_marker(Send& send);
 Verdict reply_test(Send& send);
 

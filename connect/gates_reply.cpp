@@ -8,12 +8,11 @@ using namespace settings;
 /// The number that the first two characters of the host's version form; one that can't be read counts as 0.
 int host_major_version(Send& send) {
     int major = 0;
-    trap(send.session.errors,
-         {u"ol_ItemSend", u"Error establishing the Outlook Version, MyVersion_err in OL_itemsend"}, [&] {
-             const Text version = send.session.host.oHostApp.version();
-             if (version.find_first_of(u"0123456789") != 0) throw Failure(u"Type mismatch");
-             major = numeric_value(TextView(version).substr(0, 2));
-         });
+    trap(send.session.errors, version_trap, [&] {
+        const Text version = send.session.host.oHostApp.version();
+        if (version.find_first_of(u"0123456789") != 0) throw Failure(u"Type mismatch");
+        major = numeric_value(TextView(version).substr(0, 2));
+    });
     return major;
 }
 
@@ -26,7 +25,7 @@ bool is_plain_text(const Send& send) {
 Verdict load_reply_marker(Send& send) {
     const bool older_host = host_major_version(send) < 11;
     trace(send, u"Just before MyMessItem is called- line 1001");
-    const Key& marker =
+    const TextKey& marker =
         older_host || is_plain_text(send) ? system::MyReplySearchString : system::Office2003SearchString;
     trace(send, u"Just after MyMessItem is called- line 1002");
     send.reply.marker = read(send.settings(), marker);
@@ -35,13 +34,12 @@ Verdict load_reply_marker(Send& send) {
 
 Verdict reply_test(Send& send) {
     compose::Reply& reply = send.reply;
-    const auto number = [&](const Key& key) { return numeric_value(read(send.settings(), key)); };
     reply.found = !reply.marker.empty() && (contains(send.html.of(send.item()), reply.marker) ||
                                             contains(send.item().body(), reply.marker));
     if (!reply.found) return Verdict::next;
-    reply.search_offset = number(system::ReplySearchStringVal);
-    reply.insert_offset = number(system::ReplyInsertStringVal);
-    if (read(send.settings(), user::ReplyAsIs) != u"1") return Verdict::next;
+    reply.search_offset = read_number(send.settings(), system::ReplySearchStringVal);
+    reply.insert_offset = read_number(send.settings(), system::ReplyInsertStringVal);
+    if (!is_ticked(send.settings(), user::ReplyAsIs)) return Verdict::next;
     reply.found = false;
     return Verdict::leave;
 }

@@ -67,12 +67,13 @@ private:
     bool processed_;
 };
 
+constexpr TrapName trap_of(TextView gate) { return {u"ol_ItemSend", gate}; }
+
 bool passes(const Gate& gate, Send& send) noexcept {
     Verdict verdict = Verdict::leave;
-    trap(send.session.errors, {u"ol_ItemSend", gate.name}, [&] {
+    trap(send.session.errors, trap_of(gate.name), [&] {
         verdict = gate.decide(send);
-        if (send.session.platform.on_gate)
-            send.session.platform.on_gate(gate.name, verdict != Verdict::leave);
+        if (send.session.platform.on_gate) send.session.platform.on_gate(gate.name, verdict);
         if (verdict != Verdict::next) return;
         for (const TextView label : gate.passed)
             if (!label.empty()) record_gate(send, label);
@@ -87,6 +88,18 @@ void ol_ItemSend(Session& session, const host::MailItem& item, bool& cancel) noe
     Send send{.session = session, .sent = item, .cancel = cancel};
     for (const Gate& gate : gates)
         if (!passes(gate, send)) return;
+}
+
+std::vector<TextView> gate_names() {
+    std::vector<TextView> names;
+    for (const Gate& gate : gates) names.push_back(gate.name);
+    return names;
+}
+
+std::vector<TrapName> traps() {
+    std::vector<TrapName> all{version_trap};
+    for (const Gate& gate : gates) all.push_back(trap_of(gate.name));
+    return all;
 }
 
 } // namespace ornavel::connect

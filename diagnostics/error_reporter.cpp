@@ -27,14 +27,13 @@ void ErrorReporter::step(Body&& body) noexcept {
     }
 }
 
-void ErrorReporter::Write_to_error_file(TextView description, TextView sub_function,
-                                        TextView section) noexcept {
-    const auto report = log_error(description, {sub_function, section});
+void ErrorReporter::take(TextView description, TrapName trap) noexcept {
+    const auto report = log_error(description, trap);
     if (!report) return;
     bool agreed = false;
     step([&] {
         const Flag asking(under_way_);
-        agreed = section == user_request || services_.prompt.ask(prompt_modes::support_email_request);
+        agreed = trap.section == user_request || services_.prompt.ask(prompt_modes::support_email_request);
     });
     if (agreed) mail_report(*report);
 }
@@ -42,6 +41,7 @@ void ErrorReporter::Write_to_error_file(TextView description, TextView sub_funct
 std::optional<ErrorReport> ErrorReporter::log_error(TextView description, TrapName trap) noexcept {
     std::optional<ErrorReport> report;
     step([&] {
+        if (services_.on_trap) services_.on_trap(trap);
         if (is_on(services_.settings, admin::ErrorFileSuppressEmail)) {
             services_.log.write_note(Text(description) + u" - " + Text(trap.sub_function) + u" - " +
                                      Text(trap.section));

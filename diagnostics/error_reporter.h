@@ -5,6 +5,8 @@
 #include "diagnostics/prompt.h"
 #include "diagnostics/report_text.h"
 
+#include <functional>
+
 namespace ornavel::diagnostics {
 
 /// The error routine of the add-in: logs, asks, and mails the report to support. All of its services outlive
@@ -20,15 +22,16 @@ public:
         host::Objects& objects;
         const host::Application& application; ///< the mail client; may hold nothing
         Text addin_folder;
+        std::function<void(TrapName)> on_trap = {}; ///< told each trap that is sprung; may be empty
     };
 
     explicit ErrorReporter(Services services) : services_(std::move(services)) {}
 
     /// The section "UserRequest" is a user's own request for help: it is mailed without asking.
-    void Write_to_error_file(TextView description, TextView sub_function, TextView section) noexcept;
-    void take(TextView description, TrapName trap) noexcept override {
-        Write_to_error_file(description, trap.sub_function, trap.section);
+    void Write_to_error_file(TextView description, TextView sub_function, TextView section) noexcept {
+        take(description, {sub_function, section});
     }
+    void take(TextView description, TrapName trap) noexcept override;
     std::optional<ErrorReport> log_error(TextView description, TrapName trap) noexcept override;
     void mail_report(const ErrorReport& report) noexcept override;
 

@@ -127,7 +127,7 @@ void frmBrowser::on_choice(const Choice& choice) {
 }
 
 void frmBrowser::render() {
-    trap(needs_.errors, {form_.name(), u"Error showing the preview"}, [&] {
+    trap(needs_.errors, preview_trap, [&] {
         needs_.files.write(page_, encode_html(compose_()));
         form_[u"brwWebBrowser"].visit(page_);
     });

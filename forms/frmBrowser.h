@@ -15,6 +15,8 @@ struct PreviewAnswers {
     bool vcard_chosen = false;
 };
 
+inline constexpr TrapName preview_trap{u"frmBrowser", u"Error showing the preview"};
+
 /// The preview window: shows the composed message and lets the user go through templates and signatures
 /// before the message is sent. All of the arguments outlive it. compose gives the message as it would be
 /// sent; it is asked again after each change. page is the full path of the file that the browser shows.
@@ -37,8 +39,8 @@ private:
     /// A list of files that the user chooses from by their names without extension.
     struct Choice {
         TextView shown, files; ///< the combo box, and the hidden one with the whole names
-        const settings::Key& folder;
-        const settings::Key& chosen;
+        const settings::PathKey& folder;
+        const settings::TextKey& chosen;
     };
     static const Choice templates, signatures;
 

@@ -49,20 +49,29 @@ struct World {
     compose::Reply reply{.marker = u"-----Original"};
     compose::Purpose purpose = compose::Purpose::send;
 
+    /// Forgets what the input before left.
+    void clear() {
+        journal.clear();
+        boxes.shown.clear();
+        reports.entries.clear();
+        files.contents.clear();
+    }
+
+    void set(const settings::Key& key, bool on) { save(store, key, on ? u"True" : u"False"); }
+
     Text compose(Text body) {
         const host::MailItem mail(item);
-        return CreateHTMLBody({store, files, clock, boxes, objects, reports, application, start_up},
-                              {.item = mail,
-                               .source = std::move(body),
-                               .template_path = u"C:\\temp\\letter.htm",
-                               .reply = reply,
-                               .purpose = purpose})
+        return compose::CreateHTMLBody({store, files, clock, boxes, objects, reports, application, start_up},
+                                       {.item = mail,
+                                        .source = std::move(body),
+                                        .template_path = u"C:\\temp\\letter.htm",
+                                        .reply = reply,
+                                        .purpose = purpose})
             .html;
     }
 };
 
-[[maybe_unused]] void cut_reply(fuzz::Input& input) {
-    World world;
+[[maybe_unused]] void cut_reply(World& world, fuzz::Input& input) {
     world.reply.found = true;
     world.reply.search_offset = input.byte() % 8;
     world.reply.insert_offset = input.byte() % 32;
@@ -78,21 +87,21 @@ struct World {
     fuzz::require(before.ends_with(quoted));
 }
 
-[[maybe_unused]] void compose_anything(fuzz::Input& input) {
-    World world;
-    unsigned bits = input.byte() | input.byte() << 8;
+[[maybe_unused]] void compose_anything(World& world, fuzz::Input& input) {
+    unsigned bits = input.byte();
+    bits |= input.byte() << 8;
     for (const settings::Key* key :
          {&settings::admin::WipeoutHTML, &settings::admin::WipeOutFontControl, &settings::user::WipeoutDivTag,
           &settings::admin::WipeoutHardRule, &settings::user::InsertDate, &settings::admin::RemoveReplyTags,
           &settings::admin::WipeoutReplyFontSmall, &settings::admin::WipeOutFileCompare}) {
-        if (bits & 1) save(world.store, *key, u"True");
+        world.set(*key, bits & 1);
         bits >>= 1;
     }
     world.reply.found = bits & 1;
-    if (bits & 2) world.purpose = compose::Purpose::preview;
+    world.purpose = bits & 2 ? compose::Purpose::preview : compose::Purpose::send;
     world.start_up.usage_log.enabled = bits & 4;
-    if (bits & 8) save(world.store, settings::user::Signature, u"jo.htm");
-    if (bits & 16) save(world.store, settings::admin::Marketing, u"Enterprise");
+    save(world.store, settings::user::Signature, bits & 8 ? u"jo.htm" : u"none");
+    save(world.store, settings::admin::Marketing, bits & 16 ? u"Enterprise" : u"");
     save(world.store, settings::admin::WipeoutHTMLBeginTag, input.text(pieces));
     world.files.contents[u"C:\\temp\\letter.htm"] = to_utf8(input.text(pieces));
     world.files.contents[u"C:\\temp\\jo.htm"] = to_utf8(input.text(pieces));
@@ -103,11 +112,13 @@ struct World {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    static World world;
+    world.clear();
     fuzz::Input input(bytes, size);
 #ifdef ORNAVEL_REPLY_CUT
-    cut_reply(input);
+    cut_reply(world, input);
 #else
-    compose_anything(input);
+    compose_anything(world, input);
 #endif
     return 0;
 }

@@ -15,7 +15,7 @@ constexpr TextView pieces[] = {u"www.", u"www.a",   u"www.ab", u"ww",  u"w.", u"
 bool is_small(const Text& text) {
     std::size_t words = 0;
     for (auto at = text.find(u"www."); at != Text::npos; at = text.find(u"www.", at + 1)) ++words;
-    return words <= 9;
+    return words <= 6;
 }
 
 } // namespace

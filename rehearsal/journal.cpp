@@ -11,10 +11,10 @@ bool uses_host(Deed deed) { return deed == Deed::get || deed == Deed::put || dee
 
 } // namespace
 
-void Journal::note(Deed deed, Text what, TextView value) {
+void Journal::note(Deed deed, Text what, TextView value, bool found) {
     Text shown(value.substr(0, longest_value));
     if (value.size() > longest_value) shown += u"…";
-    entries_.push_back({act_, deed, std::move(what), std::move(shown)});
+    entries_.push_back({act_, deed, std::move(what), std::move(shown), found});
 }
 
 std::size_t Journal::host_uses(std::size_t act) const {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <set>
 
+template class nlohmann::detail::serializer<nlohmann::ordered_json>;
+
 namespace ornavel::rehearsal {
 namespace {
 

@@ -8,6 +8,9 @@
 #include <optional>
 #include <stdexcept>
 
+/// What prints JSON takes seconds to compile; it is compiled once, in json.cpp.
+extern template class nlohmann::detail::serializer<nlohmann::ordered_json>;
+
 namespace ornavel::rehearsal {
 
 /// Members keep the order in which they were written.

@@ -1,67 +1,50 @@
+#include "rehearsal/comparison.h"
 #include "rehearsal/expectation.h"
+#include "rehearsal/native/command_line.h"
 #include "rehearsal/native/native_play.h"
 #include "rehearsal/native/wine_play.h"
+#include "rehearsal/notes.h"
 
 #include <fstream>
 #include <iostream>
+#include <set>
 
 namespace ornavel::rehearsal {
 namespace {
 
 constexpr int exit_played = 0, exit_failed = 1, exit_unusable = 2;
 
-struct CommandLine {
-    Binding binding = Binding::wine;
-    std::string out;
-    std::vector<std::string> scenarios;
-};
-
-Binding binding_of(const std::string& name) {
-    if (name == "native") return Binding::native;
-    if (name == "wine") return Binding::wine;
-    throw Unusable("--binding: expected native or wine");
-}
-
-CommandLine read_command_line(int count, char** words) {
-    CommandLine line;
-    for (int index = 1; index < count; ++index) {
-        const std::string word = words[index];
-        const auto value = [&] {
-            if (++index == count) throw Unusable(word + ": needs a value");
-            return std::string(words[index]);
-        };
-        if (word == "--binding")
-            line.binding = binding_of(value());
-        else if (word == "--out")
-            line.out = value();
-        else if (word.starts_with("-"))
-            throw Unusable(word + ": unknown argument");
-        else
-            line.scenarios.push_back(word);
-    }
-    if (line.scenarios.empty())
-        throw Unusable("usage: rehearse [--binding native|wine] [--out OUTCOME.json] SCENARIO.json...");
-    return line;
-}
-
-std::vector<Json> play(const std::vector<Loaded>& all, Binding binding) {
-    if (binding == Binding::wine) return play_under_wine(all);
+std::vector<Json> play_natively(const std::vector<Loaded>& all) {
     std::vector<Json> outcomes;
-    for (const auto& loaded : all) outcomes.push_back(play_natively(loaded.scenario, loaded.file));
+    for (const auto& loaded : all) outcomes.push_back(play_natively(loaded.scenario, loaded.source));
     return outcomes;
 }
 
-/// Whether the add-in let nothing out and did what is expected. Says on the error stream what it did not.
-bool is_good(const Loaded& loaded, const Json& outcome) {
-    bool good = true;
-    const auto complain = [&](const std::string& line) {
-        std::cerr << loaded.file << ": " << line << '\n';
-        good = false;
-    };
-    if (!outcome.at("error").is_null()) complain("error: " + outcome["error"].dump());
+/// What is to be said about an outcome: whether the add-in let nothing out, did what is expected, and did the
+/// same in both plays where there were two.
+std::vector<std::string> complaints(const Loaded& loaded, const Json& outcome, const Json* with_dll) {
+    std::vector<std::string> lines;
+    if (!outcome.at("error").is_null()) lines.push_back("error: " + outcome["error"].dump());
     if (loaded.scenario.expect)
-        for (const auto& line : mismatches(*loaded.scenario.expect, outcome)) complain(line);
-    return good;
+        for (auto& line : mismatches(*loaded.scenario.expect, outcome)) lines.push_back(std::move(line));
+    if (with_dll)
+        for (const auto& difference : differences(outcome, *with_dll)) lines.push_back(to_line(difference));
+    return lines;
+}
+
+/// Notes are said once for each file: cases share the world that most of them are about.
+void tell_notes(const std::vector<Loaded>& all, const std::vector<Json>& outcomes) {
+    std::set<std::string> said;
+    for (std::size_t i = 0; i < all.size(); ++i)
+        for (const auto& note : notes_on(all[i].scenario, outcomes[i]))
+            if (said.insert(all[i].file + ": " + note).second)
+                std::cerr << "note: " << all[i].source << ": " << note << '\n';
+}
+
+bool is_good(const Loaded& loaded, const Json& outcome, const Json* with_dll) {
+    const auto lines = complaints(loaded, outcome, with_dll);
+    for (const auto& line : lines) std::cerr << loaded.source << ": " << line << '\n';
+    return lines.empty();
 }
 
 void write_out(const std::string& file, const Json& outcome) {
@@ -74,12 +57,17 @@ void write_out(const std::string& file, const Json& outcome) {
 }
 
 int rehearse(const CommandLine& line) {
-    std::vector<Loaded> all;
-    for (const auto& file : line.scenarios) all.push_back(load(file, line.binding));
-    const Json outcomes = play(all, line.binding);
+    const auto all = load(line.scenarios, line.binding);
+    std::vector<Json> outcomes, with_dll;
+    if (line.binding != Binding::wine) outcomes = play_natively(all);
+    if (line.binding != Binding::native) with_dll = play_under_wine(all);
+    if (line.binding == Binding::wine) outcomes.swap(with_dll);
+    tell_notes(all, outcomes);
     bool good = true;
-    for (std::size_t i = 0; i < all.size(); ++i) good = is_good(all[i], outcomes[i]) && good;
-    write_out(line.out, outcomes.size() == 1 ? outcomes[0] : outcomes);
+    for (std::size_t i = 0; i < all.size(); ++i)
+        good = is_good(all[i], outcomes[i], with_dll.empty() ? nullptr : &with_dll[i]) && good;
+    const bool single = line.scenarios.size() == 1 && all.size() == 1 && !all[0].is_of_suite();
+    write_out(line.out, single ? outcomes[0] : Json(outcomes));
     return good ? exit_played : exit_failed;
 }
 
@@ -89,7 +77,10 @@ int rehearse(const CommandLine& line) {
 int main(int count, char** words) {
     using namespace ornavel::rehearsal;
     try {
-        return rehearse(read_command_line(count, words));
+        const CommandLine line = read_command_line({words + 1, words + count});
+        if (!line.help) return rehearse(line);
+        std::cout << help_text;
+        return exit_played;
     } catch (const Unusable& error) {
         std::cerr << error.what() << '\n';
         return exit_unusable;

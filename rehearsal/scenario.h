@@ -10,7 +10,8 @@
 
 namespace ornavel::rehearsal {
 
-enum class Binding { native, wine };
+/// What plays a scenario: the add-in's code in this program, the real DLL, or one after the other.
+enum class Binding { native, wine, both };
 
 struct ExpandText {
     Text text;
@@ -154,10 +155,9 @@ struct Scenario {
     std::optional<Json> expect;
 };
 
-/// Reads a scenario strictly: whatever the contract does not list is Unusable, and so is what only the
-/// native binding can play when the binding is another. The file's path names the source and is where "from"
-/// files are looked for.
-Scenario read_scenario(const Json& json, const std::string& file, Binding binding);
+/// Reads a whole scenario strictly: whatever the contract does not list is Unusable, and so is what only the
+/// native binding can play when the binding is another. The source names the scenario in messages.
+Scenario read_scenario(const Json& json, const std::string& source, Binding binding);
 
 /// The same scenario with every file's contents inside, so that it can be played anywhere.
 Json with_files_inside(Json json, const Scenario& scenario);

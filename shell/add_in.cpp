@@ -86,7 +86,8 @@ HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VAR
     return at_boundary(this, [&] {
         switch (id) {
         case on_connection:
-            connect_.OnConnection(host::Application(host::as_object_or_nothing(argument(parameters, 0))));
+            connect_.OnConnection(host::Application(host::as_object_or_nothing(argument(parameters, 0))),
+                                  host::as_number(argument(parameters, 1)));
             break;
         case on_disconnection:
             connect_.OnDisconnection(host::as_number(argument(parameters, 0)));
@@ -104,9 +105,9 @@ HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VAR
     });
 }
 
-HRESULT AddIn::OnConnection(IDispatch* Application, LONG, IDispatch*, SAFEARRAY**) {
-    return at_boundary(this,
-                       [&] { connect_.OnConnection(host::Application(win32::object_of(Application))); });
+HRESULT AddIn::OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch*, SAFEARRAY**) {
+    return at_boundary(
+        this, [&] { connect_.OnConnection(host::Application(win32::object_of(Application)), ConnectMode); });
 }
 
 HRESULT AddIn::OnDisconnection(LONG RemoveMode, SAFEARRAY**) {

@@ -7,7 +7,8 @@
 
 namespace ornavel::rehearsal {
 
-/// A folder of its own that goes with everything in it.
+/// A folder of its own that goes with everything in it. An interruption (INT, TERM, HUP) waits for that, and
+/// then ends the program.
 class ScratchFolder {
 public:
     ScratchFolder();
@@ -21,7 +22,7 @@ private:
 };
 
 /// Runs the body in a process of its own; its result is the exit code. Gives the code, or the number of the
-/// signal that ended the process, negative.
+/// signal that ended the process, negative. An interruption ends that process, and is Unusable here.
 int run_apart(const std::function<int()>& body);
 
 /// What a player in a process of its own left in a file. It ends with 2 where the scenario can't be played,

@@ -6,6 +6,7 @@
 #include "forms/unloading.h"
 #include "rehearsal/form_record.h"
 #include "rehearsal/native/form_player.h"
+#include "rehearsal/native/watching.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -63,7 +64,8 @@ void MemoryMachine::change_settings(const SettingsTree& settings) {
 }
 
 std::optional<Text> MemoryMachine::prompt(TextView mode) {
-    forms::PromptDialog dialog(*this, forms::built_in_strings());
+    const WatchedStrings strings(journal_);
+    forms::PromptDialog dialog(*this, strings);
     attempt([&] { dialog.ask(mode); }); // like every caller in the add-in
     return dialog.values().answer;
 }

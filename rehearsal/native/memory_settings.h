@@ -18,7 +18,7 @@ public:
         attempt([&] {
             failures_.use(Failing::Kind::read_setting, key);
             value = failures_.given(store_.find(section, key));
-            journal_.note(Deed::read_setting, named(section, key), value.value_or(Text()));
+            journal_.note(Deed::read_setting, named(section, key), value.value_or(Text()), value.has_value());
         });
         return value;
     }

@@ -1,9 +1,9 @@
 #include "rehearsal/native/native_play.h"
 
 #include "connect/connect.h"
-#include "forms/string_table.h"
 #include "rehearsal/native/apart.h"
 #include "rehearsal/native/memory_machine.h"
+#include "rehearsal/native/watching.h"
 #include "rehearsal/outcome.h"
 
 #include <fstream>
@@ -19,10 +19,10 @@ public:
     explicit NativeAddIn(connect::Platform platform)
         : platform_(std::move(platform)), connect_(std::make_unique<connect::Connect>(platform_)) {}
 
-    void connect(const host::ObjectPtr& application, int) override {
+    void connect(const host::ObjectPtr& application, int mode) override {
         if (was_connected_) connect_ = std::make_unique<connect::Connect>(platform_);
         was_connected_ = true;
-        connect_->OnConnection(host::Application(application));
+        connect_->OnConnection(host::Application(application), mode);
     }
     void start() override { connect_->OnStartupComplete(); }
     void update() override { connect_->OnAddInsUpdate(); }
@@ -61,19 +61,22 @@ Json play_here(const Scenario& scenario, const std::string& source, Journal& jou
     machine.prepare(scenario);
     const Snapshot before = machine.snapshot();
     MailClient client(scenario, machine, failures, journal);
-    const auto on_gate = [&](TextView gate, bool passed) {
-        journal.note(Deed::gate, Text(gate), passed ? u"passed" : u"left");
+    const WatchedStrings strings(journal);
+    const auto on_gate = [&](TextView gate, connect::Verdict verdict) {
+        journal.note(Deed::gate, Text(gate), name_of(verdict));
     };
+    const auto on_trap = [&](TrapName trap) { journal.note(Deed::trap, name_of(trap), as_logged(trap)); };
     NativeAddIn addin(connect::Platform{.settings = machine.addin_settings(),
                                         .files = machine.addin_files(),
                                         .clock = machine.addin_clock(),
                                         .launcher = machine.addin_launcher(),
                                         .objects = client,
                                         .windows = machine.addin_windows(),
-                                        .strings = forms::built_in_strings(),
+                                        .strings = strings,
                                         .machine = machine.addin_machine(),
                                         .addin_folder = scenario.computer.addin_folder,
-                                        .on_gate = on_gate});
+                                        .on_gate = on_gate,
+                                        .on_trap = on_trap});
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);

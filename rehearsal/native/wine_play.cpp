@@ -3,19 +3,27 @@
 #include "rehearsal/native/apart.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 
 #include <unistd.h>
 
 namespace ornavel::rehearsal {
+
+namespace fs = std::filesystem;
+
 namespace {
 
-/// A path of the build, unless the environment names another.
-std::string part_of_build(const char* variable, const char* built) {
-    const char* given = std::getenv(variable);
-    const std::string path = given ? given : built;
-    if (!std::filesystem::exists(path)) throw Unusable(path + ": is not there; the wine binding needs it");
+/// The checkout in whose build folder this program lies: it may have been moved since it was built.
+fs::path checkout() {
+    const fs::path program = fs::read_symlink("/proc/self/exe");
+    for (fs::path folder = program.parent_path(); folder.has_relative_path(); folder = folder.parent_path())
+        if (fs::exists(folder / "tools/wine/run")) return folder;
+    throw Unusable(program.string() + ": is not in a checkout; the wine binding needs its tools");
+}
+
+std::string part_of_checkout(const char* name) {
+    const fs::path path = checkout() / name;
+    if (!fs::exists(path)) throw Unusable(path.string() + ": is not there; the wine binding needs it");
     return path;
 }
 
@@ -36,8 +44,8 @@ constexpr std::size_t most_at_once = 200;
 class Windows {
 public:
     explicit Windows(const std::vector<Loaded>& scenarios)
-        : scenarios_(scenarios), runner_(part_of_build("ORNAVEL_WINE_RUN", ORNAVEL_WINE_RUNNER)),
-          player_(part_of_build("ORNAVEL_WINE_REHEARSE", ORNAVEL_WINE_PLAYER)) {
+        : scenarios_(scenarios), runner_(part_of_checkout("tools/wine/run")),
+          player_(part_of_checkout("build/windows/rehearsal/rehearse.exe")) {
         for (std::size_t i = 0; i < scenarios.size(); ++i)
             std::ofstream(in(i), std::ios::binary)
                 << to_json_text(with_files_inside(scenarios[i].json, scenarios[i].scenario));
@@ -48,7 +56,7 @@ public:
         const int code = run_apart([&] { return become(command(outcomes.size())); });
         for (bool last = false; !last;) {
             const std::size_t i = outcomes.size();
-            last = i + 1 == scenarios_.size() || !std::filesystem::exists(out(i + 1));
+            last = i + 1 == scenarios_.size() || !fs::exists(out(i + 1));
             // The process's exit code is about the last scenario that it came to.
             outcomes.push_back(collect(i, last ? code : 0));
         }
@@ -56,12 +64,12 @@ public:
 
 private:
     Json collect(std::size_t i, int code) const {
-        const auto& [file, json, scenario] = scenarios_[i];
+        const Loaded& loaded = scenarios_[i];
+        const std::string copy = "Z:" + in(i);
         try {
-            return collect_outcome(code, out(i), scenario, file);
+            return collect_outcome(code, out(i), loaded.scenario, copy);
         } catch (const Unusable& error) {
-            const std::string reason = error.what(), copy = "Z:" + in(i);
-            throw Unusable(reason.starts_with(copy) ? file + reason.substr(copy.size()) : reason);
+            throw Unusable(loaded.source + std::string(error.what()).substr(copy.size()));
         }
     }
 
@@ -69,7 +77,7 @@ private:
     std::string out(std::size_t i) const { return scratch_ / ("outcome" + std::to_string(i) + ".json"); }
 
     std::vector<std::string> command(std::size_t first) const {
-        std::vector<std::string> words{runner_, player_};
+        std::vector<std::string> words{runner_, "--alone", player_};
         const std::size_t end = std::min(scenarios_.size(), first + most_at_once);
         for (std::size_t i = first; i < end; ++i) {
             words.push_back("Z:" + in(i));

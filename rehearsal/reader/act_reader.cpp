@@ -10,9 +10,11 @@ using Kind = Act::Kind;
 struct ActShape {
     const char* name;
     Kind kind;
-    void (*read)(Act&, const Place&); ///< null for an act without a value
+    void (*read)(Act&, const Place&); ///< null for an act that its name says whole
 };
 
+/// Connecting without a mode is the start-up's.
+void read_start_up_mode(Act& act, const Place&) { act.number = 1; }
 void read_number(Act& act, const Place& at) { act.number = at.small_number(); }
 void read_index(Act& act, const Place& at) { act.number = at.small_number(0); }
 void read_text(Act& act, const Place& at) { act.text = at.text(); }
@@ -29,8 +31,10 @@ void read_tray(Act& act, const Place& at) {
 }
 
 constexpr ActShape bare_acts[] = {
-    {"connect", Kind::connect, nullptr},   {"start", Kind::start, nullptr},
-    {"update", Kind::update, nullptr},     {"options", Kind::options, nullptr},
+    {"connect", Kind::connect, read_start_up_mode},
+    {"start", Kind::start, nullptr},
+    {"update", Kind::update, nullptr},
+    {"options", Kind::options, nullptr},
     {"shutdown", Kind::shutdown, nullptr},
 };
 
@@ -128,7 +132,9 @@ Act read_act(const Place& place) {
     act.given = place.json();
     act.path = place.path();
     if (place.is_text()) {
-        act.kind = find_shape(bare_acts, place.bytes(), place).kind;
+        const auto& shape = find_shape(bare_acts, place.bytes(), place);
+        act.kind = shape.kind;
+        if (shape.read) shape.read(act, place);
         return act;
     }
     if (!place.is_object() || place.size() != 1) place.refuse("expected an act");
@@ -152,13 +158,25 @@ void check_acts(const Scenario& scenario, const std::string& source) {
     }
 }
 
+/// Under Wine drive C is the rehearsal's own; any other belongs to this machine.
+void check_addin_folder(const Place& scenario) {
+    if (!scenario.json().contains("computer") || !scenario.json()["computer"].contains("addin folder"))
+        return;
+    const Place folder = scenario.member("computer").member("addin folder");
+    if (!same_name(folder.text().substr(0, 3), u"C:\\"))
+        folder.refuse("another drive than C works only with --binding native");
+}
+
 void check_native_only(const Place& scenario) {
-    const auto refuse = [](const Place& place) { place.refuse("native only"); };
+    const auto refuse = [](const Place& place) {
+        place.refuse("native only: works only with --binding native");
+    };
     const Json& json = scenario.json();
     if (json.contains("clock")) refuse(scenario.member("clock"));
     if (json.contains("computer"))
         for (const auto& [name, value] : json["computer"].items())
             if (name != "addin folder") refuse(scenario.member("computer").member(name));
+    check_addin_folder(scenario);
     if (json.contains("fail"))
         scenario.member("fail").each_element([&](const Place& entry) {
             if (!entry.json().contains("member")) refuse(entry);

@@ -37,13 +37,13 @@ void read_members(Scenario& scenario, const Place& place) {
 
 } // namespace
 
-Scenario read_scenario(const Json& json, const std::string& file, Binding binding) {
-    const Place place(json, file);
+Scenario read_scenario(const Json& json, const std::string& source, Binding binding) {
+    const Place place(json, source);
     Scenario scenario;
     read_members(scenario, place);
     if (json.contains("folders")) scenario.folders = read_folders(place.member("folders"), scenario.files);
     if (!json.contains("do")) place.refuse("do: missing");
-    check_acts(scenario, file);
+    check_acts(scenario, source);
     if (binding != Binding::native) check_native_only(place);
     return scenario;
 }

@@ -13,16 +13,9 @@ bool is_full_path(TextView path) {
            path.find(u"\\\\", 2) == TextView::npos;
 }
 
-/// The folder of the scenario's own file, with the separator at its end.
-std::string folder_of(const std::string& file) {
-    const auto end = file.find_last_of("/\\");
-    return end == std::string::npos ? std::string() : file.substr(0, end + 1);
-}
-
-std::string read_beside(const Place& place) {
-    const auto name = place.bytes();
+std::string read_other_file(const Place& place) {
     try {
-        return load_file(name.starts_with('/') ? name : folder_of(place.source()) + name);
+        return load_file(place.bytes());
     } catch (const Unusable&) {
         place.refuse("no such file");
     }
@@ -40,7 +33,7 @@ std::string read_contents(const Place& place) {
              if (!decoded) at.refuse("not base64");
              bytes = *decoded;
          }},
-        {"from", [&](const Place& at) { bytes = read_beside(at); }},
+        {"from", [&](const Place& at) { bytes = read_other_file(at); }},
     });
     return bytes;
 }

@@ -13,7 +13,4 @@ Story gather(Scenario scenario, const std::string& source, const std::optional<J
 /// The items on their way out, in the order of the acts.
 std::vector<Send> sends_of(const Scenario& scenario, const Json& outcome, const Journal& journal);
 
-/// The members in which two outcomes differ. Times and dates of logs never count.
-std::vector<std::string> differences(const Json& left, const Json& right);
-
 } // namespace ornavel::rehearsal::report

@@ -41,13 +41,12 @@ bool is_good(const Story& story) {
 }
 
 int report(const CommandLine& line) {
-    std::vector<Loaded> all;
-    for (const auto& file : line.scenarios) all.push_back(load(file, line.binding));
+    const auto all = load(line.scenarios, line.binding);
     std::vector<Json> with_dll;
     if (line.binding == Binding::wine) with_dll = play_under_wine(all);
     std::vector<Story> stories;
     for (std::size_t i = 0; i < all.size(); ++i) {
-        stories.push_back(gather(all[i].scenario, all[i].file,
+        stories.push_back(gather(all[i].scenario, all[i].source,
                                  with_dll.empty() ? std::nullopt : std::optional(with_dll[i])));
         print(stories.back());
     }

@@ -24,7 +24,7 @@ struct Story {
     Scenario scenario;
     Json outcome;                         ///< with the real DLL where it was played so, else native
     bool with_dll = false;                ///< which of the two
-    std::vector<std::string> differences; ///< the parts in which the two outcomes differ
+    std::vector<std::string> differences; ///< where the two outcomes differ
     std::vector<std::string> mismatches;  ///< with what the scenario expects
     std::vector<JournalEntry> journal;    ///< of the native play
     std::vector<Send> sends;

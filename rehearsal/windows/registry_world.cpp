@@ -1,6 +1,7 @@
 #include "rehearsal/windows/registry_world.h"
 
 #include "base/errors.h"
+#include "rehearsal/windows/registry_keys.h"
 #include "win32/registry.h"
 #include "win32/wide.h"
 
@@ -13,79 +14,6 @@ constexpr TextView left_out[] = {u"Software\\Classes", u"Software\\Wine", u"Vola
                                  settings_key,
                                  u"Software\\Microsoft\\Office\\Outlook\\Addins\\Ornavel.Connect"};
 
-/// The path below the user's root. Any other root is out of a rehearsal's reach.
-Text below_user(TextView key) {
-    if (!same_name(key.substr(0, user_root.size()), user_root))
-        throw Unusable(to_utf8(key) + ": only keys of HKEY_CURRENT_USER can be rehearsed");
-    return Text(key.substr(user_root.size()));
-}
-
-class OpenKey {
-public:
-    OpenKey(TextView path, REGSAM access) {
-        if (RegOpenKeyExW(HKEY_CURRENT_USER, win32::wide(path).c_str(), 0, access, &key_) != ERROR_SUCCESS)
-            key_ = nullptr;
-    }
-    ~OpenKey() {
-        if (key_) RegCloseKey(key_);
-    }
-    OpenKey(const OpenKey&) = delete;
-    OpenKey& operator=(const OpenKey&) = delete;
-    HKEY get() const { return key_; }
-    explicit operator bool() const { return key_ != nullptr; }
-
-private:
-    HKEY key_ = nullptr;
-};
-
-Text without_end(const std::string& bytes) {
-    std::wstring text(reinterpret_cast<const wchar_t*>(bytes.data()), bytes.size() / sizeof(wchar_t));
-    text.resize(text.find_last_not_of(L'\0') + 1);
-    return win32::text_of(text);
-}
-
-std::optional<RegistryValue> value_of(DWORD type, const std::string& bytes) {
-    if (type == REG_DWORD && bytes.size() == sizeof(DWORD)) {
-        std::uint32_t number = 0;
-        bytes.copy(reinterpret_cast<char*>(&number), sizeof number);
-        return number;
-    }
-    if (type == REG_SZ) return without_end(bytes);
-    if (type == REG_EXPAND_SZ) return ExpandText{without_end(bytes)};
-    return {};
-}
-
-ByName<RegistryValue> values_of(HKEY key) {
-    ByName<RegistryValue> values;
-    DWORD count = 0, longest_name = 0, longest_value = 0;
-    RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count, &longest_name,
-                     &longest_value, nullptr, nullptr);
-    std::wstring name(longest_name + 1, L'\0');
-    std::string bytes(longest_value, '\0');
-    for (DWORD index = 0; index < count; ++index) {
-        auto length = static_cast<DWORD>(name.size());
-        auto size = static_cast<DWORD>(bytes.size());
-        DWORD type = REG_NONE;
-        RegEnumValueW(key, index, name.data(), &length, nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()),
-                      &size);
-        if (auto value = value_of(type, bytes.substr(0, size)))
-            values[win32::text_of({name.data(), length})] = std::move(*value);
-    }
-    return values;
-}
-
-std::vector<Text> subkeys_of(HKEY key) {
-    std::vector<Text> names;
-    wchar_t name[256];
-    DWORD length = ARRAYSIZE(name);
-    while (RegEnumKeyExW(key, static_cast<DWORD>(names.size()), name, &length, nullptr, nullptr, nullptr,
-                         nullptr) == 0) {
-        names.push_back(win32::text_of({name, length}));
-        length = ARRAYSIZE(name);
-    }
-    return names;
-}
-
 bool is_left_out(TextView path) {
     for (const TextView key : left_out)
         if (same_name(path, key)) return true;
@@ -97,26 +25,25 @@ Text below(Text key, TextView name) {
     return key.append(name);
 }
 
+/// Keys of the user's part, from a path below its root on.
 void collect(const Text& path, ByName<ByName<RegistryValue>>& keys) {
     if (is_left_out(path)) return;
-    const OpenKey key(path, KEY_READ);
+    const OpenKey key({HKEY_CURRENT_USER, path}, KEY_READ);
     if (!key) return;
     if (!path.empty()) keys[Text(user_root).append(path)] = values_of(key.get());
     for (const Text& name : subkeys_of(key.get())) collect(below(path, name), keys);
 }
 
-void write(HKEY key, TextView name, const RegistryValue& value) {
-    const std::wstring wide_name = win32::wide(name);
-    if (const auto* number = std::get_if<std::uint32_t>(&value)) {
-        RegSetValueExW(key, wide_name.c_str(), 0, REG_DWORD, reinterpret_cast<const BYTE*>(number),
-                       sizeof *number);
-        return;
-    }
-    const auto* expand = std::get_if<ExpandText>(&value);
-    const std::wstring text = win32::wide(expand ? expand->text : std::get<Text>(value));
-    RegSetValueExW(key, wide_name.c_str(), 0, expand ? REG_EXPAND_SZ : REG_SZ,
-                   reinterpret_cast<const BYTE*>(text.c_str()),
-                   static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+std::optional<ByName<RegistryValue>> values_at(TextView key) {
+    const OpenKey open(address_of(key), KEY_READ);
+    if (!open) return {};
+    return values_of(open.get());
+}
+
+void restore(const KeyAddress& key, const ByName<RegistryValue>& before, const ByName<RegistryValue>& after) {
+    for (const auto& [name, value] : after)
+        if (!before.contains(name)) remove_value(key, name);
+    for (const auto& [name, value] : before) write_value(key, name, value);
 }
 
 } // namespace
@@ -127,22 +54,31 @@ RegistryWorld::RegistryWorld() {
 }
 
 std::optional<RegistryValue> RegistryWorld::find(TextView key, TextView name) const {
-    const OpenKey open(below_user(key), KEY_READ);
-    if (!open) return {};
-    const auto values = values_of(open.get());
-    const auto value = values.find(name);
-    if (value == values.end()) return {};
+    const auto values = values_at(key);
+    if (!values) return {};
+    const auto value = values->find(name);
+    if (value == values->end()) return {};
     return value->second;
 }
 
+/// Of a key that is not there the keys above it are noted too: they are made with it.
+void RegistryWorld::note_before(TextView key) {
+    if (same_name(key.substr(0, user_root.size()), user_root)) return;
+    for (TextView at = key; at.find(u'\\') != TextView::npos; at = at.substr(0, at.find_last_of(u'\\'))) {
+        const bool is_there = found_before_.try_emplace(Text(at), values_at(at)).first->second.has_value();
+        if (is_there) return;
+    }
+}
+
 void RegistryWorld::set(TextView key, TextView name, RegistryValue value) {
-    const Text path = below_user(key);
-    win32::RegistryKey::create(path);
-    write(OpenKey(path, KEY_WRITE).get(), name, value);
+    note_before(key);
+    write_value(address_of(key), name, value);
 }
 
 bool RegistryWorld::remove_key(TextView key) {
-    return RegDeleteKeyW(HKEY_CURRENT_USER, win32::wide(below_user(key)).c_str()) == ERROR_SUCCESS;
+    note_before(key);
+    const auto [root, path] = address_of(key);
+    return RegDeleteKeyW(root, win32::wide(path).c_str()) == ERROR_SUCCESS;
 }
 
 void RegistryWorld::change_settings(const SettingsTree& settings) {
@@ -154,10 +90,12 @@ void RegistryWorld::change_settings(const SettingsTree& settings) {
 
 void RegistryWorld::add_to(Snapshot& snapshot) const {
     collect({}, snapshot.registry);
-    const OpenKey settings(settings_key, KEY_READ);
+    for (const auto& [key, values] : found_before_)
+        if (auto now = values_at(key)) snapshot.registry[key] = std::move(*now);
+    const OpenKey settings({HKEY_CURRENT_USER, Text(settings_key)}, KEY_READ);
     if (!settings) return;
     for (const Text& section : subkeys_of(settings.get())) {
-        const OpenKey key(below(Text(settings_key), section), KEY_READ);
+        const OpenKey key({HKEY_CURRENT_USER, below(Text(settings_key), section)}, KEY_READ);
         for (const auto& [name, value] : values_of(key.get()))
             if (const auto* text = std::get_if<Text>(&value)) snapshot.settings[section][name] = *text;
     }
@@ -166,16 +104,17 @@ void RegistryWorld::add_to(Snapshot& snapshot) const {
 void RegistryWorld::put_back() {
     attempt([&] {
         win32::remove_key(settings_key);
-        ByName<ByName<RegistryValue>> after;
+        ByName<Values> after;
         collect({}, after);
         for (const auto& [key, values] : after)
-            if (!before_.contains(key)) win32::remove_key(below_user(key));
-        for (const auto& [key, values] : before_) {
-            if (after[key] == values) continue;
-            for (const auto& [name, value] : after[key])
-                if (!values.contains(name))
-                    RegDeleteValueW(OpenKey(below_user(key), KEY_WRITE).get(), win32::wide(name).c_str());
-            for (const auto& [name, value] : values) set(key, name, value);
+            if (!before_.contains(key)) remove_tree(address_of(key));
+        for (const auto& [key, values] : before_)
+            if (after[key] != values) restore(address_of(key), values, after[key]);
+        for (const auto& [key, values] : found_before_) {
+            if (!values)
+                remove_tree(address_of(key));
+            else
+                restore(address_of(key), *values, values_at(key).value_or(Values{}));
         }
     });
 }

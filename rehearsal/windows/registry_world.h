@@ -4,8 +4,8 @@
 
 namespace ornavel::rehearsal {
 
-/// The current user's registry, without the classes and Wine's own part. What a rehearsal changes is put back
-/// at its end.
+/// The registry: of the current user's part all but the classes and Wine's own, of the other roots the keys
+/// that a rehearsal writes or removes. What a rehearsal changes is put back at its end.
 class RegistryWorld final : public Registry {
 public:
     RegistryWorld();
@@ -22,7 +22,12 @@ public:
     void put_back();
 
 private:
-    ByName<ByName<RegistryValue>> before_;
+    using Values = ByName<RegistryValue>;
+
+    void note_before(TextView key);
+
+    ByName<Values> before_;                      ///< all of the user's part
+    ByName<std::optional<Values>> found_before_; ///< of other roots; nothing for a key that was not there
 };
 
 } // namespace ornavel::rehearsal

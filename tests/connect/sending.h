@@ -43,7 +43,7 @@ private:
 class Sending : public testing::Test {
 protected:
     Sending() {
-        addin.OnConnection(stage.application());
+        addin.OnConnection(stage.application(), Connect::at_startup);
         addin.OnStartupComplete();
     }
     ~Sending() override {
@@ -77,8 +77,8 @@ protected:
                            .strings = forms::built_in_strings(),
                            .machine = stage.machine.addin_machine(),
                            .addin_folder = u"C:\\app",
-                           .on_gate = [this](TextView gate, bool through) {
-                               if (through) passed.emplace_back(gate);
+                           .on_gate = [this](TextView gate, Verdict verdict) {
+                               if (verdict != Verdict::leave) passed.emplace_back(gate);
                            }}};
 };
 

@@ -104,6 +104,17 @@ TEST_F(ErrorReporterTest, AnErrorIsLoggedAndTheUserIsAskedInTheSupportMode) {
     EXPECT_EQ(read(store, admin::ErrorFileLocation), log_path);
 }
 
+TEST_F(ErrorReporterTest, WhoWatchesIsToldEveryTrapAlsoWhereTheErrorIsExcepted) {
+    std::vector<Text> sprung;
+    ErrorReporter watched{{store, log, prompt, machine, objects, application, u"C:\\addin",
+                           [&](TrapName trap) { sprung.push_back(Text(trap.section) + Text(trap.place)); }}};
+    save(store, admin::ErrorFileExceptions, u"Disk full");
+    watched.take(u"Disk full", {u"CreateHTMLBody", u"Merge_Err", u" in a place"});
+    watched.Write_to_error_file(u"Disk full", u"CreateHTMLBody", u"CreateHTM_Err");
+    EXPECT_EQ(sprung, (std::vector<Text>{u"Merge_Err in a place", u"CreateHTM_Err"}));
+    EXPECT_EQ(logged(), "");
+}
+
 TEST_F(ErrorReporterTest, DecliningKeepsTheLogLineAndMakesNoMail) {
     raise();
     EXPECT_EQ(logged(), line);

@@ -60,13 +60,13 @@ struct Tally {
 Play play(const Loaded& loaded, Failures& failures) {
     Journal journal;
     Play result;
-    result.outcome = play_here(loaded.scenario, loaded.file, journal, failures);
+    result.outcome = play_here(loaded.scenario, loaded.source, journal, failures);
     result.sends = report::sends_of(loaded.scenario, result.outcome, journal);
     return result;
 }
 
 void tell(const Loaded& loaded, std::size_t use, const Planted& planted, const Verdict& verdict) {
-    std::cerr << loaded.file << ": use " << use << " (" << to_utf8(planted.use.subject) << ", "
+    std::cerr << loaded.source << ": use " << use << " (" << to_utf8(planted.use.subject) << ", "
               << kind_names[static_cast<int>(planted.fault)] << "):" << (verdict.escaped ? " escaped" : "")
               << (verdict.blocked ? " blocked" : "") << (verdict.half_dressed ? " half-dressed" : "")
               << (verdict.leaked ? " leaked" : "") << (verdict.silent ? " silent" : "") << '\n';
@@ -122,20 +122,21 @@ std::size_t run_in_processes(std::size_t tasks, const std::function<void(std::si
 }
 
 Tally replay_everything(const std::vector<std::string>& files) {
+    const auto all = load(files, Binding::native);
     const ScratchFolder scratch;
     const auto result = [&](std::size_t i) { return scratch / std::to_string(i); };
     Tally sum;
-    sum.escaped = run_in_processes(files.size(), [&](std::size_t i) {
-        const Tally tally = replay_all(load(files[i], Binding::native));
+    sum.escaped = run_in_processes(all.size(), [&](std::size_t i) {
+        const Tally tally = replay_all(all[i]);
         std::ofstream(result(i), std::ios::binary).write(reinterpret_cast<const char*>(&tally), sizeof tally);
     });
-    for (std::size_t i = 0; i < files.size(); ++i) {
+    for (std::size_t i = 0; i < all.size(); ++i) {
         Tally tally;
         std::ifstream stream(result(i), std::ios::binary);
         if (stream.read(reinterpret_cast<char*>(&tally), sizeof tally))
             sum.add(tally);
         else
-            std::cerr << files[i] << ": the add-in crashed\n";
+            std::cerr << all[i].source << ": the add-in crashed\n";
     }
     return sum;
 }
@@ -146,6 +147,8 @@ Json with_failure(const Loaded& loaded, const std::vector<Failures::Use>& uses, 
     const auto of_member = std::count_if(uses.begin(), uses.begin() + static_cast<std::ptrdiff_t>(use) + 1,
                                          [&](const auto& other) { return other.subject == member; });
     Json scenario = with_files_inside(loaded.json, loaded.scenario);
+    scenario["name"] =
+        to_utf8(loaded.scenario.name + u", " + member + u" fails at use " + to_text(of_member));
     scenario.erase("expect");
     scenario["fail"].push_back({{"member", to_json(member)}, {"use", of_member}});
     return scenario;
@@ -163,20 +166,20 @@ bool is_playable(const Loaded& loaded, std::size_t use) {
     }
 }
 
-/// Spread evenly over all uses of all scenarios.
-void leave_samples(std::size_t wanted, const std::string& folder, const std::vector<std::string>& files) {
+/// A suite of cases spread evenly over all uses of all scenarios.
+void leave_samples(std::size_t wanted, const std::string& suite, const std::vector<std::string>& files) {
     std::vector<Json> all;
-    for (const auto& file : files) {
-        const Loaded loaded = load(file, Binding::wine);
+    for (const Loaded& loaded : load(files, Binding::wine)) {
         Failures failures(loaded.scenario.fail);
         play(loaded, failures);
         for (std::size_t use = 0; use < failures.uses().size(); ++use)
             if (failures.uses()[use].kind == Failing::Kind::member && is_playable(loaded, use))
                 all.push_back(with_failure(loaded, failures.uses(), use));
     }
+    Json cases = Json::array();
     for (std::size_t i = 0; i < wanted && i < all.size(); ++i)
-        std::ofstream(folder + "/" + std::to_string(i) + ".json")
-            << to_json_text(all[i * all.size() / std::min(wanted, all.size())]);
+        cases.push_back(all[i * all.size() / std::min(wanted, all.size())]);
+    std::ofstream(suite) << to_json_text({{"about", "one use that fails"}, {"cases", std::move(cases)}});
 }
 
 int print(const Tally& tally) {

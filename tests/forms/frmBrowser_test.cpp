@@ -37,6 +37,8 @@ protected:
         windows.show_modal(preview.form());
     }
 
+    std::optional<Text> stored(const Key& key) const { return store.find(key.section, key.name); }
+
     MemoryStore store;
     MemoryFiles files;
     RecordingReports errors;
@@ -182,10 +184,10 @@ TEST_F(PreviewWindow, TheBrowserTakesWhatTheWindowLeaves) {
 
 TEST_F(PreviewWindow, ItsPlaceIsKeptAsTwips) {
     show([](Form&, FormUser user) { user.move(300, 450); });
-    EXPECT_EQ(read(store, user::BrowserLeft), u"300");
-    EXPECT_EQ(read(store, user::BrowserTop), u"450");
-    EXPECT_EQ(read(store, user::BrowserWidth), u"10170");
-    EXPECT_EQ(read(store, user::BrowserHeight), u"6000");
+    EXPECT_EQ(stored(user::BrowserLeft), u"300");
+    EXPECT_EQ(stored(user::BrowserTop), u"450");
+    EXPECT_EQ(stored(user::BrowserWidth), u"10170");
+    EXPECT_EQ(stored(user::BrowserHeight), u"6000");
 }
 
 } // namespace

@@ -10,7 +10,7 @@ const char* const outcome =
                                 "error": null, "toolbar": []})";
 
 std::vector<std::string> compare(const char* expected) {
-    return mismatches(Json::parse(expected), Json::parse(outcome));
+    return mismatches(parse_json(expected, "expected"), parse_json(outcome, "outcome"));
 }
 
 TEST(Expectation, IsMetByMoreThanItNames) {

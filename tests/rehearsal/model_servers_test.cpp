@@ -86,10 +86,10 @@ TEST(Browser, EachUseIsWrittenDown) {
     browser->put({u"AddressBar"}, false);
     browser->put({u"Visible"}, true);
     browser->call({u"Quit"});
-    EXPECT_EQ(
-        stage.client.browser,
-        Json::parse(
-            R"([{"Navigate": "C:\\a.html"}, {"AddressBar": false}, {"Visible": true}, {"Quit": null}])"));
+    EXPECT_EQ(stage.client.browser,
+              parse_json(
+                  R"([{"Navigate": "C:\\a.html"}, {"AddressBar": false}, {"Visible": true}, {"Quit": null}])",
+                  "expected"));
     EXPECT_NE(description_of([&] { browser->call({u"Quit"}); }), u"nothing failed");
 }
 

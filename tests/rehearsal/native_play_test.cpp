@@ -5,7 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <filesystem>
 #include <fstream>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace ornavel::rehearsal {
 namespace {
@@ -34,6 +38,42 @@ TEST(Apart, TheReasonOfAnUnusableScenarioComesBack) {
     } catch (const Unusable& error) {
         EXPECT_STREQ(error.what(), "a.json: do[0]: no such button");
     }
+}
+
+TEST(Apart, AReasonThatNamesNoScenarioIsGivenItsName) {
+    const ScratchFolder scratch;
+    const std::string file = scratch / "outcome.json";
+    std::ofstream(file) << "no window could be had";
+    try {
+        collect_outcome(2, file, {}, "a.json");
+        ADD_FAILURE() << "accepted";
+    } catch (const Unusable& error) {
+        EXPECT_STREQ(error.what(), "a.json: no window could be had");
+    }
+}
+
+TEST(Apart, AnInterruptionTakesTheScratchFolderAndTheProcessThatPlaysAlong) {
+    const ScratchFolder notes;
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    const pid_t play = fork();
+    if (play == 0) {
+        const ScratchFolder scratch;
+        std::ofstream(notes / "path") << scratch / "";
+        run_apart([&]() -> int {
+            std::ofstream(notes / "player") << getpid();
+            return write(ready[1], "!", 1) == 1 ? pause() : 0;
+        });
+        _exit(0);
+    }
+    char sign = 0;
+    ASSERT_EQ(read(ready[0], &sign, 1), 1);
+    kill(play, SIGTERM);
+    int status = 0;
+    waitpid(play, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+    EXPECT_FALSE(std::filesystem::exists(load_file(notes / "path")));
+    EXPECT_NE(kill(std::stoi(load_file(notes / "player")), 0), 0) << "the player lives on";
 }
 
 TEST(NativePlay, PlaysTheAddInAndTellsItsJournal) {

@@ -67,7 +67,7 @@ TEST(Player, ASendOutsideTheConnectionReachesNobodyAndGoesOut) {
         R"({"do": [{"send": 0}, "connect", {"disconnect": 0}, {"send": 1}], "items": [{}, {}]})");
     stage.addin.cancels = true;
     const Json outcome = stage.outcome();
-    EXPECT_EQ(stage.addin.told, (std::vector<std::string>{"connect 0", "disconnect 0"}));
+    EXPECT_EQ(stage.addin.told, (std::vector<std::string>{"connect 1", "disconnect 0"}));
     EXPECT_EQ(outcome["items"][0]["sent"], true);
     EXPECT_EQ(outcome["items"][1]["sent"], true);
     EXPECT_EQ(outcome["acts"][3]["cancel"], false);
@@ -164,9 +164,10 @@ TEST(Outcome, ListsFilesThatChangedAndOnlyThose) {
         stage.machine.remove_folder(u"C:\\gone");
     };
     EXPECT_EQ(stage.outcome()["files"],
-              Json::parse(R"({"C:\\a.txt": "ab", "C:\\new\\bytes": {"base64": "/w=="},
+              parse_json(R"({"C:\\a.txt": "ab", "C:\\new\\bytes": {"base64": "/w=="},
         "C:\\new\\mark.html": {"text": "x", "mark": "UTF-8"}, "C:\\gone\\b.txt": null, "C:\\old.txt": null,
-        "C:\\gone\\": null})"));
+        "C:\\gone\\": null})",
+                         "expected"));
 }
 
 TEST(Outcome, ListsRegistryValuesThatChanged) {
@@ -175,7 +176,8 @@ TEST(Outcome, ListsRegistryValuesThatChanged) {
     before.registry[u"L"] = {{u"a", 1u}};
     after.registry[u"K"] = {{u"same", 1u}, {u"changed", 2u}, {u"new", ExpandText{u"%x%"}}};
     EXPECT_EQ(changed_registry(before, after),
-              Json::parse(R"({"K": {"changed": 2, "new": {"expand": "%x%"}, "gone": null}, "L": null})"));
+              parse_json(R"({"K": {"changed": 2, "new": {"expand": "%x%"}, "gone": null}, "L": null})",
+                         "expected"));
 }
 
 TEST(MemoryMachine, FailsWhatTheScenarioNames) {
@@ -195,7 +197,8 @@ TEST(MemoryMachine, FailsWhatTheScenarioNames) {
     EXPECT_THROW(machine.addin_launcher().launch(u"C:\\p\\x.exe", u"", WindowState::normal), Failure);
     machine.addin_launcher().launch(u"C:\\WINDOWS\\regedit.exe", u"/s a", WindowState::minimised);
     EXPECT_EQ(machine.launched(),
-              Json::parse(R"([{"program": "regedit.exe", "arguments": "/s a", "window": "minimised"}])"));
+              parse_json(R"([{"program": "regedit.exe", "arguments": "/s a", "window": "minimised"}])",
+                         "expected"));
 }
 
 } // namespace

@@ -159,6 +159,7 @@ TEST(ScenarioReader, FillsInTheDefaults) {
     EXPECT_EQ(scenario.items[0].editor_type, 2);
     EXPECT_EQ(scenario.items[0].importance, 1);
     EXPECT_EQ(scenario.acts[0].kind, Act::Kind::connect);
+    EXPECT_EQ(scenario.acts[0].number, 1) << "the mode of the start-up";
 }
 
 TEST(ScenarioReader, RecipientsAreAddressesOrObjects) {
@@ -178,6 +179,14 @@ TEST(ScenarioReader, InvalidJsonIsOneLine) {
     EXPECT_EQ(line.find('\n'), std::string::npos);
 }
 
+TEST(ScenarioReader, TheRealMachineTakesAnAddInFolderOnDriveCOnly) {
+    const std::string begin = R"({"do": [], "computer": {"addin folder": ")";
+    EXPECT_EQ(refusal(begin + R"(c:\\Ornavel"}})", Binding::wine), "accepted");
+    EXPECT_EQ(refusal(begin + R"(D:\\Ornavel"}})"), "accepted");
+    EXPECT_EQ(refusal(begin + R"(D:\\Ornavel"}})", Binding::wine),
+              "bad.json: computer.addin folder: another drive than C works only with --binding native");
+}
+
 TEST(ScenarioReader, TheRealMachineRefusesWhatOnlyMemoryCanDo) {
     constexpr const char* native_only[][2] = {
         {R"({"do": [], "clock": "2003-11-20T14:05:09"})", "clock"},
@@ -188,7 +197,8 @@ TEST(ScenarioReader, TheRealMachineRefusesWhatOnlyMemoryCanDo) {
     };
     for (const auto& [json, path] : native_only) {
         EXPECT_EQ(refusal(json), "accepted");
-        EXPECT_EQ(refusal(json, Binding::wine), std::string("bad.json: ") + path + ": native only");
+        EXPECT_EQ(refusal(json, Binding::wine),
+                  std::string("bad.json: ") + path + ": native only: works only with --binding native");
     }
     EXPECT_EQ(refusal(R"({"do": [], "computer": {"addin folder": "C:\\a"}, "fail": [{"member": "A.B"}]})",
                       Binding::wine),

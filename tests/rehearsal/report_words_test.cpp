@@ -93,21 +93,3 @@ TEST(ReportPage, NeedsNothingOutsideItself) {
     for (const char* outside : {"<script", "<link", "src=\"http", "url(", "@import"})
         EXPECT_EQ(html.find(outside), std::string::npos) << outside;
 }
-
-TEST(ReportDifferences, TheDateOfALogLineNeverCountsAndItsWordsDo) {
-    const auto log = [](const char* line) { return Json{{"files", {{"C:\\a.log", line}}}}; };
-    EXPECT_TRUE(
-        differences(log("Date: 11-20-2003 14:05:09, a"), log("Date: 01-02-2020 00:00:00, a")).empty());
-    EXPECT_EQ(differences(log("Date: 11-20-2003 14:05:09, a"), log("Date: 11-20-2003 14:05:09, b")).size(),
-              1u);
-}
-
-TEST(ReportDifferences, TimesNeverCountAndEveryOtherMemberDoes) {
-    const Json left = {{"acts", {{{"act", "start"}, {"milliseconds", 1.0}}}}, {"items", Json::array()}};
-    const Json slower = {{"acts", {{{"act", "start"}, {"milliseconds", 9.0}}}}, {"items", Json::array()}};
-    EXPECT_TRUE(differences(left, slower).empty());
-    const Json other = {
-        {"acts", {{{"act", "start"}, {"milliseconds", 1.0}}}}, {"items", {{{"saves", 1}}}}, {"extra", true}};
-    EXPECT_EQ(differences(left, other), (std::vector<std::string>{"items", "extra"}));
-    EXPECT_EQ(differences(other, left), (std::vector<std::string>{"items", "extra"}));
-}

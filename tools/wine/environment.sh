@@ -1,8 +1,12 @@
-# The hermetic world of Wine: everything below build/wine of this checkout. Sourced by the scripts beside it.
-here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
+# The hermetic worlds of Wine: everything below build/wine of this checkout. Sourced by the scripts beside it.
+#
+#   model          the prefix that "prepare" makes; no session runs in it
+#   session        the world that "start" opens and "stop" ends
+#   world-XXXXXX   the world of one call of "with"
+here=$(dirname -- "$(readlink -f -- "$0")")
 root=${here%/tools/wine}
-world=$root/build/wine
-session=$world/session
+worlds=$root/build/wine
+model=$worlds/model
 helpers=$root/build/windows/tools/wine
 
 fail() {
@@ -14,13 +18,31 @@ for program in wine wineserver Xvfb i686-w64-mingw32-g++-win32; do
     command -v "$program" >/dev/null || fail "$program is missing: run tools/provision"
 done
 
-mkdir -p "$world/home" "$world/runtime" "$world/tmp"
-chmod 700 "$world/runtime"
-export WINEARCH=win32 WINEPREFIX="$world/prefix" WINEDEBUG=-all
+export WINEARCH=win32 WINEDEBUG=-all LC_ALL=C.UTF-8
 # No prompts for a missing .NET or HTML engine, and no entries in the user's menus.
 export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
-export HOME="$world/home" XDG_RUNTIME_DIR="$world/runtime" TMPDIR="$world/tmp" LC_ALL=C.UTF-8
 unset DISPLAY WAYLAND_DISPLAY XAUTHORITY
 
-# Whether the process in this file of the session still runs.
-alive() { [ -s "$session/$1" ] && kill -0 "$(cat "$session/$1")" 2>/dev/null; }
+# enter WORLD: what is started from now on lives in this folder.
+enter() {
+    world=$1
+    mkdir -p "$world/home" "$world/runtime" "$world/tmp"
+    chmod 700 "$world/runtime"
+    export WINEPREFIX="$world/prefix" HOME="$world/home" XDG_RUNTIME_DIR="$world/runtime" TMPDIR="$world/tmp"
+}
+
+# is_open WORLD: whether its screen and the process that holds it still run.
+is_open() { alive "$1/screen" && alive "$1/hold"; }
+alive() { [ -s "$1" ] && kill -0 "$(cat "$1")" 2>/dev/null; }
+
+# forward COMMAND...: runs a command and gives back its exit code; an interruption ends the command first.
+forward() {
+    "$@" <&0 7>&- &
+    command=$!
+    trap 'kill "$command" 2>/dev/null || true' INT TERM HUP
+    code=0
+    wait "$command" || code=$?
+    while kill -0 "$command" 2>/dev/null; do wait "$command" || code=$?; done
+    trap - INT TERM HUP
+    return "$code"
+}

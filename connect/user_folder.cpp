@@ -1,0 +1,36 @@
+#include "connect/user_folder.h"
+
+namespace ornavel::connect {
+namespace {
+
+using namespace settings;
+
+TextView folder_of(TextView file) {
+    const auto end = file.find_last_of(u'\\');
+    return end == TextView::npos ? TextView() : file.substr(0, end);
+}
+
+/// Whether a folder is the user's own or lies in it. One that leads out of it again does not.
+bool is_in(TextView folder, TextView own) {
+    return !own.empty() && same_name(folder.substr(0, own.size()), own) &&
+           (folder.size() == own.size() || folder[own.size()] == u'\\') && !contains(folder, u"..");
+}
+
+void make(Session& session, TextView folder) noexcept {
+    attempt([&] {
+        Files& files = session.platform.files;
+        if (is_in(folder, session.platform.user_folder) && !files.folder_exists(folder))
+            files.create_folder(folder);
+    });
+}
+
+} // namespace
+
+void make_user_folders(Session& session) noexcept {
+    const Store& settings = session.platform.settings;
+    make(session, read(settings, admin::ApplicationPath));
+    make(session, read(settings, admin::BrowserPath));
+    make(session, folder_of(read(settings, admin::ErrorFileLocation)));
+}
+
+} // namespace ornavel::connect
