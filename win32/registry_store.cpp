@@ -1,20 +1,11 @@
 #include "win32/registry_store.h"
 
-#include "win32/wide.h"
+#include "win32/environment.h"
 
 namespace ornavel::win32 {
 namespace {
 
 Text path_of(TextView section) { return u"Software\\VB and VBA Program Settings\\Ornavel\\" + Text(section); }
-
-Text expanded(const Text& text) {
-    const std::wstring source = wide(text);
-    std::wstring target(ExpandEnvironmentStringsW(source.c_str(), nullptr, 0), L'\0');
-    const DWORD length =
-        ExpandEnvironmentStringsW(source.c_str(), target.data(), static_cast<DWORD>(target.size()));
-    if (length == 0) fail(text, GetLastError());
-    return text_of(target.c_str());
-}
 
 } // namespace
 
