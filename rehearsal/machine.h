@@ -18,7 +18,7 @@ using ByName = std::map<Text, Value, NameOrder>;
 
 /// Everything that an add-in can leave behind on a machine, at one moment.
 struct Snapshot {
-    ByName<ByName<Text>> settings;
+    ByName<ByName<SettingValue>> settings;
     ByName<std::string> files; ///< full path and bytes
     std::set<Text, NameOrder> folders;
     ByName<ByName<RegistryValue>> registry;

@@ -56,7 +56,7 @@ private:
     ScriptedUser user_;
     Computer computer_;
     LocalTime now_;
-    settings::MemoryStore settings_;
+    MemorySettings settings_;
     RehearsedSettings rehearsed_settings_;
     MemoryDisk disk_;
     RehearsedDisk rehearsed_disk_;

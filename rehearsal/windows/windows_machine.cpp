@@ -20,6 +20,7 @@ void WindowsMachine::prepare(const Scenario& scenario) {
         files_.create_folder(TextView(path).substr(0, path.find_last_of(u'\\')));
         files_.write(path, bytes);
     }
+    SetEnvironmentVariableW(L"APPDATA", win32::wide(application_data(scenario.computer)).c_str());
     change_settings(scenario.settings);
     for (const auto& [key, values] : scenario.registry)
         for (const auto& [name, value] : values) registry_.set(key, name, value);
