@@ -22,6 +22,14 @@ TextView recorded_program(TextView program) {
     return same_name(name, u"regedit.exe") || same_name(name, u"regedit") ? name : program;
 }
 
+/// As the Wine binding has it.
+Named<Text> environment_of(const Computer& computer) {
+    return {{u"APPDATA", application_data(computer)},
+            {u"ProgramFiles", u"C:\\Program Files"},
+            {u"SystemDrive", u"C:"},
+            {u"SystemRoot", u"C:\\windows"}};
+}
+
 const char* state_name(WindowState state) {
     if (state == WindowState::minimised) return "minimised";
     return state == WindowState::hidden ? "hidden" : "normal";
@@ -32,8 +40,8 @@ const char* state_name(WindowState state) {
 MemoryMachine::MemoryMachine(const Scenario& scenario, const std::string& source, Failures& failures,
                              Journal& journal)
     : failures_(failures), journal_(journal), user_(scenario.user, source), computer_(scenario.computer),
-      now_(scenario.clock), rehearsed_settings_(settings_, failures, journal),
-      rehearsed_disk_(disk_, failures, journal) {}
+      now_(scenario.clock), settings_(environment_of(scenario.computer)),
+      rehearsed_settings_(settings_, failures, journal), rehearsed_disk_(disk_, failures, journal) {}
 
 void MemoryMachine::prepare(const Scenario& scenario) {
     disk_.create_folder(scenario.computer.addin_folder);
@@ -51,8 +59,7 @@ void MemoryMachine::prepare(const Scenario& scenario) {
 
 Snapshot MemoryMachine::snapshot() const {
     Snapshot snapshot;
-    for (const auto& [section, keys] : settings_.sections())
-        for (const auto& [key, value] : keys) snapshot.settings[section][key] = value;
+    snapshot.settings = settings_.sections();
     snapshot.files = disk_.files();
     snapshot.folders = disk_.folders();
     snapshot.registry = registry_.keys();

@@ -84,17 +84,19 @@ Json play_here(const Scenario& scenario, const std::string& source, Journal& jou
         const MachinesTurn turn;
         journal.note(Deed::trap, name_of(trap), as_logged(trap));
     };
-    NativeAddIn addin(connect::Platform{.settings = machine.addin_settings(),
-                                        .files = machine.addin_files(),
-                                        .clock = machine.addin_clock(),
-                                        .launcher = machine.addin_launcher(),
-                                        .objects = client,
-                                        .windows = machine.addin_windows(),
-                                        .strings = strings,
-                                        .machine = machine.addin_machine(),
-                                        .addin_folder = scenario.computer.addin_folder,
-                                        .on_gate = on_gate,
-                                        .on_trap = on_trap});
+    NativeAddIn addin(
+        connect::Platform{.settings = machine.addin_settings(),
+                          .files = machine.addin_files(),
+                          .clock = machine.addin_clock(),
+                          .launcher = machine.addin_launcher(),
+                          .objects = client,
+                          .windows = machine.addin_windows(),
+                          .strings = strings,
+                          .machine = machine.addin_machine(),
+                          .addin_folder = scenario.computer.addin_folder,
+                          .user_folder = application_data(scenario.computer) + u"\\Brevant\\Ornavel",
+                          .on_gate = on_gate,
+                          .on_trap = on_trap});
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);
