@@ -83,16 +83,15 @@ Json MemoryMachine::tray_outcome() const {
 }
 
 void MemoryMachine::launch(TextView program, TextView arguments, WindowState window) {
-    journal_.note(Deed::launch, Text(program), arguments);
-    failures_.use(Failing::Kind::launch, file_name(program));
+    journal_.note_use(Deed::launch, Text(program), arguments,
+                      [&] { failures_.use(Failing::Kind::launch, file_name(program)); });
     launched_.push_back({{"program", to_json(recorded_program(program))},
                          {"arguments", to_json(arguments)},
                          {"window", state_name(window)}});
 }
 
 Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
-    journal_.note(Deed::window, Text(title), text);
-    failures_.use(Failing::Kind::window, title);
+    journal_.note_use(Deed::window, Text(title), text, [&] { failures_.use(Failing::Kind::window, title); });
     const bool yes_no = buttons == Buttons::yes_no;
     const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, yes_no));
     if (!yes_no) return Answer::ok;

@@ -220,7 +220,7 @@ TEST(Suite, ACaseThatOnlyMemoryCanPlayIsRefusedForTheRealMachine) {
             load({suite}, binding);
             ADD_FAILURE() << "accepted";
         } catch (const Unusable& error) {
-            EXPECT_EQ(error.what(), suite + ": a: do[0]: native only");
+            EXPECT_EQ(error.what(), suite + ": a: do[0]: native only: works only with --binding native");
         }
     }
 }
