@@ -91,6 +91,12 @@ int numeric_value(TextView text) {
     return static_cast<int>(value);
 }
 
+int signed_value(TextView text) {
+    const auto sign = text.find_first_not_of(u' ');
+    const bool negative = sign != TextView::npos && text[sign] == u'-';
+    return negative ? -numeric_value(text.substr(sign + 1)) : numeric_value(text);
+}
+
 Text to_text(long long number) {
     const std::string digits = std::to_string(number);
     return {digits.begin(), digits.end()};

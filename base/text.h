@@ -45,6 +45,8 @@ std::vector<Text> lines_of(TextView text);
 
 /// The longest run of decimal digits after leading blanks, else 0; larger numbers stop at 2147483647.
 int numeric_value(TextView text);
+/// The same with a minus in front where the text has one: a coordinate may be negative.
+int signed_value(TextView text);
 
 Text to_text(long long number);
 

@@ -15,9 +15,9 @@ constexpr MergeRow user_code_4[] = {{{}, {}, &templates::UserSwap4, {}, &templat
 constexpr MergeRow user_code_5[] = {{{}, {}, &templates::UserSwap5, {}, &templates::UserCode5}};
 
 constexpr MergeBlock user_code_blocks[] = {
-    {When::filled, &templates::UserSwap1, user_code_1}, {When::filled, &templates::UserSwap2, user_code_2},
-    {When::filled, &templates::UserSwap3, user_code_3}, {When::filled, &templates::UserSwap4, user_code_4},
-    {When::filled, &templates::UserSwap5, user_code_5},
+    {When::filled(templates::UserSwap1), user_code_1}, {When::filled(templates::UserSwap2), user_code_2},
+    {When::filled(templates::UserSwap3), user_code_3}, {When::filled(templates::UserSwap4), user_code_4},
+    {When::filled(templates::UserSwap5), user_code_5},
 };
 
 constexpr MergeRow with_quote[] = {value(u"[#SigQuote#]", user::SendQuoteString)};
@@ -201,28 +201,28 @@ constexpr MergeRow sites_and_pictures[] = {
 };
 
 constexpr MergeBlock signature_field_blocks[] = {
-    {When::on, &user::SendQuote, with_quote},
-    {When::off, &user::SendQuote, without_quote},
-    {When::on, &user::RTFOnly, local_files_as_sites},
-    {When::always, nullptr, full_names},
-    {When::empty, &admin::SigPosition, without_position},
-    {When::always, nullptr, positions},
-    {When::empty, &admin::SigTelephone, without_telephone},
-    {When::filled, &admin::SigTelephone, with_telephone},
-    {When::empty, &admin::SigFax, without_fax},
-    {When::filled, &admin::SigFax, with_fax},
-    {When::always, nullptr, addresses},
-    {When::empty, &admin::SigCell, without_cell},
-    {When::filled, &admin::SigCell, with_cell},
-    {When::always, nullptr, sites_and_pictures},
+    {When::on(user::SendQuote), with_quote},
+    {When::not_on(user::SendQuote), without_quote},
+    {When::on(user::RTFOnly), local_files_as_sites},
+    {When::always(), full_names},
+    {When::empty(admin::SigPosition), without_position},
+    {When::always(), positions},
+    {When::empty(admin::SigTelephone), without_telephone},
+    {When::filled(admin::SigTelephone), with_telephone},
+    {When::empty(admin::SigFax), without_fax},
+    {When::filled(admin::SigFax), with_fax},
+    {When::always(), addresses},
+    {When::empty(admin::SigCell), without_cell},
+    {When::filled(admin::SigCell), with_cell},
+    {When::always(), sites_and_pictures},
 };
 
 // The line end comes first in the replacement: the order is exact.
 constexpr MergeRow double_breaks[] = {{u"<BR>\r\n<BR>", u"\r\n<BR>"}};
-constexpr MergeBlock converted_break_blocks[] = {{When::on, &admin::WipeoutRemoveConvertedBR, double_breaks}};
+constexpr MergeBlock converted_break_blocks[] = {{When::on(admin::WipeoutRemoveConvertedBR), double_breaks}};
 
 constexpr MergeRow colours[] = {value(u"[#SigBGColor#]", admin::SigBGColor)};
-constexpr MergeBlock background_blocks[] = {{When::always, nullptr, colours}};
+constexpr MergeBlock background_blocks[] = {{When::always(), colours}};
 
 } // namespace
 

@@ -61,14 +61,14 @@ constexpr Step steps[] = {
 void AskingErrors::take(TextView description, TrapName trap) noexcept {
     const auto report = errors_.log_error(description, trap);
     attempt([&] {
-        if (report &&
-            boxes_.ask(u"Error Report", u"Brevant has just experienced an error. Brevant has prepared a "
-                                        u"desciption or the error.\r\nWould you like to send it now?"))
+        if (report && boxes_.ask_risky(u"Error Report",
+                                       u"Brevant has just experienced an error. Brevant has prepared a "
+                                       u"desciption or the error.\r\nWould you like to send it now?"))
             errors_.mail_report(*report);
     });
 }
 
-Text path_or_first_of(const Composition& c, const Text& path, const settings::Key& folder) {
+Text path_or_first_of(const Composition& c, const Text& path, const settings::PathKey& folder) {
     if (c.services.files.file_exists(path)) return path;
     const auto first = first_html_file(c.services.files, c.read(folder));
     return first ? c.read(folder) + u"\\" + *first : path;

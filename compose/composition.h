@@ -40,8 +40,8 @@ struct Composition {
     bool log_usage = false;
 
     const settings::Store& settings() const { return services.settings; }
-    bool is_on(const settings::Key& key) const { return settings::is_on(services.settings, key); }
-    Text read(const settings::Key& key) const { return settings::read(services.settings, key); }
+    bool is_on(const settings::SwitchKey& key) const { return settings::is_on(services.settings, key); }
+    Text read(const auto& key) const { return settings::read(services.settings, key); }
     bool is_reply() const { return request.reply.found; }
     bool for_preview() const { return request.purpose == Purpose::preview; }
     /// What goes into the template: the user's text, on a reply without the earlier message.
@@ -52,7 +52,7 @@ struct Composition {
 
 /// The path itself, or the first HTML file of the folder when there is no such file; an empty folder leaves
 /// the path.
-Text path_or_first_of(const Composition& c, const Text& path, const settings::Key& folder);
+Text path_or_first_of(const Composition& c, const Text& path, const settings::PathKey& folder);
 
 /// The trap of a step that has no name of its own, and the places of two that stand inside steps.
 inline constexpr TrapName any_step{u"CreateHTMLBody", u"CreateHTM_Err"};

@@ -8,10 +8,10 @@ namespace {
 
 using namespace settings;
 
-/// Without the label's default of the body merge.
-constexpr MergeRow label(TextView search, const Key& key) { return {search, {}, &key, {}}; }
+/// Without the label's default of the body merge: the file has its own word where no label is set.
+constexpr MergeRow label(TextView search, const TextKey& key) { return {search, {}, &key, {}}; }
 
-constexpr MergeRow rule(const Key& search, const Key& replacement) {
+constexpr MergeRow rule(const TextKey& search, const TextKey& replacement) {
     return {{}, {}, &replacement, replacement.default_value, &search};
 }
 
@@ -80,9 +80,9 @@ constexpr MergeRow links_and_addresses[] = {
 };
 
 constexpr MergeBlock blocks[] = {
-    {When::always, nullptr, names_and_labels},  {When::empty, &admin::SigFax, without_fax},
-    {When::filled, &admin::SigFax, with_fax},   {When::empty, &admin::SigCell, without_cell},
-    {When::filled, &admin::SigCell, with_cell}, {When::always, nullptr, links_and_addresses},
+    {When::always(), names_and_labels},        {When::empty(admin::SigFax), without_fax},
+    {When::filled(admin::SigFax), with_fax},   {When::empty(admin::SigCell), without_cell},
+    {When::filled(admin::SigCell), with_cell}, {When::always(), links_and_addresses},
 };
 
 } // namespace

@@ -51,7 +51,7 @@ Text next_appointment(const host::Application& application, const Clock& clock, 
 void GetNextQuote(Store& settings, const Files& files, ErrorSink& errors) noexcept {
     trap(errors, next_quote_trap, [&] {
         const long long number =
-            std::max<long long>(numeric_value(read(settings, system::LastTipNumber)), first_quote);
+            std::max<long long>(read_number(settings, system::LastTipNumber), first_quote);
         const auto lines = lines_of(read_text(files, read(settings, admin::TipsFileLocation)));
         const bool wraps = number > static_cast<long long>(lines.size()) - 1;
         // A wrap-around carries no quote and goes on with 16, not 15: deliberate.

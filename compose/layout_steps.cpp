@@ -18,6 +18,7 @@ std::size_t with_room(std::size_t size) { return size + size / 64 + 4096; }
 
 void choose_signature(Composition& c) {
     const auto& chosen = c.request.form_signature;
+    // A message of somebody who never chose a signature has none.
     c.signature_name = chosen ? trim(*chosen) : read(c.settings(), user::Signature, u"none");
 }
 
@@ -43,7 +44,7 @@ void read_template(Composition& c) {
 void ask_about_script(Composition& c) {
     if (c.for_preview()) return;
     if (!contains(c.template_text, u"</script>") && !contains(c.template_text, u"</SCRIPT>")) return;
-    if (c.services.boxes.ask(
+    if (c.services.boxes.ask_risky(
             u"Ornavel Security Warning",
             u"This Template has script in it. This means that your recipients may not be able to \r\nsee or "
             u"access your message. Continue with your message? Click No to cancel, Yes to continue"))

@@ -24,27 +24,11 @@ Merge Merge::of_signature_file(const Store& settings) {
     return merge;
 }
 
-bool Merge::takes_part(const MergeBlock& block) const {
-    switch (block.when) {
-    case When::always:
-        return true;
-    case When::empty:
-        return read(settings_, *block.setting).empty();
-    case When::filled:
-        return !read(settings_, *block.setting).empty();
-    case When::on:
-        return is_on(settings_, *block.setting);
-    case When::off:
-        return !is_on(settings_, *block.setting);
-    }
-    return false;
-}
-
 TextView Merge::keep(Text text) { return texts_.emplace_back(std::move(text)); }
 
 void Merge::add_group(std::span<const MergeBlock> blocks) {
     for (const MergeBlock& block : blocks) {
-        if (!takes_part(block)) continue;
+        if (!block.when.holds(settings_)) continue;
         for (const MergeRow& row : block.rows) {
             const TextView search = row.search_value ? keep(read(settings_, *row.search_value)) : row.search;
             const TextView replacement =

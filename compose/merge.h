@@ -30,7 +30,6 @@ public:
 private:
     explicit Merge(const settings::Store& settings) : settings_(settings) {}
     void add_group(std::span<const MergeBlock> blocks);
-    bool takes_part(const MergeBlock& block) const;
     TextView keep(Text text);
 
     const settings::Store& settings_;

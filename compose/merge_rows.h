@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/catalogue.h"
+#include "settings/store.h"
 
 namespace ornavel::compose {
 
@@ -9,17 +9,38 @@ namespace ornavel::compose {
 struct MergeRow {
     TextView search;
     TextView replacement = {};
-    const settings::Key* value = nullptr;
+    const settings::TextKey* value = nullptr;
     TextView fallback = {}; ///< the value's default here
-    const settings::Key* search_value = nullptr;
+    const settings::TextKey* search_value = nullptr;
 };
 
-enum class When { always, empty, filled, on, off };
+/// When a block takes part: always, or by a text that is empty or filled, or by a switch that is on or not.
+class When {
+public:
+    static constexpr When always() { return {nullptr, nullptr, true}; }
+    static constexpr When empty(const settings::TextKey& key) { return {&key, nullptr, true}; }
+    static constexpr When filled(const settings::TextKey& key) { return {&key, nullptr, false}; }
+    static constexpr When on(const settings::SwitchKey& key) { return {nullptr, &key, true}; }
+    static constexpr When not_on(const settings::SwitchKey& key) { return {nullptr, &key, false}; }
 
-/// Rows that take part only when the value of a setting is as said.
+    bool holds(const settings::Store& settings) const {
+        if (text_) return read(settings, *text_).empty() == wanted_;
+        if (switch_) return is_on(settings, *switch_) == wanted_;
+        return wanted_;
+    }
+
+private:
+    constexpr When(const settings::TextKey* text, const settings::SwitchKey* a_switch, bool wanted)
+        : text_(text), switch_(a_switch), wanted_(wanted) {}
+
+    const settings::TextKey* text_;
+    const settings::SwitchKey* switch_;
+    bool wanted_;
+};
+
+/// Rows that take part together.
 struct MergeBlock {
     When when;
-    const settings::Key* setting;
     std::span<const MergeRow> rows;
 };
 
@@ -33,7 +54,7 @@ std::span<const MergeBlock> background_colour();
 std::span<const MergeBlock> signature_file_fields();
 
 /// A row that puts a setting's value in; for the tables.
-constexpr MergeRow value(TextView search, const settings::Key& key) {
+constexpr MergeRow value(TextView search, const settings::TextKey& key) {
     return {search, {}, &key, key.default_value};
 }
 

@@ -48,7 +48,7 @@ void add_internal_signature(const Store& store, const host::MailItem& item, int 
 }
 
 Text text_signature(const Store& store) {
-    const auto value = [&](const Key& key) { return read(store, key); };
+    const auto value = [&](const TextKey& key) { return read(store, key); };
     return piece(value(admin::SigFullname)) + u"<br>" +
            columns(value(admin::SigOrganizationName), value(admin::SigWebsite)) +
            columns(value(admin::SigPosition), value(admin::SigEmail)) +

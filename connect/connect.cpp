@@ -15,11 +15,21 @@ namespace {
 
 using namespace settings;
 
-/// The explorers that are open; nothing when the host can't say.
+/// The explorers that are open; nothing when the host is released or can't say.
 std::optional<int> explorer_count(const Session& session) noexcept {
     std::optional<int> count;
-    attempt([&] { count = session.host.oHostApp.explorer_count(); });
+    if (session.host.oHostApp) attempt([&] { count = session.host.oHostApp.explorers().count(); });
     return count;
+}
+
+/// Another explorer than the one that closes, which still counts and is usually still the active one; nothing
+/// where there is none.
+host::Explorer another_than(const host::Explorer& closing, const host::Application& application) {
+    const host::Explorers explorers = application.explorers();
+    const int count = explorers.count();
+    for (int index = 1; index <= count; ++index)
+        if (host::Explorer explorer = explorers.item(index); !explorer.is_same(closing)) return explorer;
+    return {};
 }
 
 } // namespace
@@ -28,30 +38,47 @@ Connect::Connect(Platform platform) : session_(std::make_unique<Session>(std::mo
 
 Connect::~Connect() = default;
 
-void Connect::OnConnection(host::Application application) noexcept {
+void Connect::OnConnection(host::Application application, int mode) noexcept {
     Session& session = *session_;
+    session.started = false;
     make_user_folders(session); // before the first record goes into its log
     record(session, u"Fired", u"", u"On Connection");
     session.host.oHostApp = std::move(application);
-    attempt([&] {
+    subscribe();
+    attempt([&] { hook_first_explorer(); });
+    if (is_on(session.platform.settings, admin::SysTray)) show_tray_icon(session);
+    start_setup_program_when_due(session);
+    offer_system_test(session);
+    if (mode != at_startup) start_up();
+    record(session, u"Exiting sub", u"", u"Bottom");
+}
+
+/// Without its events the add-in is dead: the log tells, and nobody is asked.
+void Connect::subscribe() noexcept {
+    Session& session = *session_;
+    const auto keep = [this] {
+        const auto& keep_add_in = session_->platform.keep;
+        return keep_add_in ? keep_add_in() : nullptr;
+    };
+    trap(session.quiet_errors, {u"OnConnection", u"Error hooking the mail client's events"}, [&] {
         session.host.application_events = session.host.oHostApp.on_events(
             {.item_send =
-                 [this](const host::MailItem& item, bool& cancel) {
-                     const auto& keep = session_->platform.keep;
-                     const std::shared_ptr<void> kept = keep ? keep() : nullptr;
+                 [this, keep](const host::MailItem& item, bool& cancel) {
+                     const std::shared_ptr<void> kept = keep();
                      ol_ItemSend(*session_, item, cancel);
                  },
              .options_pages_add = [this](const host::PropertyPages& pages) { OptionsPagesAdd(pages); }});
     });
-    attempt([&] { hook_active_explorer(); });
-    if (is_on(session.platform.settings, admin::SysTray)) show_tray_icon(session);
-    start_setup_program_when_due(session);
-    offer_system_test(session);
-    record(session, u"Exiting sub", u"", u"Bottom");
 }
 
 void Connect::OnStartupComplete() noexcept {
+    if (!session_->started) start_up();
+}
+
+void Connect::start_up() noexcept {
     Session& session = *session_;
+    session.started = true;
+    // No catalogue can know where the add-in lies.
     session.start_up.application_path =
         read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
     session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);
@@ -100,12 +127,29 @@ void Connect::OptionsPagesAdd(const host::PropertyPages& pages) noexcept {
     });
 }
 
-void Connect::hook_active_explorer() {
+/// The active one; where the mail client was opened without any, the first that it opens.
+void Connect::hook_first_explorer() {
+    HostReferences& host = session_->host;
+    if (host::Explorer active = host.oHostApp.active_explorer()) return hook(std::move(active));
+    host.explorers_events =
+        host.oHostApp.explorers().on_new([this](const host::Explorer& explorer) { NewExplorer(explorer); });
+}
+
+void Connect::hook(host::Explorer explorer) {
     HostReferences& host = session_->host;
     host.explorer_events.reset();
-    host.myActiveExplorer = host.oHostApp.active_explorer();
-    if (host.myActiveExplorer)
+    host.myActiveExplorer = std::move(explorer);
+    if (!host.myActiveExplorer) return;
+    trap(session_->quiet_errors, {u"OnConnection", u"Error hooking the explorer"}, [&] {
         host.explorer_events = host.myActiveExplorer.on_close([this] { myActiveExplorer_Close(); });
+    });
+}
+
+void Connect::NewExplorer(const host::Explorer& explorer) noexcept {
+    Session& session = *session_;
+    session.host.explorers_events.reset();
+    attempt([&] { hook(explorer); });
+    if (session.started) add_buttons(session);
 }
 
 void Connect::myActiveExplorer_Close() noexcept {
@@ -116,7 +160,7 @@ void Connect::myActiveExplorer_Close() noexcept {
         record(session, u"Calling Varcleanup", u"", u"Explorer count <= 1 (Count is " + to_text(*count));
         VarCleanup();
     } else {
-        attempt([&] { hook_active_explorer(); });
+        attempt([&] { hook(another_than(session.host.myActiveExplorer, session.host.oHostApp)); });
     }
     if (session.host.myActiveExplorer) record(session, u"Not Nothing", u"", u"MyActiveExplorer sub");
     record(session, u"Exited", u"", u"Bottom");
@@ -126,6 +170,7 @@ void Connect::VarCleanup() noexcept {
     Session& session = *session_;
     HostReferences& host = session.host;
     host.application_events.reset();
+    host.explorers_events.reset();
     host.explorer_events.reset();
     host.mode_button_events.reset();
     host.setup_button_events.reset();

@@ -18,7 +18,10 @@ public:
     Connect(const Connect&) = delete;
     Connect& operator=(const Connect&) = delete;
 
-    void OnConnection(host::Application application) noexcept;
+    /// How the mail client loads the add-in: only at its own start does it call OnStartupComplete later.
+    enum ConnectMode : int { after_startup = 0, at_startup = 1 };
+
+    void OnConnection(host::Application application, int mode) noexcept;
     void OnStartupComplete() noexcept;
     void OnAddInsUpdate() noexcept;
     void OnBeginShutdown() noexcept;
@@ -27,7 +30,11 @@ public:
 
 private:
     void OptionsPagesAdd(const host::PropertyPages& pages) noexcept;
-    void hook_active_explorer();
+    void subscribe() noexcept;
+    void start_up() noexcept;
+    void hook_first_explorer();
+    void hook(host::Explorer explorer);
+    void NewExplorer(const host::Explorer& explorer) noexcept;
     void myActiveExplorer_Close() noexcept;
     void VarCleanup() noexcept;
 

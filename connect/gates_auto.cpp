@@ -17,7 +17,7 @@ Verdict refuse_without_default(Send& send, TextView prompt_mode) {
 
 void attach_selected_vcard(Send& send) {
     const Text path = read(send.settings(), user::vCardPathSelected);
-    const bool wanted = send.session.dialog_answer && read(send.settings(), user::SendvCard) == on &&
+    const bool wanted = send.session.dialog_answer && is_on(send.settings(), user::SendvCard) &&
                         !path.empty() && send.preview.vcard_chosen;
     if (wanted) send.sent.attachments().add(path);
 }
@@ -25,6 +25,7 @@ void attach_selected_vcard(Send& send) {
 } // namespace
 
 Verdict non_auto_branch(Send& send) {
+    // Absent only when it vanished since the entry gate: then the user is asked, as in the mode "on".
     if (read(send.settings(), user::SettingButtonBar, modes::on) == modes::automatic) return Verdict::off;
     record_gate(send, u"Auto process end check OK");
     // The item is the current one already, so a send-options form would find it.

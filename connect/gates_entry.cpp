@@ -29,6 +29,7 @@ void trace(Send& send, TextView text, TextView detail) {
 }
 
 Verdict entry_mode(Send& send) {
+    // Until a mode is stored nothing is dressed, although the button begins with "auto".
     const Text mode = read(send.settings(), user::SettingButtonBar, u"");
     return mode == modes::automatic ? Verdict::next : tag_and_leave(send);
 }
@@ -77,6 +78,7 @@ Verdict send_as_is(Send& send) {
 }
 
 Verdict mode_off(Send& send) {
+    // Absent only when it vanished since the entry gate: then the user is asked, as in the mode "on".
     return read(send.settings(), user::SettingButtonBar, modes::on) == modes::off ? Verdict::leave
                                                                                   : Verdict::next;
 }

@@ -73,7 +73,7 @@ Verdict sign_and_leave(Send& send, int editor) {
 } // namespace
 
 Verdict internal_mail(Send& send) {
-    if (read(send.settings(), admin::SkipInternal) != u"1") return Verdict::next;
+    if (!is_ticked(send.settings(), admin::SkipInternal)) return Verdict::next;
     const int editor = send.item().inspector().editor_type();
     if (editor == host::rich_text_editor) return Verdict::leave;
 

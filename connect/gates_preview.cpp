@@ -25,15 +25,15 @@ void show_attachments(const host::Attachments& attachments, Form& form) {
     Control& names = form[u"txtAttachments"];
     for (int index = 1; index <= count; ++index)
         names.text += (index == 1 ? u"" : u"; ") + attachments.item(index).file_name();
+    names.tool_tip = names.text;
     names.visible = form[u"lblAttachments"].visible = true;
     names.enabled = false;
 }
 
 void place_window(const Store& store, Form& form) {
-    const auto twips = [&](const Key& key) { return numeric_value(read(store, key)); };
-    form.properties.place = {twips(user::BrowserLeft), twips(user::BrowserTop), twips(user::BrowserWidth),
-                             twips(user::BrowserHeight)};
-    form.on_resize();
+    const auto twips = [&](const NumberKey& key) { return read_number(store, key); };
+    form.take_place({twips(user::BrowserLeft), twips(user::BrowserTop), twips(user::BrowserWidth),
+                     twips(user::BrowserHeight)});
 }
 
 /// Plain text takes neither a template nor a signature file.

@@ -25,7 +25,7 @@ bool is_plain_text(const Send& send) {
 Verdict load_reply_marker(Send& send) {
     const bool older_host = host_major_version(send) < 11;
     trace(send, u"Just before MyMessItem is called- line 1001");
-    const Key& marker =
+    const TextKey& marker =
         older_host || is_plain_text(send) ? system::MyReplySearchString : system::Office2003SearchString;
     trace(send, u"Just after MyMessItem is called- line 1002");
     send.reply.marker = read(send.settings(), marker);
@@ -34,13 +34,12 @@ Verdict load_reply_marker(Send& send) {
 
 Verdict reply_test(Send& send) {
     compose::Reply& reply = send.reply;
-    const auto number = [&](const Key& key) { return numeric_value(read(send.settings(), key)); };
     reply.found = !reply.marker.empty() && (contains(send.html.of(send.item()), reply.marker) ||
                                             contains(send.item().body(), reply.marker));
     if (!reply.found) return Verdict::next;
-    reply.search_offset = number(system::ReplySearchStringVal);
-    reply.insert_offset = number(system::ReplyInsertStringVal);
-    if (read(send.settings(), user::ReplyAsIs) != u"1") return Verdict::next;
+    reply.search_offset = read_number(send.settings(), system::ReplySearchStringVal);
+    reply.insert_offset = read_number(send.settings(), system::ReplyInsertStringVal);
+    if (!is_ticked(send.settings(), user::ReplyAsIs)) return Verdict::next;
     reply.found = false;
     return Verdict::leave;
 }

@@ -21,6 +21,7 @@ struct HostReferences {
     host::MailItem MyMessItem; ///< the current item: the one being sent, or its wrapper
 
     host::Subscription application_events;
+    host::Subscription explorers_events;
     host::Subscription explorer_events;
     host::Subscription mode_button_events;
     host::Subscription setup_button_events;
@@ -44,9 +45,11 @@ struct Session {
     diagnostics::ErrorLog log;
     forms::PromptDialog prompt;
     diagnostics::ErrorReporter errors;
+    diagnostics::QuietErrors quiet_errors{errors};
     compose::StartUpValues start_up;
     compose::Services composing{platform.settings, platform.files, platform.clock, platform.windows,
                                 platform.objects,  errors,         host.oHostApp,  start_up};
+    bool started = false; ///< the start-up's work is done in this connection
     bool processed = false;
     bool internal = false;
     bool dialog_answer = true; ///< the send-options form's answer

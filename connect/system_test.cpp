@@ -30,7 +30,7 @@ void offer_system_test(Session& session) noexcept {
                         u"The System Test is set to ON, click Yes to leave it on, No to set it off."))
             return;
         save(store, system::SystemCheck, off);
-        if (windows.ask(u"Ornavel System Report", u"Send a system report to Brevant support?"))
+        if (windows.ask_risky(u"Ornavel System Report", u"Send a system report to Brevant support?"))
             send_system_report(session);
     });
 }

@@ -56,7 +56,10 @@ void add_setup_button(Session& session) {
     host.MyButtonConfigWiz.set_caption(
         forms::load_text(session.platform.strings, forms::text_ids::ornavel_setup));
     host.MyButtonConfigWiz.show_face_and_caption(setup_face);
-    host.setup_button_events = host.MyButtonConfigWiz.on_click([&session] { start_setup_program(session); });
+    trap(session.quiet_errors, {u"OnStartupComplete", u"Error hooking the setup button"}, [&] {
+        host.setup_button_events =
+            host.MyButtonConfigWiz.on_click([&session] { start_setup_program(session); });
+    });
 }
 
 void add_mode_button(Session& session) {
@@ -65,7 +68,10 @@ void add_mode_button(Session& session) {
     host.myButtonSetting.show_caption();
     host.myButtonSetting.set_caption(
         caption_of_mode(session, read(session.platform.settings, user::SettingButtonBar)));
-    host.mode_button_events = host.myButtonSetting.on_click([&session] { myButtonSetting_Click(session); });
+    trap(session.quiet_errors, {u"OnStartupComplete", u"Error hooking the mode button"}, [&] {
+        host.mode_button_events =
+            host.myButtonSetting.on_click([&session] { myButtonSetting_Click(session); });
+    });
 }
 
 } // namespace
@@ -83,7 +89,7 @@ void add_buttons(Session& session) noexcept {
     if (!on_a_toolbar) return;
     const Store& store = session.platform.settings;
     if (is_on(store, admin::ShowConfigWizButton)) attempt([&] { add_setup_button(session); });
-    if (read(store, user::SuppressToolbar) == off) attempt([&] { add_mode_button(session); });
+    if (is_off(store, user::SuppressToolbar)) attempt([&] { add_mode_button(session); });
 }
 
 void remove_buttons(Session& session) noexcept {

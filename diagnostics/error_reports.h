@@ -25,4 +25,14 @@ public:
     virtual void mail_report(const ErrorReport& report) noexcept = 0;
 };
 
+/// Logs what a trap caught and asks nobody.
+class QuietErrors final : public ErrorSink {
+public:
+    explicit QuietErrors(ErrorReports& errors) : errors_(errors) {}
+    void take(TextView description, TrapName trap) noexcept override { errors_.log_error(description, trap); }
+
+private:
+    ErrorReports& errors_;
+};
+
 } // namespace ornavel::diagnostics

@@ -73,7 +73,7 @@ Text report_text(const ErrorRecord& error, const ReportSources& sources) {
     };
     // As stored: an absent setting prints as empty, whatever its default is.
     for (const auto& [label, key] : stored_values)
-        lines.push_back(Text(label) + read(sources.settings, key, u""));
+        lines.push_back(Text(label) + sources.settings.find(key.section, key.name).value_or(Text()));
 
     // A lone line feed, where every other line ends in CR LF: readers of the reports know it so.
     Text text = joined(lines) + u"\n";

@@ -40,4 +40,26 @@ bool has_caption(Kind kind) {
     }
 }
 
+Text readable_caption(const Control& control) {
+    if (control.kind == Kind::form) return control.caption;
+    Text read;
+    bool marked = false;
+    for (const char16_t unit : control.caption) {
+        marked = unit == u'&' && !marked;
+        if (!marked) read += unit;
+    }
+    return read;
+}
+
+Text with_access_key(TextView text, char16_t letter) {
+    Text caption;
+    bool marked = false;
+    for (const char16_t unit : text) {
+        if (unit == u'&' || (unit == letter && !marked)) caption += u'&';
+        marked |= unit == letter;
+        caption += unit;
+    }
+    return caption;
+}
+
 } // namespace ornavel::forms

@@ -22,11 +22,19 @@ enum class Kind {
     list_view
 };
 
+/// A picture of the system's own, which says what kind of message it stands beside.
+enum class Icon { none, information, question, warning };
+
 /// Where something stands, in twips. A control counts from the inner corner of its form (or of its frame), a
 /// form from the corner of the screen, title bar and borders included.
 struct Place {
     int left = 0, top = 0, width = 0, height = 0;
     bool operator==(const Place&) const = default;
+};
+
+struct Size {
+    int width = 0, height = 0;
+    bool operator==(const Size&) const = default;
 };
 
 /// A tab of a tab strip, a button of a toolbar, a column header of a list view.
@@ -43,15 +51,17 @@ struct Control {
     Text tag{};
     Text caption{};
     Text tool_tip{};
-    Text text{};               ///< of a text box or a combo box
-    std::vector<Text> items{}; ///< of a combo box
-    int index = -1;            ///< the chosen entry of a combo box; -1 when its text is none of them
-    bool ticked = false;       ///< of a check box
-    Text page{};               ///< the file or address that a web browser shows
-    int visits = 0;            ///< how often the page was shown; the same page may have new contents
-    Text picture{};            ///< the file that an image shows
-    std::vector<Part> parts{}; ///< of a tab strip, a toolbar or a list view
-    Text frame{};              ///< the name of the frame that it stands in; empty on the form itself
+    Text text{};                ///< of a text box or a combo box
+    std::vector<Text> items{};  ///< of a combo box
+    int index = -1;             ///< the chosen entry of a combo box; -1 when its text is none of them
+    bool ticked = false;        ///< of a check box
+    Text page{};                ///< the file or address that a web browser shows
+    bool follows_links = false; ///< of a web browser: else a page stays where it is, and on this machine
+    int visits = 0;             ///< how often the page was shown; the same page may have new contents
+    Text picture{};             ///< the file that an image shows
+    Icon icon = Icon::none;     ///< what an image shows that has no file
+    std::vector<Part> parts{};  ///< of a tab strip, a toolbar or a list view
+    Text frame{};               ///< the name of the frame that it stands in; empty on the form itself
     bool visible = true;
     bool enabled = true;
     bool locked = false;        ///< a text box that the user reads but can't change
@@ -72,5 +82,12 @@ struct Control {
 
 /// Controls of the other kinds have no caption.
 bool has_caption(Kind kind);
+
+/// The caption as a reader sees it. In that of a control a "&" marks the access key, and two stand for one;
+/// in that of a form it is a sign like any other.
+Text readable_caption(const Control& control);
+
+/// The text as a caption, with the first such letter as its access key, where it has one.
+Text with_access_key(TextView text, char16_t letter);
 
 } // namespace ornavel::forms

@@ -6,6 +6,9 @@
 namespace ornavel::forms {
 namespace {
 
+// Title bar and borders of Windows 2000 at 96 dots to the inch, while no window has told its own.
+constexpr Size usual_frame{90, 375}, usual_sizable_frame{120, 405};
+
 void run(const Form::Handler& handler) {
     if (handler) handler();
 }
@@ -15,6 +18,47 @@ void run(const Form::Handler& handler) {
 Form::Form(Control own, std::vector<Control> controls)
     : properties(std::move(own)), controls_(std::move(controls)) {
     properties.kind = Kind::form;
+}
+
+Size Form::frame() const { return frame_.value_or(sizable ? usual_sizable_frame : usual_frame); }
+
+Size Form::room_of(const Place& place) const {
+    return {place.width - frame().width, place.height - frame().height};
+}
+
+Place Form::large_enough(Place place) const {
+    place.width = std::max(place.width, least_size().width);
+    place.height = std::max(place.height, least_size().height);
+    return place;
+}
+
+void Form::take_place(const Place& place) {
+    shown_room_.reset();
+    properties.place = large_enough(place);
+    run(on_resize);
+    // Arranging its controls may have shown the form that it needs more room than before.
+    const Place larger = large_enough(properties.place);
+    if (larger == properties.place) return;
+    properties.place = larger;
+    run(on_resize);
+}
+
+void Form::make_room(Size room) {
+    properties.place.width = room.width + frame().width;
+    properties.place.height = room.height + frame().height;
+}
+
+void Form::take_frame(Size told) {
+    if (told == frame()) return;
+    const Size before = room_of(properties.place);
+    frame_ = told;
+    if (sizable) return take_place(properties.place);
+    make_room(before);
+}
+
+void Form::take_room(Size room) {
+    shown_room_ = room;
+    run(on_resize);
 }
 
 Control* Form::find(TextView control) {

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace ornavel::forms {
@@ -27,6 +28,21 @@ public:
     bool topmost = false; ///< stays above all other windows
     bool sizable = false; ///< the user may resize it by its frame
     bool centred = true;  ///< appears in the middle of the screen rather than at its place
+    Size least_room;      ///< the user can't make the room for the controls smaller
+
+    /// The room for the controls, within title bar and borders, in twips.
+    Size room() const { return shown_room_.value_or(room_of(properties.place)); }
+    /// Takes the size that has this room within the usual frame.
+    void make_room(Size room);
+    /// What the form's place is at least as large as.
+    Size least_size() const { return {least_room.width + frame().width, least_room.height + frame().height}; }
+    /// Stands at the place, or at one that is large enough for the least room, and runs on_resize.
+    void take_place(const Place& place);
+    /// Title bar and borders together, as the system has them here. A form that the user can't size keeps its
+    /// room, any other its place.
+    void take_frame(Size frame);
+    /// Shows itself in another room than that of its place: the window is maximised. Runs on_resize.
+    void take_room(Size room);
 
     const Text& name() const { return properties.name; }
     std::vector<Control>& controls() { return controls_; }
@@ -49,6 +65,11 @@ public:
     void fire(TextView control, Event event);
 
 private:
+    Size frame() const;
+    Size room_of(const Place& place) const;
+    Place large_enough(Place place) const;
+
+    std::optional<Size> frame_, shown_room_;
     std::vector<Control> controls_;
     std::map<std::pair<Text, Event>, Handler> handlers_;
     bool loaded_ = false;

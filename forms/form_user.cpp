@@ -68,9 +68,8 @@ void FormUser::tick(TextView name, bool ticked) {
 
 void FormUser::resize(int width, int height) {
     require_open();
-    form_.properties.place.width = width;
-    form_.properties.place.height = height;
-    if (form_.on_resize) form_.on_resize();
+    const Place& place = form_.properties.place;
+    form_.take_place({place.left, place.top, width, height});
 }
 
 void FormUser::move(int left, int top) {

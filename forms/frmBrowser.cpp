@@ -1,5 +1,8 @@
 #include "forms/frmBrowser.h"
 
+#include "forms/flow.h"
+#include "forms/measures.h"
+
 #include <algorithm>
 
 namespace ornavel::forms {
@@ -7,37 +10,49 @@ namespace {
 
 using namespace settings;
 
-constexpr TextView options_folded = u"> Options", options_shown = u"< Options";
+constexpr TextView options_folded = u"> &Options", options_shown = u"< &Options";
 
 /// Only these stay when the options are folded away.
 constexpr TextView options[] = {u"lblTemplates", u"cboTemplates", u"lblSignatures", u"cboSignatures"};
 
-// Two rows of controls stand above the browser, which takes what the window leaves, within its frame.
-constexpr int margin = 120, browser_top = 1080, frame_width = 120, frame_height = 525;
+/// What stands above the page, in its order.
+constexpr Group groups[] = {
+    {u"command1"},
+    {u"cmdSendPlain"},
+    {u"cmdClose"},
+    {u"cmdNext"},
+    {u"cmdSignNext"},
+    {u"cmdOptions"},
+    {u"chkvCard"},
+    {u"chkShowPreview"},
+    {u"cboTemplates", u"lblTemplates", true},
+    {u"cboSignatures", u"lblSignatures"},
+    {u"txtAttachments", u"lblAttachments"},
+};
 
-Control button(TextView name, int left, int width, TextView caption, TextView tool_tip = {}) {
-    return {.kind = Kind::command_button,
-            .name = Text(name),
-            .place = {left, 120, width, 375},
-            .caption = Text(caption),
-            .tool_tip = Text(tool_tip)};
+// The page stays large enough to read in; the size grip stands below it.
+constexpr Size least_page{4500, 2250};
+constexpr int grip_height = 255;
+
+Control designed(Kind kind, TextView name, int width, int height, TextView caption = {}) {
+    return {.kind = kind, .name = Text(name), .place = {0, 0, width, height}, .caption = Text(caption)};
 }
 
-Control label(TextView name, int left, int width, TextView caption) {
-    return {
-        .kind = Kind::label, .name = Text(name), .place = {left, 660, width, 240}, .caption = Text(caption)};
+Control button(TextView name, int width, TextView caption, TextView tool_tip = {}) {
+    Control control = designed(Kind::command_button, name, width, button_size.height, caption);
+    control.tool_tip = tool_tip;
+    return control;
 }
 
-Control list(TextView name, int left, int width) {
-    return {.kind = Kind::combo_box, .name = Text(name), .place = {left, 600, width, 315}};
+Control label(TextView name, int width, TextView caption) {
+    return designed(Kind::label, name, width, label_height, caption);
 }
 
-Control check_box(TextView name, int left, int top, int width, TextView caption) {
-    return {.kind = Kind::check_box,
-            .name = Text(name),
-            .place = {left, top, width, 315},
-            .caption = Text(caption)};
+Control check_box(TextView name, int width, TextView caption) {
+    return designed(Kind::check_box, name, width, check_height, caption);
 }
+
+Control list(TextView name) { return designed(Kind::combo_box, name, 2100, box_height); }
 
 Control hidden(Control control) {
     control.visible = false;
@@ -45,28 +60,28 @@ Control hidden(Control control) {
 }
 
 std::vector<Control> designed_controls() {
-    Control send = button(u"command1", 120, 945, u"Send");
+    Control send = button(u"command1", button_size.width, u"&Send");
     send.is_default = true;
-    Control close = button(u"cmdClose", 2460, 945, u"Close");
+    Control close = button(u"cmdClose", button_size.width, u"&Close");
     close.is_cancel = true;
     return {
         std::move(send),
-        button(u"cmdSendPlain", 1140, 1245, u"Send Plain"),
+        button(u"cmdSendPlain", 1350, u"Send &Plain"),
         std::move(close),
-        button(u"cmdNext", 3480, 1200, u"> Template", u"Next template"),
-        button(u"cmdSignNext", 4755, 1200, u"> Signature", u"Next signature"),
-        button(u"cmdOptions", 6030, 1035, options_folded),
-        check_box(u"chkvCard", 7200, 150, 810, u"vCard"),
-        hidden(label(u"lblTemplates", 120, 780, u"Template")),
-        hidden(list(u"cboTemplates", 915, 2100)),
-        hidden(list(u"cboListTemplates", 915, 2100)),
-        hidden(label(u"lblSignatures", 3120, 780, u"Signature")),
-        hidden(list(u"cboSignatures", 3930, 2100)),
-        hidden(list(u"cboPrevSigs", 3930, 2100)),
-        hidden(label(u"lblAttachments", 6120, 945, u"Attachments")),
-        hidden({.kind = Kind::text_box, .name = u"txtAttachments", .place = {7080, 615, 2850, 285}}),
-        check_box(u"chkShowPreview", 8040, 150, 1890, u"do not show Preview"),
-        {.kind = Kind::web_browser, .name = u"brwWebBrowser", .place = {120, browser_top, 9810, 4275}},
+        button(u"cmdNext", 1350, u"> &Template", u"Next template"),
+        button(u"cmdSignNext", 1350, u"> S&ignature", u"Next signature"),
+        button(u"cmdOptions", 1245, options_folded),
+        check_box(u"chkvCard", 900, u"&vCard"),
+        check_box(u"chkShowPreview", 2400, u"&do not show Preview"),
+        hidden(label(u"lblTemplates", 780, u"Te&mplate")),
+        hidden(list(u"cboTemplates")),
+        hidden(list(u"cboListTemplates")),
+        hidden(label(u"lblSignatures", 840, u"Si&gnature")),
+        hidden(list(u"cboSignatures")),
+        hidden(list(u"cboPrevSigs")),
+        hidden(label(u"lblAttachments", 1080, u"Attachments")),
+        hidden(designed(Kind::text_box, u"txtAttachments", 2400, box_height)),
+        designed(Kind::web_browser, u"brwWebBrowser", 0, 0),
     };
 }
 
@@ -90,6 +105,7 @@ frmBrowser::frmBrowser(Needs needs, PreviewAnswers& answers, Text page, std::fun
       form_({.name = u"frmBrowser", .place = {2595, 990, 10170, 6000}, .caption = u"Ornavel Preview"},
             designed_controls()) {
     form_.sizable = true;
+    form_.topmost = true; // the message may be open in another program, Word
     form_.centred = false;
     form_.on_load = [this] { Form_Load(); };
     form_.on_resize = [this] { Form_Resize(); };
@@ -120,14 +136,18 @@ void frmBrowser::render() {
 void frmBrowser::Form_Load() {
     answers_.send = false;
     if (is_on(needs_.settings, admin::PreviewOptionsShow)) show_options(true);
-    Form_Resize();
+    arrange();
 }
 
+void frmBrowser::arrange() { form_.take_place(form_.properties.place); }
+
 void frmBrowser::Form_Resize() {
-    const Place& window = form_.properties.place;
-    Place& browser = form_[u"brwWebBrowser"].place;
-    browser.width = std::max(0, window.width - frame_width - 2 * margin);
-    browser.height = std::max(0, window.height - frame_height - margin - browser_top);
+    const Size room = form_.room();
+    const int top = flow(form_, groups) + control_gap;
+    form_.least_room = {std::max(least_page.width, widest(form_, groups)),
+                        top + least_page.height + grip_height};
+    form_[u"brwWebBrowser"].place = {window_margin, top, std::max(0, room.width - 2 * window_margin),
+                                     std::max(0, room.height - top - grip_height)};
 }
 
 void frmBrowser::Form_Unload() {
@@ -138,8 +158,12 @@ void frmBrowser::Form_Unload() {
     save(needs_.settings, user::BrowserWidth, to_text(window.width));
     if (!form_[u"chkShowPreview"].ticked) return;
     save(needs_.settings, admin::AutoPreview, off);
-    needs_.windows.inform(u"Preview feature set off", u"Previewing your messages has been set off.\r\n"
-                                                      u"You can set Preview back 'on' in the setup wizard.");
+    // What the user chose stands, also where they can't be told.
+    attempt([this] {
+        needs_.windows.inform(u"Preview feature set off",
+                              u"Previewing your messages has been set off.\r\n"
+                              u"You can set Preview back 'on' in the setup wizard.");
+    });
 }
 
 void frmBrowser::command1_Click() {
@@ -158,6 +182,7 @@ void frmBrowser::cmdOptions_Click() {
     const bool shown = form_[u"cmdOptions"].caption == options_folded;
     save(needs_.settings, admin::PreviewOptionsShow, shown ? on : off);
     show_options(shown);
+    arrange();
 }
 
 void frmBrowser::show_options(bool shown) {

@@ -39,12 +39,13 @@ private:
     /// A list of files that the user chooses from by their names without extension.
     struct Choice {
         TextView shown, files; ///< the combo box, and the hidden one with the whole names
-        const settings::Key& folder;
-        const settings::Key& chosen;
+        const settings::PathKey& folder;
+        const settings::TextKey& chosen;
     };
     static const Choice templates, signatures;
 
     void Form_Load();
+    void arrange();
     void Form_Resize();
     void Form_Unload();
     void command1_Click();

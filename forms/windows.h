@@ -9,11 +9,9 @@ namespace ornavel::forms {
 class Windows : public MessageBoxes {
 public:
     /// Loads the form, shows it above everything else of the mail client, and returns when it is unloaded.
-    /// Where there are no windows the form is loaded and closed by its frame at once.
-    virtual void show_modal(Form& form) {
-        form.load();
-        form.unload();
-    }
+    /// Throws Failure when there is no window to be had: the form is unloaded then, too, and nobody has
+    /// answered.
+    virtual void show_modal(Form& form) = 0;
 };
 
 } // namespace ornavel::forms

@@ -10,7 +10,6 @@ constexpr std::int32_t style_face_and_caption = 3;
 class Collection : public ViewOf<u"Collection"> {
 public:
     using ViewOf::ViewOf;
-    int count() const { return as_number(get({u"Count"})); }
     ObjectPtr add_temporary(std::int32_t type) const {
         return as_object(call({u"Add"}, {type, Omitted{}, Omitted{}, Omitted{}, true}));
     }
@@ -48,13 +47,20 @@ CommandBarButton CommandBar::find_button(TextView tag) const {
         as_object_or_nothing(call({u"FindControl"}, {control_button, Omitted{}, Text(tag)})));
 }
 
+Subscription Explorers::on_new(std::function<void(Explorer explorer)> handler) const {
+    return advise(EventSource::explorers,
+                  [handler = std::move(handler)](TextView event, std::span<Value> arguments) {
+                      attempt([&] {
+                          if (event == u"NewExplorer") handler(Explorer(as_object(arguments[0])));
+                      });
+                  });
+}
+
 Subscription Explorer::on_close(std::function<void()> handler) const {
     return advise(EventSource::explorer, [handler = std::move(handler)](TextView event, std::span<Value>) {
         if (event == u"Close") handler();
     });
 }
-
-int Application::explorer_count() const { return Collection(as_object(get({u"Explorers"}))).count(); }
 
 MailItem Application::create_mail() const {
     constexpr std::int32_t ol_mail_item = 0;

@@ -42,6 +42,18 @@ public:
     Subscription on_close(std::function<void()> handler) const;
 };
 
+/// The windows that show folders. One that closes counts until its Close event has ended.
+class Explorers : public ViewOf<u"Explorers"> {
+public:
+    using ViewOf::ViewOf;
+    int count() const { return as_number(get({u"Count"})); }
+    /// Counts from 1.
+    Explorer item(int index) const {
+        return Explorer(as_object(call({u"Item"}, {static_cast<std::int32_t>(index)})));
+    }
+    Subscription on_new(std::function<void(Explorer explorer)> handler) const;
+};
+
 /// The pages of the host's Options dialog.
 class PropertyPages : public ViewOf<u"PropertyPages"> {
 public:
@@ -62,7 +74,7 @@ class Application : public ViewOf<u"Application"> {
 public:
     using ViewOf::ViewOf;
     Text version() const { return as_text(get({u"Version"})); }
-    int explorer_count() const;
+    Explorers explorers() const { return Explorers(as_object(get({u"Explorers"}))); }
     /// Holds nothing when no explorer window is open.
     Explorer active_explorer() const { return Explorer(as_object_or_nothing(call({u"ActiveExplorer"}))); }
     MailItem create_mail() const;

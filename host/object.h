@@ -21,7 +21,7 @@ struct Member {
 using Arguments = std::vector<Value>;
 
 /// The sets of events that the add-in listens to.
-enum class EventSource { application, explorer, button };
+enum class EventSource { application, explorers, explorer, button };
 
 /// Called with the event's name and its arguments in their order. What the handler leaves in an argument that
 /// the host passed by reference goes back to the host. A handler never throws.
@@ -38,6 +38,8 @@ public:
     virtual void put(Member member, const Value& value) = 0;
     virtual Value call(Member member, const Arguments& arguments = {}) = 0;
     virtual Subscription advise(EventSource source, EventHandler handler) = 0;
+    /// Whether the other one stands for the same object of the mail client.
+    virtual bool is_same(const Object& other) const = 0;
 };
 
 /// Makes objects by their programmatic identifier, and finds them by moniker. Throws Error when there is

@@ -15,6 +15,10 @@ public:
 
     explicit operator bool() const { return object_ != nullptr; }
     const ObjectPtr& object() const { return object_; }
+    /// Whether both hold the same object of the mail client.
+    bool is_same(const View& other) const {
+        return object_ && other.object_ && object_->is_same(*other.object_);
+    }
     void release() { object_.reset(); }
 
 protected:

@@ -20,7 +20,7 @@ Json items_of(const Control& control) {
 
 Json control_record(const Control& control) {
     Json json{{"kind", kind_names[static_cast<std::size_t>(control.kind)]}};
-    if (has_caption(control.kind)) json["caption"] = to_json(control.caption);
+    if (has_caption(control.kind)) json["caption"] = to_json(readable_caption(control));
     json["tool tip"] = to_json(control.tool_tip);
     json["visible"] = control.visible;
     json["enabled"] = control.enabled;

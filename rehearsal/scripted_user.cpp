@@ -24,7 +24,8 @@ void ScriptedUser::complain(const UserEntry& entry, const std::string& reason) {
     if (!complaint_) complaint_ = source_ + ": " + entry.path + ": " + reason;
 }
 
-Json answer_message_box(ScriptedUser& user, TextView title, TextView text, bool yes_no) {
+Json answer_message_box(ScriptedUser& user, TextView title, TextView text, Buttons buttons) {
+    const bool yes_no = buttons != Buttons::ok;
     const auto entry = user.meet(title);
     const bool answered = entry && (entry->has_answer || !entry->steps.empty());
     if (answered && !fits(*entry, yes_no))
@@ -36,6 +37,7 @@ Json answer_message_box(ScriptedUser& user, TextView title, TextView text, bool 
                 {"buttons", yes_no ? "YesNo" : "OK"},
                 {"icon", yes_no ? "Question" : "Information"},
                 {"answer", to_json(answer)}};
+    if (buttons == Buttons::risky_yes_no) record["default"] = "No";
     if (!entry) record["unexpected"] = true;
     return record;
 }

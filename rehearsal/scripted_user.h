@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/message_box.h"
 #include "rehearsal/scenario.h"
 
 #include <deque>
@@ -26,6 +27,6 @@ private:
 };
 
 /// Lets the user answer a message box; gives the box's record, with the answer in it.
-Json answer_message_box(ScriptedUser& user, TextView title, TextView text, bool yes_no);
+Json answer_message_box(ScriptedUser& user, TextView title, TextView text, Buttons buttons);
 
 } // namespace ornavel::rehearsal

@@ -3,12 +3,13 @@
 namespace ornavel::settings {
 namespace {
 
-#define ROW(section, id, name, fallback) section::id,
-#define TEXT ROW
-#define SWITCH ROW
-#define TICK ROW
-#define NUMBER ROW
-#define PATH ROW
+#define KEY(section, id, ...) section::id,
+#define TEXT_KEY KEY
+#define CHOICE_KEY KEY
+#define SWITCH_KEY KEY
+#define TICK_KEY KEY
+#define NUMBER_KEY KEY
+#define PATH_KEY KEY
 constexpr Key every_key[] = {
 #include "settings/catalogue.inc"
 };

@@ -3,14 +3,29 @@
 #include "base/errors.h"
 
 namespace ornavel::settings {
+namespace {
 
-Text read(const Store& store, const Key& key) { return read(store, key, key.default_value); }
-
-Text read(const Store& store, const Key& key, TextView fallback) {
+Text value_of(const Store& store, const Key& key, TextView fallback) {
     return store.find(key.section, key.name).value_or(Text(fallback));
 }
 
-bool is_on(const Store& store, const Key& key) { return read(store, key) == u"True"; }
+Text value_of(const Store& store, const Key& key) { return value_of(store, key, key.default_value); }
+
+} // namespace
+
+Text read(const Store& store, const TextKey& key) { return value_of(store, key); }
+Text read(const Store& store, const PathKey& key) { return value_of(store, key); }
+Text read(const Store& store, const TextKey& key, TextView fallback) {
+    return value_of(store, key, fallback);
+}
+Text read(const Store& store, const PathKey& key, TextView fallback) {
+    return value_of(store, key, fallback);
+}
+
+bool is_on(const Store& store, const SwitchKey& key) { return value_of(store, key) == on; }
+bool is_off(const Store& store, const SwitchKey& key) { return value_of(store, key) == off; }
+bool is_ticked(const Store& store, const TickKey& key) { return value_of(store, key) == u"1"; }
+int read_number(const Store& store, const NumberKey& key) { return numeric_value(value_of(store, key)); }
 
 void save(Store& store, const Key& key, TextView value) { store.save(key.section, key.name, value); }
 

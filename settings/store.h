@@ -18,13 +18,24 @@ public:
 };
 
 /// The stored value, or the key's default.
-Text read(const Store& store, const Key& key);
+Text read(const Store& store, const TextKey& key);
+Text read(const Store& store, const PathKey& key);
 
 /// The stored value, or a default other than the catalogue's.
-Text read(const Store& store, const Key& key, TextView fallback);
+Text read(const Store& store, const TextKey& key, TextView fallback);
+Text read(const Store& store, const PathKey& key, TextView fallback);
 
 /// Whether the value is exactly "True"; "true" is off.
-bool is_on(const Store& store, const Key& key);
+bool is_on(const Store& store, const SwitchKey& key);
+
+/// Whether the value is exactly "False". A value that is no switch's is neither on nor off.
+bool is_off(const Store& store, const SwitchKey& key);
+
+/// Whether the value is exactly "1"; "True" ticks nothing.
+bool is_ticked(const Store& store, const TickKey& key);
+
+/// The digits that the value begins with, as numeric_value takes them.
+int read_number(const Store& store, const NumberKey& key);
 
 void save(Store& store, const Key& key, TextView value);
 

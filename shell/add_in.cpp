@@ -32,6 +32,12 @@ DISPID find_handler(TextView name) {
     return DISPID_UNKNOWN;
 }
 
+/// Without a backslash at its end.
+Text addin_folder() {
+    const Text path = win32::path_of(win32::this_module());
+    return path.substr(0, path.find_last_of(u'\\'));
+}
+
 /// Runs a handler on behalf of the mail client: nothing gets out, and the object stays until it has ended.
 template <class Body>
 HRESULT at_boundary(IUnknown* object, Body body) noexcept {
@@ -80,7 +86,8 @@ HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VAR
     return at_boundary(this, [&] {
         switch (id) {
         case on_connection:
-            connect_.OnConnection(host::Application(host::as_object_or_nothing(argument(parameters, 0))));
+            connect_.OnConnection(host::Application(host::as_object_or_nothing(argument(parameters, 0))),
+                                  host::as_number(argument(parameters, 1)));
             break;
         case on_disconnection:
             connect_.OnDisconnection(host::as_number(argument(parameters, 0)));
@@ -98,9 +105,9 @@ HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VAR
     });
 }
 
-HRESULT AddIn::OnConnection(IDispatch* Application, LONG, IDispatch*, SAFEARRAY**) {
-    return at_boundary(this,
-                       [&] { connect_.OnConnection(host::Application(win32::object_of(Application))); });
+HRESULT AddIn::OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch*, SAFEARRAY**) {
+    return at_boundary(
+        this, [&] { connect_.OnConnection(host::Application(win32::object_of(Application)), ConnectMode); });
 }
 
 HRESULT AddIn::OnDisconnection(LONG RemoveMode, SAFEARRAY**) {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "connect/connect.h"
-#include "shell/module.h"
 #include "win32/com.h"
 #include "win32/com_objects.h"
 #include "win32/extensibility.h"
 #include "win32/machine.h"
 #include "win32/registry_store.h"
 #include "win32/system_information.h"
+#include "win32/this_module.h"
 #include "win32/windows_files.h"
 
 namespace ornavel::shell {
@@ -25,7 +25,7 @@ private:
     win32::ShellLauncher launcher_;
     win32::ComObjects objects_;
     win32::DesktopWindows windows_;
-    win32::ResourceStrings strings_{this_module()};
+    win32::ResourceStrings strings_{win32::this_module()};
     win32::WindowsInformation information_;
 };
 
@@ -50,7 +50,6 @@ public:
     HRESULT STDMETHODCALLTYPE OnBeginShutdown(SAFEARRAY** custom) override;
 
 private:
-    ModuleUse use_;
     Machine machine_;
     connect::Connect connect_{machine_.platform(this)};
 };

@@ -1,5 +1,6 @@
 #include "shell/add_in.h"
 #include "shell/registration.h"
+#include "win32/this_module.h"
 #include "win32/wide.h"
 
 #include <new>
@@ -24,12 +25,9 @@ public:
     }
 
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
-        lock ? ModuleUse::begin() : ModuleUse::end();
+        lock ? win32::ModuleUse::begin() : win32::ModuleUse::end();
         return S_OK;
     }
-
-private:
-    ModuleUse use_;
 };
 
 } // namespace
@@ -46,10 +44,10 @@ STDAPI DllGetClassObject(REFCLSID class_id, REFIID wanted, void** object) {
     return factory ? factory->QueryInterface(wanted, object) : E_OUTOFMEMORY;
 }
 
-STDAPI DllCanUnloadNow() { return ModuleUse::any() ? S_FALSE : S_OK; }
+STDAPI DllCanUnloadNow() { return win32::ModuleUse::any() ? S_FALSE : S_OK; }
 
 STDAPI DllRegisterServer() {
-    return attempt([] { register_add_in(win32::path_of(this_module())); }) ? S_OK : SELFREG_E_CLASS;
+    return attempt([] { register_add_in(win32::path_of(win32::this_module())); }) ? S_OK : SELFREG_E_CLASS;
 }
 
 STDAPI DllUnregisterServer() { return attempt(unregister_add_in) ? S_OK : SELFREG_E_CLASS; }

@@ -1,16 +1,24 @@
 #include "win32/browser_site.h"
 
+#include "win32/browser_frame.h"
+
+#include <idispids.h>
 #include <mshtmdid.h>
+#include <new>
 
 namespace ornavel::win32 {
+namespace {
 
-RECT BrowserSite::area() const {
-    RECT area{};
-    GetClientRect(window_, &area);
-    return area;
+LONG downloads(bool follows_links) {
+    constexpr LONG shown = DLCTL_DLIMAGES;
+    constexpr LONG kept_still = DLCTL_SILENT | DLCTL_NO_CLIENTPULL | DLCTL_NO_SCRIPTS | DLCTL_NO_JAVA |
+                                DLCTL_NO_DLACTIVEXCTLS | DLCTL_NO_RUNACTIVEXCTLS | DLCTL_NO_BEHAVIORS;
+    return shown | kept_still | (follows_links ? 0 : DLCTL_FORCEOFFLINE);
 }
 
-HRESULT STDMETHODCALLTYPE BrowserSite::QueryInterface(REFIID wanted, void** object) {
+} // namespace
+
+HRESULT BrowserSite::QueryInterface(REFIID wanted, void** object) {
     if (!object) return E_POINTER;
     *object = nullptr;
     if (wanted == IID_IUnknown || wanted == IID_IOleClientSite)
@@ -24,31 +32,25 @@ HRESULT STDMETHODCALLTYPE BrowserSite::QueryInterface(REFIID wanted, void** obje
     return S_OK;
 }
 
-ULONG STDMETHODCALLTYPE BrowserSite::Release() {
-    const LONG left = InterlockedDecrement(&references_);
-    if (left == 0) delete this;
-    return static_cast<ULONG>(left);
-}
-
-HRESULT STDMETHODCALLTYPE BrowserSite::GetContainer(IOleContainer** container) {
+HRESULT BrowserSite::GetContainer(IOleContainer** container) {
     if (container) *container = nullptr;
     return container ? E_NOINTERFACE : E_POINTER;
 }
 
-HRESULT STDMETHODCALLTYPE BrowserSite::GetWindow(HWND* window) {
+HRESULT BrowserSite::GetWindow(HWND* window) {
     if (!window) return E_POINTER;
     *window = window_;
     return S_OK;
 }
 
-HRESULT STDMETHODCALLTYPE BrowserSite::GetWindowContext(IOleInPlaceFrame** frame,
-                                                        IOleInPlaceUIWindow** document, RECT* place,
-                                                        RECT* clip, OLEINPLACEFRAMEINFO* information) {
+HRESULT BrowserSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, RECT* place,
+                                      RECT* clip, OLEINPLACEFRAMEINFO* information) {
     if (!frame || !document || !place || !clip || !information) return E_POINTER;
-    AddRef();
-    *frame = this;
     *document = nullptr;
-    *place = *clip = area();
+    *frame = new (std::nothrow) BrowserFrame(GetParent(window_));
+    if (!*frame) return E_OUTOFMEMORY;
+    GetClientRect(window_, place);
+    *clip = *place;
     information->fMDIApp = FALSE;
     information->hwndFrame = GetParent(window_);
     information->haccel = nullptr;
@@ -56,18 +58,29 @@ HRESULT STDMETHODCALLTYPE BrowserSite::GetWindowContext(IOleInPlaceFrame** frame
     return S_OK;
 }
 
-HRESULT STDMETHODCALLTYPE BrowserSite::GetTypeInfoCount(UINT* count) {
+HRESULT BrowserSite::GetTypeInfoCount(UINT* count) {
     if (count) *count = 0;
     return count ? S_OK : E_POINTER;
 }
 
-HRESULT STDMETHODCALLTYPE BrowserSite::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result,
-                                              EXCEPINFO*, UINT*) {
-    if (id != DISPID_AMBIENT_DLCONTROL || !result) return DISP_E_MEMBERNOTFOUND;
-    result->vt = VT_I4;
-    result->lVal = DLCTL_DLIMAGES | DLCTL_VIDEOS | DLCTL_BGSOUNDS | DLCTL_NO_SCRIPTS | DLCTL_NO_JAVA |
-                   DLCTL_NO_DLACTIVEXCTLS | DLCTL_NO_RUNACTIVEXCTLS | DLCTL_NO_BEHAVIORS;
-    return S_OK;
+HRESULT BrowserSite::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*) {
+    if (!result) return DISP_E_MEMBERNOTFOUND;
+    switch (id) {
+    case DISPID_AMBIENT_DLCONTROL:
+        result->vt = VT_I4;
+        result->lVal = downloads(follows_links_);
+        return S_OK;
+    case DISPID_AMBIENT_SILENT:
+        result->vt = VT_BOOL;
+        result->boolVal = VARIANT_TRUE;
+        return S_OK;
+    case DISPID_AMBIENT_OFFLINEIFNOTCONNECTED:
+        result->vt = VT_BOOL;
+        result->boolVal = follows_links_ ? VARIANT_FALSE : VARIANT_TRUE;
+        return S_OK;
+    default:
+        return DISP_E_MEMBERNOTFOUND;
+    }
 }
 
 } // namespace ornavel::win32

@@ -6,27 +6,16 @@
 
 namespace ornavel::win32 {
 
-/// What a control asks of the window that it stands in. It lives in place, without menus or borders of its
-/// own, and gets the size of the window.
-class BrowserSite final : public IOleClientSite,
-                          public IOleInPlaceSite,
-                          public IOleInPlaceFrame,
-                          public IDispatch {
+/// What a control asks of the window that it stands in: its place, and what it may do. It lives in place and
+/// fills the window. Nothing that a page brings along runs, moves or sounds; a page that follows no links
+/// gets nothing from other machines either.
+class BrowserSite final : public Counted<IOleClientSite>, public IOleInPlaceSite, public IDispatch {
 public:
-    explicit BrowserSite(HWND window) : window_(window) {}
-    BrowserSite(const BrowserSite&) = delete;
-    BrowserSite& operator=(const BrowserSite&) = delete;
-
-    /// The control in this site, which knows its window only until the control is closed.
-    ComPtr<IOleObject> control;
-    HWND window() const { return window_; }
-    RECT area() const;
+    BrowserSite(HWND window, bool follows_links) : window_(window), follows_links_(follows_links) {}
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override {
-        return static_cast<ULONG>(InterlockedIncrement(&references_));
-    }
-    ULONG STDMETHODCALLTYPE Release() override;
+    ULONG STDMETHODCALLTYPE AddRef() override { return Counted::AddRef(); }
+    ULONG STDMETHODCALLTYPE Release() override { return Counted::Release(); }
 
     // IOleClientSite
     HRESULT STDMETHODCALLTYPE SaveObject() override { return E_NOTIMPL; }
@@ -54,18 +43,6 @@ public:
     HRESULT STDMETHODCALLTYPE DeactivateAndUndo() override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE OnPosRectChange(LPCRECT) override { return S_OK; }
 
-    // IOleInPlaceFrame
-    HRESULT STDMETHODCALLTYPE GetBorder(RECT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject*, LPCOLESTR) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE InsertMenus(HMENU, OLEMENUGROUPWIDTHS*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
-
     // IDispatch: the surroundings that a control asks about.
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
@@ -76,10 +53,8 @@ public:
                                      UINT*) override;
 
 private:
-    ~BrowserSite() = default;
-
     HWND window_;
-    LONG references_ = 1;
+    bool follows_links_;
 };
 
 } // namespace ornavel::win32

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/text.h"
+#include "win32/module_use.h"
 
 #include <windows.h>
 
@@ -92,7 +93,8 @@ private:
     Interface* object_ = nullptr;
 };
 
-/// A COM object that is made with new, starts with one reference, and ends with its last.
+/// A COM object that is made with new, starts with one reference, and ends with its last. As long as it lives
+/// the module that it belongs to is in use.
 template <class Interface>
 class Counted : public Interface {
 public:
@@ -122,6 +124,7 @@ protected:
     }
 
 private:
+    ModuleUse use_;
     LONG references_ = 1;
 };
 

@@ -21,6 +21,10 @@ Look text_box_look(const Control& control) {
     return {L"EDIT", WS_TABSTOP | lines | (control.locked ? ES_READONLY : 0), WS_EX_CLIENTEDGE};
 }
 
+DWORD picture_style(const Control& image) {
+    return image.icon == forms::Icon::none ? DWORD{SS_BITMAP} : DWORD{SS_ICON};
+}
+
 /// What a control looks like; one without a window has no class.
 Look look_of(const Control& control) {
     switch (control.kind) {
@@ -37,12 +41,27 @@ Look look_of(const Control& control) {
     case Kind::frame:
         return {L"BUTTON", BS_GROUPBOX, 0};
     case Kind::image:
-        return {L"STATIC", SS_BITMAP | SS_CENTERIMAGE | SS_NOTIFY, 0};
+        return {L"STATIC", picture_style(control) | SS_CENTERIMAGE | SS_NOTIFY, 0};
     case Kind::web_browser:
         return {L"STATIC", SS_OWNERDRAW | WS_CLIPCHILDREN, WS_EX_CLIENTEDGE};
     default:
         return {};
     }
+}
+
+/// Within the form, also for a control that stands in a frame.
+forms::Place place_in_form(const Control& control, const Control* frame) {
+    forms::Place place = control.place;
+    if (frame) {
+        place.left += frame->place.left;
+        place.top += frame->place.top;
+    }
+    return place;
+}
+
+const wchar_t* system_icon(forms::Icon icon) {
+    if (icon == forms::Icon::question) return IDI_QUESTION;
+    return icon == forms::Icon::warning ? IDI_WARNING : IDI_INFORMATION;
 }
 
 } // namespace
@@ -58,8 +77,15 @@ ControlWindow::ControlWindow(const Control& control, HWND parent, int id, HFONT 
     if (!window_) fail(control.name, GetLastError());
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font));
     give_name(window_, control.name);
-    // A page that can't be shown must not keep the form from the user.
-    if (control.kind == Kind::web_browser) attempt([&] { browser_ = std::make_unique<WebBrowser>(window_); });
+    if (control.icon != forms::Icon::none)
+        send(STM_SETICON, reinterpret_cast<WPARAM>(LoadIconW(nullptr, system_icon(control.icon))));
+    if (control.kind == Kind::web_browser) make_browser(control.follows_links);
+}
+
+/// A page that can't be shown must not keep the form from the user.
+void ControlWindow::make_browser(bool follows_links) {
+    attempt([&] { browser_ = std::make_unique<WebBrowser>(window_, follows_links); });
+    if (browser_) SetWindowLongW(window_, GWL_STYLE, GetWindowLongW(window_, GWL_STYLE) | WS_TABSTOP);
 }
 
 void ControlWindow::release_name() const {
@@ -77,20 +103,18 @@ void ControlWindow::show(const Control& control, const Control* frame, const Sca
     show_text(control);
     if (control.kind == Kind::web_browser) show_page(control);
     if (control.kind == Kind::check_box) send(BM_SETCHECK, control.ticked ? BST_CHECKED : BST_UNCHECKED);
-    if (control.tool_tip != shown_.tool_tip) tips.set(window_, control.tool_tip);
-
-    forms::Place place = control.place;
-    if (frame) {
-        place.left += frame->place.left;
-        place.top += frame->place.top;
-    }
-    if (place != place_) show_place(place, scale);
+    const bool moved = show_place(place_in_form(control, frame), scale);
     const bool frame_is_hidden = frame && !frame->visible;
     if (control.visible && frame_is_hidden)
         SetPropW(window_, in_hidden_frame, window_);
     else
         RemovePropW(window_, in_hidden_frame);
-    show_state(control.visible && !frame_is_hidden, control.enabled);
+    const bool visible = control.visible && !frame_is_hidden;
+    show_state(visible, control.enabled);
+    if (control.tool_tip != shown_.tool_tip) tips.set(window_, control.tool_tip);
+    const Text tip_for_place = visible && !control.enabled ? control.tool_tip : Text();
+    if (moved || tip_for_place != tip_for_place_)
+        tips.set_for_place(window_, scale.pixels(place_), tip_for_place_ = tip_for_place);
     shown_ = control;
 }
 
@@ -117,7 +141,8 @@ void ControlWindow::show_list(const Control& control) {
     if (control.index < 0) SetWindowTextW(window_, wide(control.text).c_str());
 }
 
-void ControlWindow::show_place(const forms::Place& place, const Scale& scale) {
+bool ControlWindow::show_place(const forms::Place& place, const Scale& scale) {
+    if (place == place_) return false;
     constexpr int entries_of_an_open_list = 8;
     place_ = place;
     RECT pixels = scale.pixels(place);
@@ -127,6 +152,7 @@ void ControlWindow::show_place(const forms::Place& place, const Scale& scale) {
     MoveWindow(window_, pixels.left, pixels.top, pixels.right - pixels.left, pixels.bottom - pixels.top,
                TRUE);
     if (browser_) attempt([&] { browser_->fill_window(); });
+    return true;
 }
 
 void ControlWindow::show_page(const Control& control) {

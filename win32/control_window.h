@@ -5,6 +5,8 @@
 #include "win32/twips.h"
 #include "win32/web_browser.h"
 
+#include <memory>
+
 namespace ornavel::win32 {
 
 /// The window of one control: shows what the control says, and reads what the user changed. The window goes
@@ -22,6 +24,8 @@ public:
 
     HWND window() const { return window_; }
     const Text& name() const { return shown_.name; }
+    /// Null for other kinds of controls, and where the system has no browser.
+    WebBrowser* browser() const { return browser_.get(); }
 
     /// Brings the window up to date with the control as it stands in the form.
     void show(const forms::Control& control, const forms::Control* frame, const Scale& scale, ToolTips& tips);
@@ -34,15 +38,18 @@ public:
 private:
     void show_text(const forms::Control& control);
     void show_list(const forms::Control& control);
-    void show_place(const forms::Place& place, const Scale& scale);
+    /// Whether it stood elsewhere before.
+    bool show_place(const forms::Place& place, const Scale& scale);
     void show_state(bool visible, bool enabled);
     LRESULT send(UINT message, WPARAM word = 0, LPARAM pointer = 0) const;
 
+    void make_browser(bool follows_links);
     void show_page(const forms::Control& control);
 
     HWND window_ = nullptr;
     std::unique_ptr<WebBrowser> browser_; ///< of a web browser, where the system has one
     forms::Control shown_;                ///< the control as the window shows it
+    Text tip_for_place_;                  ///< what the form's window shows there
     forms::Place place_;                  ///< within the form, also for a control that stands in a frame
 };
 

@@ -58,6 +58,13 @@ private:
     std::vector<Variant> values_;
 };
 
+/// The address that stands for an object among all its interfaces; to be compared only.
+const void* identity_of(const ComPtr<IDispatch>& dispatch) {
+    ComPtr<IUnknown> unknown;
+    dispatch->QueryInterface(IID_IUnknown, unknown.out_untyped());
+    return unknown.get();
+}
+
 static_assert(sizeof(Variant) == sizeof(VARIANT), "a vector of Variant is an array of VARIANT");
 
 } // namespace
@@ -76,6 +83,11 @@ host::Value DispatchObject::call(host::Member member, const host::Arguments& arg
 
 host::Subscription DispatchObject::advise(host::EventSource source, host::EventHandler handler) {
     return win32::advise(dispatch_.get(), source, std::move(handler));
+}
+
+bool DispatchObject::is_same(const host::Object& other) const {
+    const auto* object = dynamic_cast<const DispatchObject*>(&other);
+    return object && identity_of(dispatch_) == identity_of(object->dispatch_);
 }
 
 DISPID DispatchObject::identifier(host::Member member) const {

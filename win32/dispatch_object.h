@@ -14,6 +14,8 @@ public:
     void put(host::Member member, const host::Value& value) override;
     host::Value call(host::Member member, const host::Arguments& arguments) override;
     host::Subscription advise(host::EventSource source, host::EventHandler handler) override;
+    /// By the identity of COM: whatever interfaces the two were reached by.
+    bool is_same(const host::Object& other) const override;
 
     const ComPtr<IDispatch>& dispatch() const { return dispatch_; }
 

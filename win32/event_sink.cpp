@@ -1,10 +1,8 @@
 #include "win32/event_sink.h"
 
-#include "win32/dispatch_object.h"
+#include "win32/connection.h"
 #include "win32/events.h"
 #include "win32/values.h"
-
-#include <ocidl.h>
 
 namespace ornavel::win32 {
 namespace {
@@ -14,13 +12,6 @@ std::vector<host::Value> in_order(const DISPPARAMS& parameters) {
     std::vector<host::Value> values;
     for (UINT i = parameters.cArgs; i-- > 0;) values.push_back(to_value(parameters.rgvarg[i]));
     return values;
-}
-
-/// Where a flag that was passed by reference is kept, or null.
-VARIANT_BOOL* flag_behind(const VARIANT& argument) {
-    if (argument.vt == (VT_BYREF | VT_BOOL)) return argument.pboolVal;
-    const bool by_variant = argument.vt == (VT_BYREF | VT_VARIANT) && argument.pvarVal;
-    return by_variant && argument.pvarVal->vt == VT_BOOL ? &argument.pvarVal->boolVal : nullptr;
 }
 
 void give_back_flags(const DISPPARAMS& parameters, const std::vector<host::Value>& values) {
@@ -70,36 +61,25 @@ private:
     std::shared_ptr<host::EventHandler> handler_;
 };
 
-/// One connection between a sink and the object whose events it takes.
-class Connection {
+/// A connection whose handler is heard no more from its end on, also by a host that keeps the sink.
+class Listening {
 public:
-    Connection(ComPtr<IConnectionPoint> point, ComPtr<EventSink> sink)
-        : point_(std::move(point)), sink_(std::move(sink)) {
-        check(point_->Advise(sink_.get(), &cookie_));
-    }
-    ~Connection() {
-        sink_->disconnect();
-        // A host that is gone already answers with an error, which changes nothing.
-        point_->Unadvise(cookie_);
-    }
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
+    Listening(IUnknown* object, host::EventSource source, host::EventHandler handler)
+        : sink_(ComPtr<EventSink>::adopt(new EventSink(source, std::move(handler)))),
+          connection_(object, event_interface(source), sink_.get()) {}
+    ~Listening() { sink_->disconnect(); }
+    Listening(const Listening&) = delete;
+    Listening& operator=(const Listening&) = delete;
 
 private:
-    ComPtr<IConnectionPoint> point_;
     ComPtr<EventSink> sink_;
-    DWORD cookie_ = 0;
+    Connection connection_;
 };
 
 } // namespace
 
 host::Subscription advise(IUnknown* object, host::EventSource source, host::EventHandler handler) {
-    ComPtr<IConnectionPointContainer> container;
-    check(object->QueryInterface(IID_IConnectionPointContainer, container.out_untyped()));
-    ComPtr<IConnectionPoint> point;
-    check(container->FindConnectionPoint(event_interface(source), point.out()));
-    return std::make_shared<Connection>(std::move(point),
-                                        ComPtr<EventSink>::adopt(new EventSink(source, std::move(handler))));
+    return std::make_shared<Listening>(object, source, std::move(handler));
 }
 
 } // namespace ornavel::win32

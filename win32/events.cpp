@@ -12,6 +12,7 @@ struct Event {
 constexpr Event events[] = {
     {host::EventSource::application, 0xF002, u"ItemSend"},
     {host::EventSource::application, 0xF005, u"OptionsPagesAdd"},
+    {host::EventSource::explorers, 0xF001, u"NewExplorer"},
     {host::EventSource::explorer, 0xF008, u"Close"},
     {host::EventSource::button, 1, u"Click"},
 };
@@ -21,6 +22,7 @@ constexpr IID office_interface(unsigned long number) {
 }
 
 constexpr IID application_events = office_interface(0x0006304E);
+constexpr IID explorers_events = office_interface(0x00063078);
 constexpr IID explorer_events = office_interface(0x0006304F);
 constexpr IID button_events = office_interface(0x000C0351);
 
@@ -30,6 +32,8 @@ const IID& event_interface(host::EventSource source) {
     switch (source) {
     case host::EventSource::application:
         return application_events;
+    case host::EventSource::explorers:
+        return explorers_events;
     case host::EventSource::explorer:
         return explorer_events;
     default:

@@ -1,6 +1,10 @@
 #include "win32/form_window.h"
 
-#include "forms/centre.h"
+#include "forms/screen_place.h"
+#include "forms/unloading.h"
+#include "win32/modality.h"
+#include "win32/program_icon.h"
+#include "win32/screens.h"
 #include "win32/wide.h"
 #include "win32/window_name.h"
 
@@ -26,28 +30,13 @@ struct EmptyDialog {
 
 HWND create_dialog(const forms::Form& form, HWND owner, DLGPROC procedure, void* self) {
     EmptyDialog empty;
-    empty.dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_NOIDLEMSG |
-                         (form.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0);
+    empty.dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_NOIDLEMSG |
+                         (form.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : DS_MODALFRAME);
     const HWND window = CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.dialog, owner, procedure,
                                                    reinterpret_cast<LPARAM>(self));
     if (!window) fail(form.name(), GetLastError());
     return window;
 }
-
-/// Keeps a window from the user for as long as it lives.
-class Disabled {
-public:
-    explicit Disabled(HWND window) : window_(window), was_enabled_(window && !EnableWindow(window, FALSE)) {}
-    ~Disabled() {
-        if (was_enabled_) EnableWindow(window_, TRUE);
-    }
-    Disabled(const Disabled&) = delete;
-    Disabled& operator=(const Disabled&) = delete;
-
-private:
-    HWND window_;
-    bool was_enabled_;
-};
 
 } // namespace
 
@@ -56,11 +45,13 @@ FormWindow::FormWindow(forms::Form& form) : form_(form), font_(dialog_font(scale
 void FormWindow::open(HWND owner) {
     window_ = create_dialog(form_, owner, procedure, this);
     give_name(window_, form_.name());
-    if (form_.centred) centre();
+    show_program_icon(window_);
+    find_place();
     // Before there are tool tips: under Wine a window that owns another one never becomes topmost.
     show_frame();
     tips_.emplace(window_);
     create_controls();
+    if (form_.sizable) grip_.emplace(window_);
     refresh();
     refreshing_ = false;
 }
@@ -78,16 +69,20 @@ void FormWindow::create_controls() {
     }
 }
 
-void FormWindow::centre() {
-    RECT desk;
+void FormWindow::find_place() {
+    RECT frame{}, desk;
+    AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
+                       static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
+    const forms::Place borders = scale_.twips(frame);
+    form_.take_frame({borders.width, borders.height});
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &desk, 0);
-    form_.properties.place = forms::centred(form_.properties.place, scale_.twips(desk));
+    forms::place_on_screen(form_, scale_.twips(desk), screens(scale_));
 }
 
 void FormWindow::run() {
     ShowWindow(window_, SW_SHOW);
     SetForegroundWindow(window_);
-    SetFocus(GetNextDlgTabItem(window_, nullptr, FALSE));
+    SetFocus(first_focus());
     MSG message;
     while (form_.is_loaded()) {
         if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
@@ -106,6 +101,8 @@ void FormWindow::refresh() {
     if (!window_) return;
     const bool before = std::exchange(refreshing_, true);
     show_frame();
+    fill_room();
+    if (grip_) grip_->follow();
     for (std::size_t i = 0; i < controls_.size(); ++i) {
         const Control& control = form_.controls()[i];
         controls_[i].show(control, form_.find(control.frame), scale_, *tips_);
@@ -117,7 +114,8 @@ void FormWindow::refresh() {
 void FormWindow::show_frame() {
     const Control& form = form_.properties;
     if (form.caption != caption_) SetWindowTextW(window_, wide(caption_ = form.caption).c_str());
-    if (form.place != place_) {
+    // A maximised window takes its place when it returns from there.
+    if (form.place != place_ && !IsZoomed(window_)) {
         const RECT frame = scale_.pixels(place_ = form.place);
         SetWindowPos(window_, nullptr, frame.left, frame.top, frame.right - frame.left,
                      frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -129,24 +127,42 @@ void FormWindow::show_frame() {
     }
 }
 
-void FormWindow::show_default_button() {
-    for (std::size_t i = 0; i < controls_.size(); ++i) {
-        const Control& control = form_.controls()[i];
-        if (control.is_default && control.visible && control.enabled)
-            SendMessageW(window_, DM_SETDEFID, first_id + i, 0);
-    }
+void FormWindow::fill_room() {
+    RECT inside;
+    GetClientRect(window_, &inside);
+    const forms::Size room = form_.room();
+    const RECT arranged = scale_.pixels({0, 0, room.width, room.height});
+    if (EqualRect(&inside, &arranged)) return;
+    const forms::Place shown = scale_.twips(inside);
+    form_.take_room({shown.width, shown.height});
 }
 
-void show_form_modally(forms::Form& form) noexcept {
-    attempt([&] {
-        const HWND owner = GetActiveWindow();
-        FormWindow window(form);
-        window.open(owner);
-        // The owner is enabled before the window goes, or the system would activate another program's window.
-        const Disabled disabled(owner);
-        window.run();
-    });
-    attempt([&] { form.unload(); });
+/// Only a change is told: each time, the system takes the Enter key from the button that has the keyboard.
+void FormWindow::show_default_button() {
+    int wanted = default_id_;
+    for (std::size_t i = 0; i < controls_.size(); ++i) {
+        const Control& control = form_.controls()[i];
+        if (control.is_default && control.visible && control.enabled) wanted = first_id + static_cast<int>(i);
+    }
+    if (wanted == std::exchange(default_id_, wanted)) return;
+    SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(wanted), 0);
+}
+
+/// The first control; where that is a button, the one that Enter presses, so that the two are one.
+HWND FormWindow::first_focus() const {
+    const HWND first = GetNextDlgTabItem(window_, nullptr, FALSE);
+    const bool is_button =
+        (SendMessageW(first, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+    return is_button && default_id_ ? GetDlgItem(window_, default_id_) : first;
+}
+
+void show_form_modally(forms::Form& form) {
+    const forms::Unloading at_the_end(form);
+    FormWindow window(form);
+    window.open(GetActiveWindow());
+    // The owner is enabled before the window goes, or the system would activate another program's window.
+    const Modality modality(window.window());
+    window.run();
 }
 
 } // namespace ornavel::win32

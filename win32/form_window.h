@@ -3,6 +3,7 @@
 #include "forms/form_user.h"
 #include "win32/control_window.h"
 #include "win32/handle.h"
+#include "win32/size_grip.h"
 
 #include <optional>
 
@@ -20,6 +21,7 @@ public:
     /// Makes the window, still hidden, in front of its owner. Throws Failure when the system has none to
     /// give.
     void open(HWND owner);
+    HWND window() const { return window_; }
     /// Shows the window and returns when the form is unloaded.
     void run();
 
@@ -27,19 +29,24 @@ private:
     static constexpr int first_id = 100; // above the numbers that dialogs keep for themselves
 
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM word, LPARAM pointer);
-    bool handle(UINT message, WPARAM word);
+    bool handle(UINT message, WPARAM word, LPARAM pointer);
     bool translate(const MSG& message);
+    bool translate_in_text_box(const ControlWindow& box, const MSG& message);
+    bool translate_in_page(const ControlWindow& page, const MSG& message);
 
-    void centre();
+    void find_place();
     void create_controls();
     void refresh();
     void show_frame();
+    void fill_room();
     void show_default_button();
+    HWND first_focus() const;
 
     void on_command(int id, int notification);
     void on_notification(const ControlWindow& control, int notification);
     void on_escape();
     void on_moved();
+    void tell_least_size(MINMAXINFO& limits) const;
     void step(const std::function<void(forms::FormUser)>& act);
 
     forms::Form& form_;
@@ -47,15 +54,18 @@ private:
     Owned<&DeleteObject> font_;
     HWND window_ = nullptr;
     std::optional<ToolTips> tips_;
+    std::optional<SizeGrip> grip_;
     std::vector<ControlWindow> controls_; ///< in the order of the form's own
     Text caption_;                        ///< this and the next two: as the window shows them
     forms::Place place_;
     bool topmost_ = false;
+    int default_id_ = 0;     ///< of the button that Enter presses
     bool refreshing_ = true; ///< what the windows tell now comes from the code, not from the user
 };
 
-/// Shows a loaded form in front of the window that is active in this thread, which the user can't reach until
-/// the form is unloaded. Where the system has no window to give, the form is closed by its frame.
-void show_form_modally(forms::Form& form) noexcept;
+/// Shows a loaded form in front of the window that is active in this thread. The user can't reach any other
+/// window of the thread until the form is unloaded. Throws Failure where the system has no window to give;
+/// the form is unloaded all the same.
+void show_form_modally(forms::Form& form);
 
 } // namespace ornavel::win32

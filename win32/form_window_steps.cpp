@@ -12,16 +12,45 @@ using forms::Control;
 using forms::FormUser;
 using forms::Kind;
 
-/// The keys and clicks of a text box that dialogs keep to themselves.
+/// The keys and clicks that dialogs would keep to themselves, or give to the wrong control.
 bool FormWindow::translate(const MSG& message) {
-    const auto box = std::ranges::find(controls_, message.hwnd, &ControlWindow::window);
-    if (box == controls_.end() || form_[box->name()].kind != Kind::text_box) return false;
+    const bool is_key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    for (const ControlWindow& control : controls_) {
+        if (control.browser() && is_key && control.browser()->has_keyboard())
+            return translate_in_page(control, message);
+        if (control.window() == message.hwnd && form_[control.name()].kind == Kind::text_box)
+            return translate_in_text_box(control, message);
+    }
+    return false;
+}
+
+bool FormWindow::translate_in_text_box(const ControlWindow& box, const MSG& message) {
     if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
         on_escape();
         return true;
     }
     if (message.message != WM_LBUTTONDBLCLK) return false;
-    step([&](FormUser user) { user.double_click(box->name()); });
+    step([&](FormUser user) { user.double_click(box.name()); });
+    return true;
+}
+
+/// Escape is the form's; every other key is the page's, except the Tab key where the page ends, and what is
+/// typed with Alt.
+bool FormWindow::translate_in_page(const ControlWindow& page, const MSG& message) {
+    const bool pressed = message.message == WM_KEYDOWN;
+    if (pressed && message.wParam == VK_ESCAPE) {
+        on_escape();
+    } else if (page.browser()->takes_key(message)) {
+        return true;
+    } else if (pressed && message.wParam == VK_TAB) {
+        const HWND next = GetNextDlgTabItem(window_, page.window(), GetKeyState(VK_SHIFT) < 0);
+        SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+    } else if (message.message >= WM_SYSKEYDOWN) {
+        return false;
+    } else {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
     return true;
 }
 
@@ -31,10 +60,10 @@ INT_PTR CALLBACK FormWindow::procedure(HWND window, UINT message, WPARAM word, L
         return FALSE;
     }
     auto* const self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, DWLP_USER));
-    return self && self->handle(message, word);
+    return self && self->handle(message, word, pointer);
 }
 
-bool FormWindow::handle(UINT message, WPARAM word) {
+bool FormWindow::handle(UINT message, WPARAM word, LPARAM pointer) {
     switch (message) {
     case WM_COMMAND:
         on_command(LOWORD(word), HIWORD(word));
@@ -46,9 +75,15 @@ bool FormWindow::handle(UINT message, WPARAM word) {
     case WM_SIZE:
         on_moved();
         return false;
+    case WM_GETMINMAXINFO:
+        tell_least_size(*reinterpret_cast<MINMAXINFO*>(pointer));
+        return true;
     case WM_DESTROY:
         take_name(window_);
-        for (const ControlWindow& control : controls_) control.release_name();
+        for (ControlWindow& control : controls_) {
+            control.close();
+            control.release_name();
+        }
         window_ = nullptr;
         // Windows that go with their owner take their form along.
         step([](FormUser user) { user.close(); });
@@ -100,17 +135,28 @@ void FormWindow::on_escape() {
     });
 }
 
+/// A maximised window is larger than its place, to which it returns, and an icon is nowhere.
 void FormWindow::on_moved() {
+    if (refreshing_ || IsIconic(window_)) return;
     RECT frame;
     GetWindowRect(window_, &frame);
     const RECT shown = scale_.pixels(place_);
-    if (refreshing_ || EqualRect(&frame, &shown)) return;
+    if (IsZoomed(window_) || EqualRect(&frame, &shown)) {
+        attempt([&] { refresh(); });
+        return;
+    }
     const forms::Place before = std::exchange(place_, scale_.twips(frame));
     step([&](FormUser user) {
         user.move(place_.left, place_.top);
         if (place_.width != before.width || place_.height != before.height)
             user.resize(place_.width, place_.height);
     });
+}
+
+void FormWindow::tell_least_size(MINMAXINFO& limits) const {
+    const forms::Size least = form_.least_size();
+    const RECT pixels = scale_.pixels({0, 0, least.width, least.height});
+    limits.ptMinTrackSize = {pixels.right, pixels.bottom};
 }
 
 /// Runs the user's step, and shows what the form's code made of it. A step that the form refuses changes

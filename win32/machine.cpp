@@ -1,6 +1,7 @@
 #include "win32/machine.h"
 
 #include "win32/form_window.h"
+#include "win32/message_box.h"
 #include "win32/wide.h"
 
 #include <shellapi.h>
@@ -35,9 +36,9 @@ void ShellLauncher::launch(TextView program, TextView arguments, WindowState win
 }
 
 Answer DesktopWindows::show(TextView title, TextView text, Buttons buttons) {
-    const UINT looks = buttons == Buttons::yes_no ? MB_YESNO | MB_ICONQUESTION : MB_OK | MB_ICONINFORMATION;
-    const int button =
-        MessageBoxW(GetActiveWindow(), wide(text).c_str(), wide(title).c_str(), looks | MB_SETFOREGROUND);
+    const HWND owner = GetActiveWindow();
+    const int button = MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(), box_style(buttons, owner));
+    if (button <= 0) fail(title, GetLastError());
     if (buttons == Buttons::ok) return Answer::ok;
     return button == IDYES ? Answer::yes : Answer::no;
 }

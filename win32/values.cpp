@@ -116,4 +116,10 @@ host::Value to_value(Variant value) {
     }
 }
 
+VARIANT_BOOL* flag_behind(const VARIANT& argument) {
+    if (argument.vt == (VT_BYREF | VT_BOOL)) return argument.pboolVal;
+    const bool by_variant = argument.vt == (VT_BYREF | VT_VARIANT) && argument.pvarVal;
+    return by_variant && argument.pvarVal->vt == VT_BOOL ? &argument.pvarVal->boolVal : nullptr;
+}
+
 } // namespace ornavel::win32

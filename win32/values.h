@@ -13,4 +13,7 @@ host::Value to_value(VARIANT& variant);
 /// The same for what a call gave back: nothing of it is copied on the way to the value.
 host::Value to_value(Variant variant);
 
+/// Where a flag that was passed by reference is kept, or null.
+VARIANT_BOOL* flag_behind(const VARIANT& argument);
+
 } // namespace ornavel::win32

@@ -15,7 +15,10 @@ Text system_message(DWORD code) {
     return u"Error " + to_text(static_cast<LONG>(code));
 }
 
-void fail(TextView subject, DWORD code) { throw Failure(Text(subject) + u": " + system_message(code)); }
+void fail(TextView subject, DWORD code) {
+    // Some functions of the system fail without saying why.
+    throw Failure(Text(subject) + u": " + system_message(code ? code : ERROR_CAN_NOT_COMPLETE));
+}
 
 Text path_of(HMODULE module) {
     constexpr DWORD longest_path = 32767;

@@ -35,7 +35,8 @@ Value name_space(const Call& call) {
 constexpr MemberRow application_members[] = {
     method(u"Name", [](const Call&) -> Value { return Text(u"Outlook"); }),
     method(u"Version", [](const Call& call) -> Value { return call.client.host().version; }),
-    method(u"Explorers", fresh<ExplorersNode>),
+    method(u"Explorers",
+           [](const Call& call) -> Value { return call.client.hand_out(call.client.explorers()); }),
     method(u"ActiveExplorer", active_explorer),
     method(u"CreateItem", create_item, 1, 1),
     method(u"GetNamespace", name_space, 1, 1),
@@ -136,7 +137,7 @@ const Class& ApplicationNode::what() const {
     return table;
 }
 const Class& ExplorersNode::what() const {
-    static constexpr Class table{u"Explorers", explorers_members};
+    static constexpr Class table{u"Explorers", explorers_members, host::EventSource::explorers};
     return table;
 }
 const Class& ExplorerNode::what() const {

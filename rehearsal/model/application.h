@@ -10,6 +10,7 @@ struct ApplicationNode final : Node {
     const Class& what() const override;
 };
 
+/// The windows that show folders, as a collection that tells of new ones.
 struct ExplorersNode final : Node {
     const Class& what() const override;
 };

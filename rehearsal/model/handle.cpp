@@ -114,6 +114,11 @@ host::Subscription Handle::advise(host::EventSource source, host::EventHandler h
     return std::shared_ptr<Counted>(new Counted{{client_.references(), name}, node_, std::move(listener)});
 }
 
+bool Handle::is_same(const host::Object& other) const {
+    const auto* handle = dynamic_cast<const Handle*>(&other);
+    return handle && handle->node_ == node_;
+}
+
 NodePtr node_of(const Value& value) {
     const auto object = host::as_object(value);
     const auto* handle = dynamic_cast<const Handle*>(object.get());

@@ -15,6 +15,7 @@ public:
     void put(host::Member member, const host::Value& value) override;
     host::Value call(host::Member member, const host::Arguments& arguments = {}) override;
     host::Subscription advise(host::EventSource source, host::EventHandler handler) override;
+    bool is_same(const host::Object& other) const override;
 
     const NodePtr& node() const { return node_; }
 

@@ -44,7 +44,8 @@ bool Call::given(std::size_t index) const {
 
 MailClient::MailClient(const Scenario& scenario, Machine& machine, Failures& failures, Journal& journal)
     : standard_bar(std::make_shared<BarNode>()), scenario_(scenario), machine_(machine), failures_(failures),
-      journal_(journal), application_(std::make_shared<ApplicationNode>()) {
+      journal_(journal), application_(std::make_shared<ApplicationNode>()),
+      explorers_node_(std::make_shared<ExplorersNode>()) {
     for (const auto& item : scenario.items) items.push_back(std::make_shared<MailItemNode>(item));
     add_explorers(scenario.host.explorers);
 }
@@ -106,21 +107,22 @@ void MailClient::ask_for_pages() {
 }
 
 void MailClient::add_explorers(int count) {
-    const bool none = open_explorers().empty();
-    if (none && count > 0) active_ = explorers_.size();
-    for (int made = 0; made < count; ++made) explorers_.push_back(std::make_shared<ExplorerNode>());
+    for (int made = 0; made < count; ++made) {
+        if (open_explorers().empty()) active_ = explorers_.size();
+        const auto& explorer = explorers_.emplace_back(std::make_shared<ExplorerNode>());
+        Value arguments[] = {hand_out(explorer)};
+        raise_event(*this, *explorers_node_, u"NewExplorer", arguments);
+    }
 }
 
 void MailClient::close_explorer(int number) {
     const auto index = static_cast<std::size_t>(number);
     const auto closing = explorers_.at(index);
-    for (std::size_t other = 0; index == active_ && other < explorers_.size(); ++other) {
-        if (other == index || explorers_[other]->gone) continue;
-        active_ = other;
-        break;
-    }
     raise_event(*this, *closing, u"Close");
     closing->gone = true;
+    if (index != active_) return;
+    const auto next = std::ranges::find_if(explorers_, [](const auto& explorer) { return !explorer->gone; });
+    active_ = static_cast<std::size_t>(next - explorers_.begin());
 }
 
 std::vector<std::shared_ptr<ExplorerNode>> MailClient::open_explorers() const {

@@ -10,6 +10,7 @@
 namespace ornavel::rehearsal {
 
 struct ApplicationNode;
+struct ExplorersNode;
 struct ExplorerNode;
 struct ConnectionNode;
 
@@ -33,11 +34,15 @@ public:
     void click(ButtonNode& button);
     /// The Options dialog asks for pages.
     void ask_for_pages();
+    /// Each tells the explorers' listeners.
     void add_explorers(int count);
+    /// Raises Close while the window still counts among the explorers and, when it was the active one, still
+    /// is; then it is gone.
     void close_explorer(int number);
 
     std::vector<std::shared_ptr<ExplorerNode>> open_explorers() const;
     std::shared_ptr<ExplorerNode> active_explorer() const;
+    const std::shared_ptr<ExplorersNode>& explorers() const { return explorers_node_; }
 
     /// What happens from now on belongs to the act with this index.
     void begin_act(std::size_t act) {
@@ -66,6 +71,7 @@ private:
     Journal& journal_;
     std::shared_ptr<References> references_ = std::make_shared<References>();
     std::shared_ptr<ApplicationNode> application_;
+    std::shared_ptr<ExplorersNode> explorers_node_;
     std::vector<std::shared_ptr<ExplorerNode>> explorers_;
     std::size_t active_ = 0;
 };

@@ -1,8 +1,9 @@
 #include "rehearsal/native/memory_machine.h"
 
 #include "base/encoding.h"
-#include "forms/centre.h"
 #include "forms/frmMessage.h"
+#include "forms/screen_place.h"
+#include "forms/unloading.h"
 #include "rehearsal/form_record.h"
 #include "rehearsal/native/form_player.h"
 #include "rehearsal/native/watching.h"
@@ -92,23 +93,23 @@ void MemoryMachine::launch(TextView program, TextView arguments, WindowState win
 
 Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
     journal_.note_use(Deed::window, Text(title), text, [&] { failures_.use(Failing::Kind::window, title); });
-    const bool yes_no = buttons == Buttons::yes_no;
-    const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, yes_no));
-    if (!yes_no) return Answer::ok;
+    const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, buttons));
+    if (buttons == Buttons::ok) return Answer::ok;
     return record.at("answer") == "Yes" ? Answer::yes : Answer::no;
 }
 
 void MemoryMachine::show_modal(forms::Form& form) {
-    failures_.use(Failing::Kind::window, form.name());
     form.load();
     if (!form.is_loaded()) return;
-    if (form.centred) form.properties.place = forms::centred(form.properties.place, screen);
+    const forms::Unloading at_the_end(form);
+    failures_.use(Failing::Kind::window, form.name());
+    forms::place_on_screen(form, screen, {&screen, 1});
     journal_.note(Deed::window, form.name(), form.properties.caption);
     const std::size_t place = windows_.size();
     windows_.push_back(form_record(form));
     const auto entry = user_.meet(form.name());
     if (entry) take_steps(user_, *entry, form);
-    form.unload();
+    attempt([&] { form.unload(); });
     windows_[place]["at close"] = changed_controls(windows_[place], form);
     if (!entry) windows_[place]["unexpected"] = true;
 }

@@ -19,10 +19,10 @@ public:
     explicit NativeAddIn(connect::Platform platform)
         : platform_(std::move(platform)), connect_(std::make_unique<connect::Connect>(platform_)) {}
 
-    void connect(const host::ObjectPtr& application, int) override {
+    void connect(const host::ObjectPtr& application, int mode) override {
         if (was_connected_) connect_ = std::make_unique<connect::Connect>(platform_);
         was_connected_ = true;
-        connect_->OnConnection(host::Application(application));
+        connect_->OnConnection(host::Application(application), mode);
     }
     void start() override { connect_->OnStartupComplete(); }
     void update() override { connect_->OnAddInsUpdate(); }

@@ -10,9 +10,11 @@ using Kind = Act::Kind;
 struct ActShape {
     const char* name;
     Kind kind;
-    void (*read)(Act&, const Place&); ///< null for an act without a value
+    void (*read)(Act&, const Place&); ///< null for an act that its name says whole
 };
 
+/// Connecting without a mode is the start-up's.
+void read_start_up_mode(Act& act, const Place&) { act.number = 1; }
 void read_number(Act& act, const Place& at) { act.number = at.small_number(); }
 void read_index(Act& act, const Place& at) { act.number = at.small_number(0); }
 void read_text(Act& act, const Place& at) { act.text = at.text(); }
@@ -29,8 +31,10 @@ void read_tray(Act& act, const Place& at) {
 }
 
 constexpr ActShape bare_acts[] = {
-    {"connect", Kind::connect, nullptr},   {"start", Kind::start, nullptr},
-    {"update", Kind::update, nullptr},     {"options", Kind::options, nullptr},
+    {"connect", Kind::connect, read_start_up_mode},
+    {"start", Kind::start, nullptr},
+    {"update", Kind::update, nullptr},
+    {"options", Kind::options, nullptr},
     {"shutdown", Kind::shutdown, nullptr},
 };
 
@@ -128,7 +132,9 @@ Act read_act(const Place& place) {
     act.given = place.json();
     act.path = place.path();
     if (place.is_text()) {
-        act.kind = find_shape(bare_acts, place.bytes(), place).kind;
+        const auto& shape = find_shape(bare_acts, place.bytes(), place);
+        act.kind = shape.kind;
+        if (shape.read) shape.read(act, place);
         return act;
     }
     if (!place.is_object() || place.size() != 1) place.refuse("expected an act");

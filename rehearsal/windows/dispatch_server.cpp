@@ -38,14 +38,24 @@ HRESULT describe(EXCEPINFO* exception) {
     return DISP_E_EXCEPTION;
 }
 
+class DispatchServer;
+
+/// The objects that the add-in holds now: asked for again, an object is the same one, as COM's identity wants
+/// it.
+std::vector<DispatchServer*> served;
+
 class DispatchServer final : public win32::Counted<IDispatch>,
                              public IConnectionPointContainer,
                              public ServedObject {
 public:
     DispatchServer(host::ObjectPtr object, std::shared_ptr<Subscriptions> subscriptions)
-        : object_(std::move(object)), subscriptions_(std::move(subscriptions)) {}
+        : object_(std::move(object)), subscriptions_(std::move(subscriptions)) {
+        served.push_back(this);
+    }
+    ~DispatchServer() override { std::erase(served, this); }
 
     host::ObjectPtr object() const override { return object_; }
+    bool serves(const host::Object& object) const { return object_->is_same(object); }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** result) override {
         if (wanted == IID_IConnectionPointContainer)
@@ -79,7 +89,8 @@ public:
     HRESULT STDMETHODCALLTYPE EnumConnectionPoints(IEnumConnectionPoints**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE FindConnectionPoint(REFIID wanted, IConnectionPoint** point) override {
         using host::EventSource;
-        for (const auto source : {EventSource::application, EventSource::explorer, EventSource::button})
+        for (const auto source :
+             {EventSource::application, EventSource::explorers, EventSource::explorer, EventSource::button})
             if (wanted == win32::event_interface(source)) {
                 *point = make_event_point(object_, source, subscriptions_).release();
                 return S_OK;
@@ -124,6 +135,8 @@ DWORD Subscriptions::add(host::Subscription subscription) {
 
 win32::ComPtr<IDispatch> serve(host::ObjectPtr object, std::shared_ptr<Subscriptions> subscriptions) {
     if (!object) return {};
+    const auto known = std::ranges::find_if(served, [&](const auto* each) { return each->serves(*object); });
+    if (known != served.end()) return win32::ComPtr<IDispatch>(*known);
     return win32::ComPtr<IDispatch>::adopt(new DispatchServer(std::move(object), std::move(subscriptions)));
 }
 

@@ -41,6 +41,7 @@ Kind kind_of(HWND window) {
     if (is_class(window, L"Edit")) return Kind::text_box;
     switch (style_of(window) & SS_TYPEMASK) {
     case SS_BITMAP:
+    case SS_ICON:
         return Kind::image;
     case SS_OWNERDRAW:
         return Kind::web_browser;

@@ -6,6 +6,8 @@
 #include "base/errors.h"
 #include "win32/wide.h"
 
+#include <csignal>
+#include <cstdlib>
 #include <objbase.h>
 
 namespace ornavel::rehearsal {
@@ -48,14 +50,19 @@ Json play(const Scenario& scenario, const std::string& source) {
 
 Json crash_outcome(const std::string& error) { return {{"error", error}}; }
 
-LONG WINAPI report_crash(EXCEPTION_POINTERS* crash) {
+/// Leaves the machine as it was, and says in the outcome how the add-in took the process along.
+[[noreturn]] void end_with(const std::string& error) {
     if (at_play.machine) at_play.machine->put_back_registry();
-    attempt([&] {
-        const auto code = static_cast<std::uint32_t>(crash->ExceptionRecord->ExceptionCode);
-        write_out(to_json_text(crash_outcome("the add-in crashed (exception " + std::to_string(code) + ")")));
-    });
+    attempt([&] { write_out(to_json_text(crash_outcome(error))); });
     ExitProcess(exit_failed);
 }
+
+LONG WINAPI report_crash(EXCEPTION_POINTERS* crash) {
+    const auto code = static_cast<std::uint32_t>(crash->ExceptionRecord->ExceptionCode);
+    end_with("the add-in crashed (exception " + std::to_string(code) + ")");
+}
+
+void report_abort(int) { end_with("the add-in crashed (aborted)"); }
 
 int rehearse(const std::string& in, const std::string& out) {
     at_play.out = from_utf8(out);
@@ -73,6 +80,12 @@ int rehearse(const std::string& in, const std::string& out) {
     }
 }
 
+/// Another add-in that is there first, as far as ours can tell: the library that the environment names.
+bool neighbour_is_there() {
+    const char* const library = std::getenv("ORNAVEL_NEIGHBOUR");
+    return !library || LoadLibraryW(win32::wide(from_utf8(library)).c_str());
+}
+
 } // namespace
 } // namespace ornavel::rehearsal
 
@@ -82,7 +95,8 @@ int main(int count, char** words) {
     using namespace ornavel::rehearsal;
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
     SetUnhandledExceptionFilter(report_crash);
-    if (FAILED(CoInitialize(nullptr))) return exit_failed;
+    std::signal(SIGABRT, report_abort);
+    if (FAILED(CoInitialize(nullptr)) || !neighbour_is_there()) return exit_failed;
     int code = exit_played;
     for (int i = 1; i + 1 < count && code != exit_unusable && !GetModuleHandleW(L"Ornavel.dll"); i += 2)
         code = rehearse(words[i], words[i + 1]);

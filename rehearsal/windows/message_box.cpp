@@ -10,9 +10,11 @@ struct Box {
     Text title, text;
     bool has_ok = false, has_yes = false, has_no = false, has_other = false;
     HICON icon = nullptr;
+    int entered = 0; ///< the button that Enter presses
 };
 
-void note_button(Box& box, int id) {
+void note_button(Box& box, int id, DWORD style) {
+    if ((style & BS_TYPEMASK) == BS_DEFPUSHBUTTON) box.entered = id;
     if (id == IDOK)
         box.has_ok = true;
     else if (id == IDYES)
@@ -27,7 +29,7 @@ BOOL CALLBACK note_control(HWND control, LPARAM target) {
     Box& box = *reinterpret_cast<Box*>(target);
     const DWORD style = style_of(control);
     if (!(style & WS_VISIBLE)) return TRUE;
-    if (is_class(control, L"Button")) note_button(box, GetDlgCtrlID(control));
+    if (is_class(control, L"Button")) note_button(box, GetDlgCtrlID(control), style);
     if (!is_class(control, L"Static") && !is_class(control, L"Edit")) return TRUE;
     if ((style & SS_TYPEMASK) == SS_ICON && is_class(control, L"Static"))
         box.icon = reinterpret_cast<HICON>(SendMessageW(control, STM_GETICON, 0, 0));
@@ -48,6 +50,11 @@ const char* icon_of(const Box& box) {
     return box.icon == LoadIconW(nullptr, IDI_INFORMATION) ? "Information" : "other";
 }
 
+Buttons kind_of(const Box& box) {
+    if (!box.has_yes) return Buttons::ok;
+    return box.entered == IDNO ? Buttons::risky_yes_no : Buttons::yes_no;
+}
+
 int button_for(const Json& answer) {
     if (answer == "Yes") return IDYES;
     return answer == "No" ? IDNO : IDOK;
@@ -59,7 +66,7 @@ Json answer_box_window(ScriptedUser& user, HWND window) {
     Box box;
     box.title = text_of_window(window);
     EnumChildWindows(window, note_control, reinterpret_cast<LPARAM>(&box));
-    Json record = answer_message_box(user, box.title, box.text, box.has_yes);
+    Json record = answer_message_box(user, box.title, box.text, kind_of(box));
     record["buttons"] = buttons_of(box);
     record["icon"] = icon_of(box);
     SendMessageW(window, WM_COMMAND, static_cast<WPARAM>(button_for(record["answer"])), 0);

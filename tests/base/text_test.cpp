@@ -67,5 +67,12 @@ TEST(Text, ANumericValueIsTheLongestRunOfLeadingDigits) {
     EXPECT_EQ(numeric_value(u"99999999999999999999"), 2147483647);
 }
 
+TEST(Text, ASignedValueMayHaveAMinusInFront) {
+    EXPECT_EQ(signed_value(u" -4500 twips"), -4500);
+    EXPECT_EQ(signed_value(u"4500"), 4500);
+    EXPECT_EQ(signed_value(u"-99999999999999999999"), -2147483647);
+    for (const TextView none : {u"", u"  ", u"-", u"x-4"}) EXPECT_EQ(signed_value(none), 0);
+}
+
 } // namespace
 } // namespace ornavel

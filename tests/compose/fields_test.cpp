@@ -270,7 +270,7 @@ protected:
     void next(TextView quote, TextView number) {
         GetNextQuote(store, files, reports);
         EXPECT_EQ(read(store, user::SendQuoteString), quote);
-        EXPECT_EQ(read(store, system::LastTipNumber), number);
+        EXPECT_EQ(store.find(system_section, system::LastTipNumber.name), number);
     }
 };
 

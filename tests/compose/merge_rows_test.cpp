@@ -1,6 +1,7 @@
-#include "compose/merge.h"
+#include "compose/merge_rows.h"
 
 #include "base/encoding.h"
+#include "compose/merge.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +9,30 @@ namespace ornavel::compose {
 namespace {
 
 using namespace settings;
+
+// A row that asks whether a text is on, or a switch empty, does not compile.
+template <class SomeKey>
+concept CanBeOn = requires(const SomeKey& key) {
+    When::on(key);
+};
+template <class SomeKey>
+concept CanBeNotOn = requires(const SomeKey& key) {
+    When::not_on(key);
+};
+template <class SomeKey>
+concept CanBeEmpty = requires(const SomeKey& key) {
+    When::empty(key);
+};
+template <class SomeKey>
+concept CanBeFilled = requires(const SomeKey& key) {
+    When::filled(key);
+};
+
+template <class SomeKey>
+constexpr int ways_of = CanBeOn<SomeKey> + CanBeNotOn<SomeKey> + CanBeEmpty<SomeKey> + CanBeFilled<SomeKey>;
+static_assert(CanBeOn<SwitchKey> && CanBeNotOn<SwitchKey> && ways_of<SwitchKey> == 2);
+static_assert(CanBeEmpty<TextKey> && CanBeFilled<TextKey> && ways_of<TextKey> == 2);
+static_assert(ways_of<TickKey> == 0 && ways_of<NumberKey> == 0 && ways_of<Key> == 0);
 
 // A second transcription of both merges, one row a line: search text, arrow, replacement. "<Key>" is a
 // setting's value; "\r\n" is a line end.
@@ -309,7 +334,7 @@ MemoryStore every_setting() {
     MemoryStore store;
     for (const Key& key : catalogue())
         if (!store.find(key.section, key.name))
-            save(store, key, key.kind == Kind::flag ? Text(u"True") : u"<" + Text(key.name) + u">");
+            save(store, key, key.kind == Kind::switch_ ? Text(u"True") : u"<" + Text(key.name) + u">");
     return store;
 }
 

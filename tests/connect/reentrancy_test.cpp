@@ -46,7 +46,7 @@ constexpr const char* two_messages = R"({
 class Reentrancy : public testing::Test {
 protected:
     void SetUp() override {
-        connect->OnConnection(stage.application());
+        connect->OnConnection(stage.application(), Connect::at_startup);
         connect->OnStartupComplete();
     }
 

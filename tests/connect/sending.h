@@ -43,7 +43,7 @@ private:
 class Sending : public testing::Test {
 protected:
     Sending() {
-        addin.OnConnection(stage.application());
+        addin.OnConnection(stage.application(), Connect::at_startup);
         addin.OnStartupComplete();
     }
     ~Sending() override {

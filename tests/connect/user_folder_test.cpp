@@ -22,7 +22,7 @@ protected:
                                .machine = stage.machine.addin_machine(),
                                .addin_folder = u"C:\\app",
                                .user_folder = Text(user_folder)}};
-        addin.OnConnection(stage.application());
+        addin.OnConnection(stage.application(), Connect::at_startup);
         addin.OnStartupComplete();
         addin.OnDisconnection(0);
         return stage.machine.files().folder_exists(folder);

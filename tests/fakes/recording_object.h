@@ -32,6 +32,7 @@ public:
         return value(member);
     }
     host::Subscription advise(host::EventSource, host::EventHandler) override { return nullptr; }
+    bool is_same(const host::Object& other) const override { return this == &other; }
 
 private:
     void require(host::Member member) const {

@@ -131,18 +131,5 @@ TEST_F(FormUserTest, ARefusalNamesTheControlAndTheReason) {
     }
 }
 
-class NoScreen final : public Windows {
-    Answer show(TextView, TextView, Buttons) override { return Answer::no; }
-};
-
-TEST(Windows, WithoutAScreenAFormIsLoadedAndClosedByItsFrame) {
-    Form form({.name = u"frmOrder"}, {});
-    Text events;
-    form.on_load = [&] { events += u"load;"; };
-    form.on_unload = [&] { events += u"unload;"; };
-    NoScreen().show_modal(form);
-    EXPECT_EQ(events, u"load;unload;");
-}
-
 } // namespace
 } // namespace ornavel::forms

@@ -1,15 +1,26 @@
 #include "forms/frmBrowser.h"
 
+#include "base/encoding.h"
 #include "tests/fakes/memory_files.h"
 #include "tests/fakes/recording_reports.h"
 #include "tests/fakes/scripted_windows.h"
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace ornavel::forms {
 namespace {
 
 using namespace settings;
+
+bool overlap(const Place& one, const Place& other) {
+    const auto apart = [](int begin, int size, int other_begin, int other_size) {
+        return begin + size <= other_begin || other_begin + other_size <= begin;
+    };
+    return !apart(one.left, one.width, other.left, other.width) &&
+           !apart(one.top, one.height, other.top, other.height);
+}
 
 class PreviewWindow : public ::testing::Test {
 protected:
@@ -26,6 +37,8 @@ protected:
         windows.show_modal(preview.form());
     }
 
+    std::optional<Text> stored(const Key& key) const { return store.find(key.section, key.name); }
+
     MemoryStore store;
     MemoryFiles files;
     RecordingReports errors;
@@ -39,6 +52,54 @@ TEST_F(PreviewWindow, ClosedWithoutAChoiceAnswersThatNothingIsSent) {
     EXPECT_FALSE(answers.send);
     EXPECT_FALSE(answers.send_plain);
     EXPECT_FALSE(answers.vcard_chosen);
+}
+
+TEST_F(PreviewWindow, StaysAboveTheEditorThatTheMessageIsWrittenIn) {
+    show([](Form& form, FormUser) { EXPECT_TRUE(form.topmost); });
+}
+
+TEST_F(PreviewWindow, ThePageBeginsRightBelowTheControlsThatAreShown) {
+    show([](Form& form, FormUser user) {
+        for (const TextView hidden : {u"cmdSendPlain", u"cmdNext", u"cmdSignNext", u"chkvCard"})
+            form[hidden].visible = false;
+        user.resize(10170, 6000);
+        const auto top = [&] { return form[u"brwWebBrowser"].place.top; };
+        EXPECT_EQ(top(), 165 + 345 + 105);
+        EXPECT_EQ(form[u"cmdClose"].place.left, form[u"command1"].place.left + 1125 + 105);
+        user.click(u"cmdOptions");
+        EXPECT_EQ(top(), 165 + 345 + 105 + 345 + 105);
+        user.click(u"cmdOptions");
+        EXPECT_EQ(top(), 165 + 345 + 105);
+    });
+}
+
+TEST_F(PreviewWindow, NothingOverlapsInTheSmallestWindow) {
+    show([](Form& form, FormUser user) {
+        for (Control& control : form.controls())
+            if (control.name != u"cboListTemplates" && control.name != u"cboPrevSigs") control.visible = true;
+        user.resize(0, 0);
+        for (const Control& one : form.controls()) {
+            EXPECT_LE(one.place.left + one.place.width, form.room().width) << to_utf8(one.name);
+            EXPECT_LE(one.place.top + one.place.height, form.room().height) << to_utf8(one.name);
+            for (const Control& other : form.controls()) {
+                if (&one == &other || !one.visible || !other.visible) continue;
+                EXPECT_FALSE(overlap(one.place, other.place)) << to_utf8(one.name + u", " + other.name);
+            }
+        }
+        EXPECT_GE(form[u"brwWebBrowser"].place.height, 2250);
+    });
+}
+
+TEST_F(PreviewWindow, AccessKeysAreUnique) {
+    show([](Form& form, FormUser) {
+        std::set<char16_t> keys;
+        for (const Control& control : form.controls()) {
+            const auto mark = control.caption.find(u'&');
+            if (mark == Text::npos) continue;
+            EXPECT_TRUE(keys.insert(lower_case(control.caption)[mark + 1]).second) << to_utf8(control.name);
+        }
+        EXPECT_EQ(keys.size(), 10u);
+    });
 }
 
 TEST_F(PreviewWindow, SendAnswersSendWithoutTheCardWhereTheBoxIsNotTicked) {
@@ -116,17 +177,17 @@ TEST_F(PreviewWindow, TheBrowserTakesWhatTheWindowLeaves) {
         EXPECT_EQ(form[u"brwWebBrowser"].place.width, before.width + 1000);
         EXPECT_EQ(form[u"brwWebBrowser"].place.height, before.height + 1000);
         user.resize(100, 100);
-        EXPECT_EQ(form[u"brwWebBrowser"].place.width, 0);
-        EXPECT_EQ(form[u"brwWebBrowser"].place.height, 0);
+        EXPECT_EQ(form[u"brwWebBrowser"].place.width, form.room().width - 2 * 165);
+        EXPECT_EQ(form[u"brwWebBrowser"].place.height, 2250);
     });
 }
 
 TEST_F(PreviewWindow, ItsPlaceIsKeptAsTwips) {
     show([](Form&, FormUser user) { user.move(300, 450); });
-    EXPECT_EQ(read(store, user::BrowserLeft), u"300");
-    EXPECT_EQ(read(store, user::BrowserTop), u"450");
-    EXPECT_EQ(read(store, user::BrowserWidth), u"10170");
-    EXPECT_EQ(read(store, user::BrowserHeight), u"6000");
+    EXPECT_EQ(stored(user::BrowserLeft), u"300");
+    EXPECT_EQ(stored(user::BrowserTop), u"450");
+    EXPECT_EQ(stored(user::BrowserWidth), u"10170");
+    EXPECT_EQ(stored(user::BrowserHeight), u"6000");
 }
 
 } // namespace

@@ -53,6 +53,10 @@ std::function<void(Form&, FormUser)> clicking(TextView button) {
     return [button](Form&, FormUser user) { user.click(button); };
 }
 
+TEST(PromptDialog, StaysAboveTheEditorThatTheMessageIsWrittenIn) {
+    answer(u"Reply", [](Form& form, FormUser) { EXPECT_TRUE(form.topmost); });
+}
+
 TEST(PromptDialog, EachModeHasItsMessageItsTitleAndItsButtons) {
     for (const Expected& mode : expected_modes) {
         SCOPED_TRACE(to_utf8(mode.mode));
@@ -64,10 +68,54 @@ TEST(PromptDialog, EachModeHasItsMessageItsTitleAndItsButtons) {
             EXPECT_EQ(form[u"cmdOK"].caption, u"OK");
             EXPECT_EQ(form[u"cmdYes"].visible, asks);
             EXPECT_EQ(form[u"cmdNo"].visible, asks);
-            EXPECT_EQ(form[u"cmdYes"].caption, mode.yes);
-            EXPECT_EQ(form[u"cmdNo"].caption, mode.no);
+            EXPECT_EQ(readable_caption(form[u"cmdYes"]), mode.yes);
+            EXPECT_EQ(readable_caption(form[u"cmdNo"]), mode.no);
         });
     }
+}
+
+TEST(PromptDialog, EachModeHasThePictureOfItsKind) {
+    using enum Icon;
+    const std::pair<TextView, Icon> pictures[] = {
+        {u"Reply", question},
+        {u"Auto-no Template", warning},
+        {u"Auto-no signature", warning},
+        {u"Security warning", warning},
+        {u"Bad Template", warning},
+        {u"Choose Template", information},
+        {u"Choose signature", information},
+        {u"Format Warning", warning},
+        {u"Support email request", question},
+    };
+    for (const auto& [mode, picture] : pictures)
+        answer(mode, [&](Form& form, FormUser) {
+            EXPECT_EQ(form[u"imgIcon"].icon, picture) << to_utf8(mode);
+            EXPECT_TRUE(form[u"imgIcon"].visible);
+        });
+}
+
+/// The button that Enter presses.
+Text default_of(TextView mode) {
+    Text name;
+    answer(mode, [&](Form& form, FormUser) {
+        for (const Control& control : form.controls())
+            if (control.visible && control.is_default) name += control.name;
+    });
+    return name;
+}
+
+TEST(PromptDialog, EnterGivesTheHarmlessAnswerToARiskyQuestion) {
+    EXPECT_EQ(default_of(u"Security warning"), u"cmdNo");
+    EXPECT_EQ(default_of(u"Support email request"), u"cmdNo");
+    EXPECT_EQ(default_of(u"Reply"), u"cmdYes");
+    EXPECT_EQ(default_of(u"Bad Template"), u"cmdOK");
+}
+
+TEST(PromptDialog, AnswersHaveTheirFirstLettersAsAccessKeys) {
+    answer(u"Reply", [](Form& form, FormUser) {
+        EXPECT_EQ(form[u"cmdYes"].caption, u"&Yes. Use a template.");
+        EXPECT_EQ(form[u"cmdNo"].caption, u"&No. Send 'as is'.");
+    });
 }
 
 TEST(PromptDialog, YesIsTheAnswerOnlyOfTheModesThatAsk) {
@@ -141,7 +189,7 @@ TEST(PromptDialog, OpensWithoutItsStrings) {
     frmMessage prompt(shared, none);
     prompt.form().load();
     EXPECT_TRUE(prompt.form().is_loaded());
-    EXPECT_EQ(prompt.form()[u"cmdNo"].caption, u"No. Continue.");
+    EXPECT_EQ(readable_caption(prompt.form()[u"cmdNo"]), u"No. Continue.");
     EXPECT_EQ(prompt.form()[u"lblMessage"].caption, u"");
 }
 

@@ -154,23 +154,35 @@ TEST(ObjectModel, ButtonsAreFoundByTagClickedAndDeleted) {
     EXPECT_NE(description_of([&] { button.set_caption(u"x"); }), u"nothing failed");
 }
 
-TEST(ObjectModel, AClosingExplorerStillCountsWhileItSaysSo) {
+TEST(ObjectModel, AClosingExplorerStillCountsAndIsTheActiveOneWhileItSaysSo) {
     Stage stage(R"({"do": [], "host": {"explorers": 2}})");
     const auto application = stage.application();
     int count = 0;
-    bool other_is_active = false;
-    const auto first = stage.client.active_explorer();
+    bool is_active = false;
     const auto explorer = application.active_explorer();
     const auto events = explorer.on_close([&] {
-        count = application.explorer_count();
-        other_is_active = stage.client.active_explorer() != first;
+        count = application.explorers().count();
+        is_active = application.active_explorer().is_same(explorer);
     });
     stage.client.close_explorer(0);
     EXPECT_EQ(count, 2);
-    EXPECT_TRUE(other_is_active);
-    EXPECT_EQ(application.explorer_count(), 1);
+    EXPECT_TRUE(is_active);
+    EXPECT_EQ(application.explorers().count(), 1);
+    EXPECT_TRUE(application.active_explorer().is_same(application.explorers().item(1)));
     stage.client.close_explorer(1);
     EXPECT_FALSE(application.active_explorer());
+}
+
+TEST(ObjectModel, ANewExplorerIsToldOfAndChangesTheActiveOneOnlyWhereThereWasNone) {
+    Stage stage(R"({"do": [], "host": {"explorers": 0}})");
+    const auto application = stage.application();
+    std::vector<host::Explorer> opened;
+    const auto events =
+        application.explorers().on_new([&](const host::Explorer& explorer) { opened.push_back(explorer); });
+    stage.client.add_explorers(2);
+    ASSERT_EQ(opened.size(), 2u);
+    EXPECT_TRUE(application.active_explorer().is_same(opened[0]));
+    EXPECT_FALSE(opened[0].is_same(opened[1]));
 }
 
 TEST(ObjectModel, PagesCollectTheirTitles) {

@@ -67,7 +67,7 @@ TEST(Player, ASendOutsideTheConnectionReachesNobodyAndGoesOut) {
         R"({"do": [{"send": 0}, "connect", {"disconnect": 0}, {"send": 1}], "items": [{}, {}]})");
     stage.addin.cancels = true;
     const Json outcome = stage.outcome();
-    EXPECT_EQ(stage.addin.told, (std::vector<std::string>{"connect 0", "disconnect 0"}));
+    EXPECT_EQ(stage.addin.told, (std::vector<std::string>{"connect 1", "disconnect 0"}));
     EXPECT_EQ(outcome["items"][0]["sent"], true);
     EXPECT_EQ(outcome["items"][1]["sent"], true);
     EXPECT_EQ(outcome["acts"][3]["cancel"], false);

@@ -159,6 +159,7 @@ TEST(ScenarioReader, FillsInTheDefaults) {
     EXPECT_EQ(scenario.items[0].editor_type, 2);
     EXPECT_EQ(scenario.items[0].importance, 1);
     EXPECT_EQ(scenario.acts[0].kind, Act::Kind::connect);
+    EXPECT_EQ(scenario.acts[0].number, 1) << "the mode of the start-up";
 }
 
 TEST(ScenarioReader, RecipientsAreAddressesOrObjects) {

@@ -1,3 +1,4 @@
+#include "base/encoding.h"
 #include "settings/catalogue.h"
 
 #include <gtest/gtest.h>
@@ -218,11 +219,30 @@ TEST(Catalogue, HoldsEveryKeyOfEachSectionAndNoOther) {
               admin_names.size() + user_names.size() + system_names.size() + template_names.size());
 }
 
+std::vector<Text> names_of(Kind kind) {
+    std::vector<Text> names;
+    for (const Key& key : catalogue())
+        if (key.kind == kind) names.emplace_back(key.name);
+    return sorted(names);
+}
+
+TEST(Catalogue, KnowsItsPathsTicksAndNumbers) {
+    EXPECT_EQ(names_of(Kind::path),
+              sorted({u"ApplicationPath", u"BrowserPath", u"ErrorFileLocation", u"HTM Files Path", u"Help",
+                      u"OutlookSignaturePath", u"Signatures Path", u"TipsFileLocation", u"WizardLogo",
+                      u"Internet Path", u"vCardPath", u"vCardPathSelected"}));
+    EXPECT_EQ(names_of(Kind::tick), sorted({u"SkipInternal", u"Categories", u"Default", u"Delivery",
+                                            u"FollowUp", u"Receipt", u"ShowMessageBox", u"Reply as is"}));
+    EXPECT_EQ(
+        names_of(Kind::number),
+        sorted({u"Current Signature", u"BrowserTop", u"BrowserLeft", u"BrowserHeight", u"BrowserWidth",
+                u"LastTipNumber", u"MainFormHeight", u"ReplySearchStringVal", u"ReplyInsertStringVal"}));
+}
+
 TEST(Catalogue, SwitchesAreTrueOrFalseByDefault) {
     for (const Key& key : catalogue()) {
-        if (key.kind != Kind::flag) continue;
-        EXPECT_TRUE(key.default_value == u"True" || key.default_value == u"False")
-            << std::string(key.name.begin(), key.name.end());
+        if (key.kind != Kind::switch_) continue;
+        EXPECT_TRUE(key.default_value == u"True" || key.default_value == u"False") << to_utf8(key.name);
     }
 }
 

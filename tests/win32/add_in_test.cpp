@@ -3,6 +3,8 @@
 #include "win32/extensibility.h"
 #include "win32/machine.h"
 
+#include <set>
+
 namespace ornavel::win32 {
 namespace {
 
@@ -108,6 +110,20 @@ TEST_F(AddIn, KeepsTheDllUntilItsLastReferenceIsGone) {
     EXPECT_EQ(AddInDll().call("DllCanUnloadNow"), S_OK);
 }
 
+TEST_F(AddIn, ASinkThatTheMailClientHasNotGivenBackYetKeepsTheDll) {
+    const AddInDll dll;
+    const auto application = make_fake();
+    application->event_interface = {0x0006304E, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
+    add_in->OnConnection(application.get(), 1, nullptr, nullptr);
+    ComPtr<IDispatch> sink = application->sink;
+    ASSERT_TRUE(sink);
+    add_in->OnDisconnection(0, nullptr);
+    add_in = {};
+    EXPECT_EQ(dll.call("DllCanUnloadNow"), S_FALSE);
+    sink = {};
+    EXPECT_EQ(dll.call("DllCanUnloadNow"), S_OK);
+}
+
 TEST_F(AddIn, ALockOnTheFactoryKeepsTheDll) {
     add_in = {};
     const AddInDll dll;
@@ -143,6 +159,24 @@ TEST(AddInResources, HoldTheSameTextsAsTheProgram) {
             EXPECT_EQ(resources.find(id), built_in) << id;
         else
             EXPECT_EQ(resources.find(id), std::nullopt) << id;
+}
+
+/// Width in pixels and bits for each, of all the images of an icon.
+std::multiset<std::pair<int, int>> images_of_icon(HMODULE module, int id) {
+    std::multiset<std::pair<int, int>> images;
+    const HRSRC group = FindResourceW(module, MAKEINTRESOURCEW(id), reinterpret_cast<LPCWSTR>(RT_GROUP_ICON));
+    if (!group) return images;
+    const auto* bytes = static_cast<const BYTE*>(LockResource(LoadResource(module, group)));
+    constexpr int header = 6, entry = 14, depth = 6;
+    for (const BYTE* image = bytes + header; image != bytes + header + entry * bytes[4]; image += entry)
+        images.emplace(image[0], image[depth]);
+    return images;
+}
+
+TEST(AddInResources, HoldTheIconInEverySizeForEveryScreen) {
+    const std::multiset<std::pair<int, int>> expected{{16, 8},  {16, 32}, {32, 8},
+                                                      {32, 32}, {48, 8},  {48, 32}};
+    EXPECT_EQ(images_of_icon(AddInDll().module(), 1), expected);
 }
 
 } // namespace

@@ -1,155 +1,10 @@
-#include "win32/form_window.h"
-
-#include "base/encoding.h"
-#include "forms/frmMessage.h"
-#include "win32/machine.h"
-#include "win32/wide.h"
-#include "win32/window_name.h"
-
-#include <gtest/gtest.h>
+#include "tests/win32/form_stage.h"
+#include "win32/twips.h"
 
 #include <commctrl.h>
-#include <deque>
 
 namespace ornavel::win32 {
 namespace {
-
-using forms::Control;
-using forms::Event;
-using forms::Form;
-using forms::Kind;
-
-/// What a test does while a form is open, one act for each tick of a timer; a form that is still open after
-/// the last act is closed by its frame.
-std::deque<std::function<void(HWND)>> acts;
-
-BOOL CALLBACK take_visible(HWND window, LPARAM found) {
-    wchar_t window_class[8] = {};
-    GetClassNameW(window, window_class, 8);
-    if (!IsWindowVisible(window) || std::wstring_view(window_class) != L"#32770") return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
-/// The form's window that is in front.
-HWND open_window() {
-    HWND found = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), take_visible, reinterpret_cast<LPARAM>(&found));
-    return found;
-}
-
-void CALLBACK next_act(HWND, UINT, UINT_PTR, DWORD) {
-    const HWND window = open_window();
-    if (!window) return;
-    if (acts.empty()) {
-        PostMessageW(window, WM_CLOSE, 0, 0);
-        return;
-    }
-    const auto act = std::move(acts.front());
-    acts.pop_front();
-    act(window);
-}
-
-/// Shows the form in its real window while the acts are played.
-void show(Form& form, std::deque<std::function<void(HWND)>> script) {
-    acts = std::move(script);
-    const UINT_PTR timer = SetTimer(nullptr, 0, 30, next_act);
-    DesktopWindows().show_modal(form);
-    KillTimer(nullptr, timer);
-    EXPECT_TRUE(acts.empty()) << "the form closed before the last act";
-    EXPECT_FALSE(form.is_loaded());
-    EXPECT_EQ(open_window(), nullptr);
-}
-
-struct Search {
-    const wchar_t* name;
-    HWND found;
-};
-
-BOOL CALLBACK compare_name(HWND window, LPARAM pointer) {
-    auto& search = *reinterpret_cast<Search*>(pointer);
-    if (wide(name_of(window)) != search.name) return TRUE;
-    search.found = window;
-    return FALSE;
-}
-
-HWND control(HWND window, const wchar_t* name) {
-    Search search{name, nullptr};
-    EnumChildWindows(window, compare_name, reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
-Text text_in(HWND window) {
-    wchar_t text[512] = {};
-    SendMessageW(window, WM_GETTEXT, 512, reinterpret_cast<LPARAM>(text));
-    return text_of(text);
-}
-
-std::function<void(HWND)> pressing(const wchar_t* button) {
-    return [button](HWND window) { PostMessageW(control(window, button), BM_CLICK, 0, 0); };
-}
-
-std::function<void(HWND)> key(WPARAM code) {
-    return [code](HWND) { PostMessageW(GetFocus(), WM_KEYDOWN, code, 0); };
-}
-
-void notify(HWND window, const wchar_t* name, WORD code) {
-    const HWND sender = control(window, name);
-    PostMessageW(window, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(sender), code),
-                 reinterpret_cast<LPARAM>(sender));
-}
-
-BOOL CALLBACK take_tool_tips(HWND window, LPARAM found) {
-    wchar_t window_class[32] = {};
-    GetClassNameW(window, window_class, 32);
-    if (std::wstring_view(window_class) != TOOLTIPS_CLASSW) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
-struct FormWindowTest : testing::Test {
-    Form form{
-        {.name = u"frmOrder", .place = {0, 0, 6000, 4500}, .caption = u"Order"},
-        {{.kind = Kind::text_box, .name = u"txtNote", .place = {150, 150, 2400, 315}},
-         {.kind = Kind::combo_box,
-          .name = u"cboSize",
-          .place = {150, 600, 2400, 315},
-          .text = u"small",
-          .items = {u"small", u"large"},
-          .index = 0},
-         {.kind = Kind::check_box, .name = u"chkGift", .place = {150, 1050, 2400, 255}, .caption = u"A gift"},
-         {.kind = Kind::frame, .name = u"fraMore", .place = {3000, 150, 2700, 1200}, .caption = u"More"},
-         {.kind = Kind::label, .name = u"lblHint", .place = {150, 300, 2400, 255}, .frame = u"fraMore"},
-         {.kind = Kind::text_box,
-          .name = u"txtTips",
-          .place = {150, 1500, 2400, 900},
-          .text = u"first tip",
-          .locked = true,
-          .several_lines = true},
-         {.kind = Kind::command_button,
-          .name = u"cmdSend",
-          .place = {150, 3000, 1500, 375},
-          .caption = u"&Send",
-          .tool_tip = u"Sends it",
-          .is_default = true},
-         {.kind = Kind::command_button,
-          .name = u"cmdCancel",
-          .place = {1800, 3000, 1500, 375},
-          .caption = u"Cancel",
-          .is_cancel = true},
-         {.kind = Kind::menu, .name = u"mnFile", .caption = u"File"}}};
-    Text events;
-
-    void note(TextView name, Event event, TextView mark) {
-        form.on(name, event, [this, mark] { events += mark; });
-    }
-    void unload_on(TextView button, TextView mark) {
-        form.on(button, Event::click, [this, mark] {
-            events += mark;
-            form.unload();
-        });
-    }
-};
 
 TEST_F(FormWindowTest, AClickedButtonRunsItsHandlerAndAnUnloadedFormReturns) {
     unload_on(u"cmdSend", u"sent");
@@ -326,9 +181,6 @@ TEST_F(FormWindowTest, AButtonThatHidesItselfHandsTheKeyboardOn) {
 TEST_F(FormWindowTest, KeepOnTopFollowsTheForm) {
     form.topmost = true;
     form.on(u"cmdSend", Event::click, [this] { form.topmost = false; });
-    const auto is_topmost = [](HWND window) {
-        return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-    };
     show(form, {[&](HWND window) { EXPECT_TRUE(is_topmost(window)); }, pressing(L"cmdSend"),
                 [&](HWND window) { EXPECT_FALSE(is_topmost(window)); }});
 }
@@ -353,10 +205,15 @@ TEST_F(FormWindowTest, APlaceThatIsNoWholeNumberOfPixelsStaysAsItIs) {
     EXPECT_EQ(form.properties.place, (forms::Place{997, 2593, 6001, 4501}));
 }
 
+TEST_F(FormWindowTest, TheWindowShowsTheProgramsIcon) {
+    show(form, {[](HWND window) {
+             EXPECT_TRUE(SendMessageW(window, WM_GETICON, ICON_SMALL, 0));
+             EXPECT_TRUE(SendMessageW(window, WM_GETICON, ICON_BIG, 0));
+         }});
+}
+
 TEST_F(FormWindowTest, AToolTipIsTheControls) {
     show(form, {[](HWND window) {
-             HWND tips = nullptr;
-             EnumThreadWindows(GetCurrentThreadId(), take_tool_tips, reinterpret_cast<LPARAM>(&tips));
              wchar_t tip[128] = {};
              TTTOOLINFOW tool{};
              tool.cbSize = TTTOOLINFOW_V1_SIZE;
@@ -364,9 +221,54 @@ TEST_F(FormWindowTest, AToolTipIsTheControls) {
              tool.uFlags = TTF_IDISHWND;
              tool.uId = reinterpret_cast<UINT_PTR>(control(window, L"cmdSend"));
              tool.lpszText = tip;
-             SendMessageW(tips, TTM_GETTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
+             SendMessageW(tool_tips(), TTM_GETTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
              EXPECT_EQ(text_of(tip), u"Sends it");
          }});
+}
+
+TEST_F(FormWindowTest, ADisabledControlHasItsToolTipToo) {
+    form[u"txtNote"].tool_tip = u"All of it";
+    form[u"txtNote"].enabled = false;
+    show(form, {[](HWND window) {
+             wchar_t tip[128] = {};
+             TTHITTESTINFOW under_mouse{};
+             under_mouse.hwnd = window;
+             const RECT place = Scale::of_screen().pixels({150, 150, 2400, 315});
+             under_mouse.pt = {place.left + 5, place.top + 5};
+             under_mouse.ti.cbSize = TTTOOLINFOW_V1_SIZE;
+             under_mouse.ti.lpszText = tip;
+             EXPECT_TRUE(SendMessageW(tool_tips(), TTM_HITTESTW, 0, reinterpret_cast<LPARAM>(&under_mouse)));
+             EXPECT_EQ(text_of(tip), u"All of it");
+         }});
+}
+
+TEST_F(FormWindowTest, AButtonThatHasTheKeyboardIsPressedByEnterAgainAndAgain) {
+    note(u"cmdCancel", Event::click, u"again;");
+    const auto is_default = [](HWND button) {
+        return (GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+    };
+    show(form, {[](HWND window) {
+                    SendMessageW(window, WM_NEXTDLGCTL,
+                                 reinterpret_cast<WPARAM>(control(window, L"cmdCancel")), TRUE);
+                },
+                pressing(L"cmdCancel"),
+                [&](HWND window) {
+                    EXPECT_EQ(GetFocus(), control(window, L"cmdCancel"));
+                    EXPECT_TRUE(is_default(control(window, L"cmdCancel")));
+                    EXPECT_FALSE(is_default(control(window, L"cmdSend")));
+                }});
+    EXPECT_EQ(events, u"again;");
+}
+
+TEST_F(FormWindowTest, ADefaultThatTheFormsCodeChangesIsPressedByEnter) {
+    form.on(u"chkGift", Event::click, [this] {
+        form[u"cmdSend"].is_default = false;
+        form[u"cmdCancel"].is_default = true;
+    });
+    unload_on(u"cmdCancel", u"cancelled");
+    show(form,
+         {pressing(L"chkGift"), [](HWND window) { SetFocus(control(window, L"txtNote")); }, key(VK_RETURN)});
+    EXPECT_EQ(events, u"cancelled");
 }
 
 TEST_F(FormWindowTest, ADoubleClickOnATextBoxReachesItsHandler) {
@@ -383,22 +285,8 @@ TEST_F(FormWindowTest, AnAccessKeyPressesItsButton) {
     EXPECT_EQ(events, u"sent");
 }
 
-TEST_F(FormWindowTest, TheOwnerIsOutOfReachUntilTheFormCloses) {
-    const HWND owner = CreateWindowExW(0, L"STATIC", L"the mail client", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
-                                       0, 300, 200, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
-    SetActiveWindow(owner);
-    show(form, {[&](HWND window) {
-             EXPECT_FALSE(IsWindowEnabled(owner));
-             EXPECT_EQ(GetWindow(window, GW_OWNER), owner);
-         }});
-    EXPECT_TRUE(IsWindowEnabled(owner));
-    EXPECT_EQ(GetActiveWindow(), owner);
-    DestroyWindow(owner);
-}
-
 TEST_F(FormWindowTest, AFormGoesWithItsOwner) {
-    const HWND owner = CreateWindowExW(0, L"STATIC", L"the mail client", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
-                                       0, 300, 200, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+    const HWND owner = make_window(L"the mail client");
     SetActiveWindow(owner);
     form.on_unload = [&] { events += u"unloaded"; };
     show(form, {[&](HWND) { DestroyWindow(owner); }});
@@ -439,54 +327,6 @@ TEST_F(FormWindowTest, AFormThatUnloadsWhileItLoadsNeverAppears) {
     form.on_load = [this] { form.unload(); };
     DesktopWindows().show_modal(form);
     EXPECT_FALSE(form.is_loaded());
-}
-
-/// Whether the text of a label or button fits into its window.
-void expect_to_fit(HWND window) {
-    RECT room;
-    GetClientRect(window, &room);
-    RECT needed{0, 0, room.right, 0};
-    const HDC canvas = GetDC(window);
-    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0));
-    const HGDIOBJ before = SelectObject(canvas, font);
-    DrawTextW(canvas, wide(text_in(window)).c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK);
-    SelectObject(canvas, before);
-    ReleaseDC(window, canvas);
-    EXPECT_LE(needed.bottom, room.bottom) << to_utf8(text_in(window));
-    EXPECT_LE(needed.right, room.right) << to_utf8(text_in(window));
-}
-
-TEST(PromptWindow, NothingIsCutInAnyMode) {
-    for (const TextView mode :
-         {u"Reply", u"Auto-no Template", u"Auto-no signature", u"Security warning", u"Bad Template",
-          u"Choose Template", u"Choose signature", u"Format Warning", u"Support email request"}) {
-        forms::PromptValues values{.mode = Text(mode), .answer = u"No"};
-        forms::frmMessage prompt(values, forms::built_in_strings());
-        show(prompt.form(), {[](HWND window) {
-                 RECT inside;
-                 GetClientRect(window, &inside);
-                 for (const wchar_t* name : {L"lblMessage", L"cmdYes", L"cmdNo", L"cmdOK"}) {
-                     const HWND part = control(window, name);
-                     if (!IsWindowVisible(part)) continue;
-                     expect_to_fit(part);
-                     RECT place, common;
-                     GetWindowRect(part, &place);
-                     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
-                     IntersectRect(&common, &place, &inside);
-                     EXPECT_TRUE(EqualRect(&common, &place)) << "it reaches beyond the window";
-                 }
-             }});
-    }
-}
-
-TEST(PromptWindow, AnswersAsTheUserClicks) {
-    const std::pair<TextView, const wchar_t*> clicks[] = {{u"Yes", L"cmdYes"}, {u"No", L"cmdNo"}};
-    for (const auto& [answer, button] : clicks) {
-        forms::PromptValues values{.mode = u"Support email request", .answer = u"No"};
-        forms::frmMessage prompt(values, forms::built_in_strings());
-        show(prompt.form(), {pressing(button)});
-        EXPECT_EQ(values.answer, answer);
-    }
 }
 
 } // namespace

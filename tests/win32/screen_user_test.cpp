@@ -1,6 +1,6 @@
 #include "rehearsal/windows/screen_user.h"
 
-#include "forms/centre.h"
+#include "forms/screen_place.h"
 #include "rehearsal/form_record.h"
 #include "win32/form_window.h"
 

@@ -1,10 +1,6 @@
 #include "win32/web_browser.h"
 
-#include "win32/browser_site.h"
-
 #include <gtest/gtest.h>
-#include <mshtmdid.h>
-#include <olectl.h>
 
 namespace ornavel::win32 {
 namespace {
@@ -28,7 +24,7 @@ protected:
 };
 
 TEST_F(WebBrowserControl, StandsInItsWindowAndFillsIt) {
-    WebBrowser browser(window);
+    WebBrowser browser(window, false);
     ASSERT_NE(control(), nullptr);
     EXPECT_EQ(size_of_control().cx, 300);
     EXPECT_EQ(size_of_control().cy, 200);
@@ -40,27 +36,10 @@ TEST_F(WebBrowserControl, StandsInItsWindowAndFillsIt) {
 
 TEST_F(WebBrowserControl, TakesAPageAndLeavesItsWindowAtItsEnd) {
     {
-        WebBrowser browser(window);
+        WebBrowser browser(window, false);
         EXPECT_NO_THROW(browser.show(u"about:blank"));
     }
     EXPECT_EQ(control(), nullptr);
-}
-
-TEST_F(WebBrowserControl, RunsNothingThatAPageBringsAlong) {
-    auto* const site = new BrowserSite(window);
-    VARIANT flags;
-    VariantInit(&flags);
-    EXPECT_EQ(site->Invoke(DISPID_AMBIENT_DLCONTROL, IID_NULL, 0, DISPATCH_PROPERTYGET, nullptr, &flags,
-                           nullptr, nullptr),
-              S_OK);
-    ASSERT_EQ(flags.vt, VT_I4);
-    const LONG off = DLCTL_NO_SCRIPTS | DLCTL_NO_JAVA | DLCTL_NO_DLACTIVEXCTLS | DLCTL_NO_RUNACTIVEXCTLS |
-                     DLCTL_NO_BEHAVIORS;
-    EXPECT_EQ(flags.lVal & off, off);
-    EXPECT_EQ(site->Invoke(DISPID_AMBIENT_USERMODE, IID_NULL, 0, DISPATCH_PROPERTYGET, nullptr, &flags,
-                           nullptr, nullptr),
-              DISP_E_MEMBERNOTFOUND);
-    EXPECT_EQ(site->Release(), 0u);
 }
 
 } // namespace

@@ -1,0 +1,82 @@
+#include "forms/screen_place.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace ornavel::forms {
+namespace {
+
+// A stored place may hold any number: sums and products are taken in a wider type.
+using Wide = std::int64_t;
+
+struct Span {
+    Wide begin, end;
+};
+
+Span across(const Place& place) { return {place.left, Wide{place.left} + place.width}; }
+Span down(const Place& place) { return {place.top, Wide{place.top} + place.height}; }
+
+bool holds(const Span& outer, Wide point) { return outer.begin <= point && point < outer.end; }
+
+bool is_on_a_screen(Wide x, Wide y, std::span<const Place> screens) {
+    return std::ranges::any_of(
+        screens, [&](const Place& screen) { return holds(across(screen), x) && holds(down(screen), y); });
+}
+
+bool is_whole(const Place& window, std::span<const Place> screens) {
+    const Span x = across(window), y = down(window);
+    for (const Wide corner_x : {x.begin, x.end - 1})
+        for (const Wide corner_y : {y.begin, y.end - 1})
+            if (!is_on_a_screen(corner_x, corner_y, screens)) return false;
+    return true;
+}
+
+/// How much two stretches share; where they share nothing, how far they are apart, negative.
+Wide shared(const Span& one, const Span& other) {
+    return std::min(one.end, other.end) - std::max(one.begin, other.begin);
+}
+
+/// The screen that shows most of the window is nearest; of those that show none of it, the one with the
+/// shortest way.
+Wide distance(const Place& window, const Place& screen) {
+    const Wide x = shared(across(window), across(screen)), y = shared(down(window), down(screen));
+    if (x > 0 && y > 0) return -x * y;
+    return std::max(-x, Wide{0}) + std::max(-y, Wide{0});
+}
+
+int inside(int place, int size, int screen_begin, int screen_size) {
+    const Wide last = Wide{screen_begin} + screen_size - size;
+    return static_cast<int>(std::clamp(Wide{place}, Wide{screen_begin}, std::max(Wide{screen_begin}, last)));
+}
+
+} // namespace
+
+Place centred(Place window, const Place& screen) {
+    constexpr int twips_per_pixel = 15;
+    const auto middle = [](int room) { return room / 2 / twips_per_pixel * twips_per_pixel; };
+    window.left = screen.left + middle(screen.width - window.width);
+    window.top = screen.top + middle(screen.height - window.height);
+    return window;
+}
+
+Place reachable(const Place& window, std::span<const Place> screens) {
+    if (screens.empty() || is_whole(window, screens)) return window;
+    const Place& screen =
+        *std::ranges::min_element(screens, {}, [&](const Place& each) { return distance(window, each); });
+    Place within = window;
+    within.width = std::min(window.width, screen.width);
+    within.height = std::min(window.height, screen.height);
+    within.left = inside(window.left, within.width, screen.left, screen.width);
+    within.top = inside(window.top, within.height, screen.top, screen.height);
+    return within;
+}
+
+void place_on_screen(Form& form, const Place& main_screen, std::span<const Place> screens) {
+    Place& place = form.properties.place;
+    if (form.centred)
+        place = centred(place, main_screen);
+    else if (const Place within = reachable(place, screens); within != place)
+        form.take_place(within);
+}
+
+} // namespace ornavel::forms

@@ -1,0 +1,112 @@
+#include "tests/connect/sending.h"
+
+namespace ornavel::connect {
+namespace {
+
+using namespace settings;
+
+constexpr const char* ready_to_dress = R"({
+    "settings": {"Admin Settings": {"SigEmail": "jo@example.com", "SigWebsite": "www.example.com",
+                                    "StartupSetupWiz": "False", "HTM Files Path": "C:\\stationery",
+                                    "ErrorFileLocation": "C:\\log.txt"},
+                 "User Settings": {"SettingButtonBar": "auto", "Template": "letter.htm", "Signature": "none"}},
+    "files": {"C:\\stationery\\letter.htm": "<[#Input your message here#]>\r\n"},
+    "folders": ["C:\\app"],
+    "host": {"explorers": EXPLORERS},
+    "user": [{"at": "Ornavel System Test", "answer": "Yes"}],
+    "items": [{"Subject": "Hello", "HTMLBody": "Hello"}],
+    "do": []})";
+
+std::string with_explorers(int count) {
+    std::string scenario = ready_to_dress;
+    return scenario.replace(scenario.find("EXPLORERS"), 9, std::to_string(count));
+}
+
+/// The add-in in front of a mail client with some explorers; not connected yet.
+struct Lifecycle {
+    explicit Lifecycle(int explorers) : stage(with_explorers(explorers)) {}
+
+    bool dresses_a_message() {
+        rehearsal::MailItemNode& item = *stage.client.items[0];
+        item.html_body = u"Hello";
+        item.user_property_nodes.clear();
+        stage.client.send(item);
+        return item.html_body == u"<Hello>\r\n";
+    }
+    std::size_t buttons() const { return stage.client.standard_bar->buttons.size(); }
+
+    rehearsal::Stage stage;
+    Connect addin{Platform{.settings = stage.machine.addin_settings(),
+                           .files = stage.machine.addin_files(),
+                           .clock = stage.machine.addin_clock(),
+                           .launcher = stage.machine.addin_launcher(),
+                           .objects = stage.client,
+                           .windows = stage.machine.addin_windows(),
+                           .strings = forms::built_in_strings(),
+                           .machine = stage.machine.addin_machine(),
+                           .addin_folder = u"C:\\app"}};
+};
+
+TEST(Lifecycle, AnExplorerThatClosesIsNotHookedAgainThoughItIsStillTheActiveOne) {
+    Lifecycle add_in(3);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
+    add_in.addin.OnStartupComplete();
+    add_in.stage.client.close_explorer(0); // the active one
+    add_in.stage.client.close_explorer(1); // hooked by now: its end is heard of
+    EXPECT_TRUE(add_in.dresses_a_message());
+    add_in.stage.client.close_explorer(2); // the last
+    EXPECT_EQ(add_in.stage.held(), 0u);
+    EXPECT_FALSE(add_in.dresses_a_message());
+}
+
+TEST(Lifecycle, WithoutAnExplorerAtStartUpTheFirstThatOpensIsHookedAndGetsTheButtons) {
+    Lifecycle add_in(0);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
+    add_in.addin.OnStartupComplete();
+    EXPECT_EQ(add_in.buttons(), 0u);
+    EXPECT_TRUE(add_in.dresses_a_message());
+    add_in.stage.client.add_explorers(2);
+    EXPECT_EQ(add_in.buttons(), 2u);
+    add_in.stage.client.close_explorer(0);
+    add_in.stage.client.close_explorer(1);
+    EXPECT_EQ(add_in.stage.held(), 0u);
+}
+
+TEST(Lifecycle, AnExplorerThatOpensBetweenConnectionAndStartUpGetsTheButtonsAtStartUp) {
+    Lifecycle add_in(0);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
+    add_in.stage.client.add_explorers(1);
+    EXPECT_EQ(add_in.buttons(), 0u);
+    add_in.addin.OnStartupComplete();
+    EXPECT_EQ(add_in.buttons(), 2u);
+    add_in.addin.OnDisconnection(0);
+    EXPECT_EQ(add_in.stage.held(), 0u);
+}
+
+TEST(Lifecycle, LoadedWhileTheMailClientRunsTheStartUpsWorkIsDoneAtConnectionAndOnce) {
+    Lifecycle add_in(1);
+    settings::save(add_in.stage.machine.addin_settings(), system::SystemCheck, on);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::after_startup);
+    EXPECT_EQ(add_in.buttons(), 2u);
+    EXPECT_TRUE(add_in.dresses_a_message());
+    const std::string log = add_in.stage.machine.files().read(u"C:\\log.txt");
+    EXPECT_LT(log.find("Calling Get_Marketing_Info"), log.find("Exiting sub"));
+    add_in.addin.OnStartupComplete();
+    add_in.addin.OnDisconnection(1);
+    EXPECT_EQ(add_in.buttons(), 0u);
+    EXPECT_EQ(add_in.stage.held(), 0u);
+}
+
+TEST(Lifecycle, LoadedAgainTheStartUpsWorkIsDoneAgain) {
+    Lifecycle add_in(1);
+    for (int time = 0; time < 2; ++time) {
+        add_in.addin.OnConnection(add_in.stage.application(), Connect::after_startup);
+        EXPECT_EQ(add_in.buttons(), 2u);
+        add_in.addin.OnDisconnection(1);
+        EXPECT_EQ(add_in.buttons(), 0u);
+    }
+    EXPECT_EQ(add_in.stage.held(), 0u);
+}
+
+} // namespace
+} // namespace ornavel::connect

@@ -1,0 +1,24 @@
+#include "forms/control.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::forms {
+namespace {
+
+Text read(Kind kind, TextView caption) { return readable_caption({.kind = kind, .caption = Text(caption)}); }
+
+TEST(Captions, AreReadWithoutTheMarkOfTheirAccessKey) {
+    EXPECT_EQ(read(Kind::command_button, u"&Send"), u"Send");
+    EXPECT_EQ(read(Kind::label, u"Marlow && Hale"), u"Marlow & Hale");
+    EXPECT_EQ(read(Kind::check_box, u"&&&a&"), u"&a");
+    EXPECT_EQ(read(Kind::form, u"Marlow && &Hale"), u"Marlow && &Hale");
+}
+
+TEST(Captions, HaveTheFirstSuchLetterAsTheirAccessKey) {
+    EXPECT_EQ(with_access_key(u"Yes. Use Yeast.", u'Y'), u"&Yes. Use Yeast.");
+    EXPECT_EQ(with_access_key(u"Marlow & Hale", u'H'), u"Marlow && &Hale");
+    EXPECT_EQ(with_access_key(u"OK", u'N'), u"OK");
+}
+
+} // namespace
+} // namespace ornavel::forms

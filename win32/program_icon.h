@@ -1,0 +1,11 @@
+#pragma once
+
+#include <windows.h>
+
+namespace ornavel::win32 {
+
+/// Shows the program's icon in the window's title bar and where the user switches between windows. A module
+/// without one in its resources leaves the window as it is.
+void show_program_icon(HWND window);
+
+} // namespace ornavel::win32

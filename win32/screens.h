@@ -1,0 +1,12 @@
+#pragma once
+
+#include "win32/twips.h"
+
+#include <vector>
+
+namespace ornavel::win32 {
+
+/// The screens of the desktop without their taskbars, in twips.
+std::vector<forms::Place> screens(const Scale& scale);
+
+} // namespace ornavel::win32
