@@ -20,11 +20,24 @@ TextView folder_of(TextView path) {
 
 std::string name_of_file(TextView path) { return to_utf8(path.substr(path.find_last_of(u'\\') + 1)); }
 
-/// The last file that was read in the folder that a setting names.
-std::string last_read_in(const Story& story, const Send& send, TextView setting) {
-    Text folder = value_read(story, send, setting);
+/// A setting that names a file, and the one that names its folder.
+struct Choice {
+    const char* word;
+    TextView setting, folder;
+};
+constexpr Choice template_choice{"template", u"User Settings / Template", u"Admin Settings / HTM Files Path"},
+    signature_choice{"signature", u"User Settings / Signature", u"Admin Settings / Signatures Path"};
+
+Text folder_of(const Choice& choice, const Story& story, const Send& send) {
+    Text folder = value_read(story, send, choice.folder);
     if (folder.empty()) folder = u"C:\\temp";
     while (folder.ends_with(u'\\')) folder.pop_back();
+    return folder;
+}
+
+/// The last file of a choice's folder that was read.
+std::string last_read(const Choice& choice, const Story& story, const Send& send) {
+    const Text folder = folder_of(choice, story, send);
     std::string name;
     for (const auto* read : deeds_of(story, send, Deed::read_file))
         if (!read->failed && same_name(folder_of(read->what), folder)) name = name_of_file(read->what);
@@ -82,6 +95,14 @@ bool is_there(const Story& story, TextView path) {
     return false;
 }
 
+/// Another file takes the place of one that is not there, and nobody is told.
+void missing_choice(const Choice& choice, const Story& story, const Send& send, Sentences& sentences) {
+    const Text name = value_read(story, send, choice.setting);
+    if (name.empty() || name == u"none" || is_there(story, folder_of(choice, story, send) + u'\\' + name))
+        return;
+    sentences.push_back("The " + std::string(choice.word) + ' ' + to_utf8(name) + " is not there.");
+}
+
 void missing_pictures(const Story& story, const std::string& html, Sentences& sentences) {
     for (const auto& address : pictures_in(html)) {
         const Text path = path_of_picture(address);
@@ -120,11 +141,11 @@ Text value_read(const Story& story, const Send& send, TextView setting) {
 }
 
 std::string template_read(const Story& story, const Send& send) {
-    return last_read_in(story, send, u"Admin Settings / HTM Files Path");
+    return last_read(template_choice, story, send);
 }
 
 std::string signature_read(const Story& story, const Send& send) {
-    const std::string name = last_read_in(story, send, u"Admin Settings / Signatures Path");
+    const std::string name = last_read(signature_choice, story, send);
     return name == template_read(story, send) ? std::string() : name;
 }
 
@@ -134,6 +155,8 @@ std::vector<std::string> findings_in(const Story& story, const Send& send) {
     const Json& after = story.outcome.at("items").at(send.item);
     const std::string html = text_of(after, "HTMLBody");
     if (is_stamped(story, send) && !html.empty()) {
+        missing_choice(template_choice, story, send, sentences);
+        missing_choice(signature_choice, story, send, sentences);
         lost_text(story.scenario.items.at(send.item), html, sentences);
         fields_left_over(html, sentences);
         missing_pictures(story, html, sentences);

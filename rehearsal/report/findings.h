@@ -14,8 +14,9 @@ Text value_read(const Story& story, const Send& send, TextView setting);
 std::string template_read(const Story& story, const Send& send);
 std::string signature_read(const Story& story, const Send& send);
 
-/// What to look at in a send, a sentence each: errors, text of the user's that the result lacks, fields that
-/// were left over, pictures that are not there, windows that nobody answered.
+/// What to look at in a send, a sentence each: errors, a chosen template or signature that is not there, text
+/// of the user's that the result lacks, fields that were left over, pictures that are not there, windows that
+/// nobody answered.
 std::vector<std::string> findings_in(const Story& story, const Send& send);
 
 } // namespace ornavel::rehearsal::report

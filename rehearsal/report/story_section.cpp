@@ -69,6 +69,7 @@ std::string gate_rail(const Send& send) {
     std::string gates;
     for (const auto& gate : send.gates)
         gates += text_element("li", gate.passed ? "passed" : "left", gate.name);
+    if (ended_by_error(send)) gates += text_element("li", "ended", "an error");
     return element("ol", "gates", gates);
 }
 
@@ -106,7 +107,7 @@ std::string look_at_this(const Story& story) {
         lines += text_element("li", "",
                               "The mail client was left with an error: " + story.outcome.at("error").dump());
     if (lines.empty()) return {};
-    return element("div", "look", text_element("h3", "", "Look at this") + element("ul", "", lines));
+    return element("div", "notice", text_element("h3", "", "Look at this") + element("ul", "", lines));
 }
 
 std::string verdicts(const Story& story) {

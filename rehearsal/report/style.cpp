@@ -56,6 +56,7 @@ iframe { display: block; width: 100%; border: 0; background: #fff; resize: verti
 .gates { display: flex; flex-wrap: wrap; gap: 6px; margin: 22px 0 14px; padding: 0; list-style: none; font-size: 12.5px; }
 .gates li { padding: 2px 10px; border-radius: 99px; border: 1px solid #cfe0cf; background: var(--green-wash); color: var(--green); }
 .gates li.left { border-color: #d8d4c6; background: var(--ink); color: #fff; font-weight: 600; }
+.gates li.ended { border-color: #e3b7af; background: var(--red-wash); color: var(--red); font-weight: 600; }
 .gates li.left::before { content: "left at "; font-weight: 400; }
 .folds { margin-top: 2px; }
 details { border-top: 1px solid var(--line); }
@@ -73,9 +74,9 @@ mark { background: #fdf0c4; color: inherit; }
 .journal .value { color: var(--soft); }
 .journal th { padding: 2px 18px 2px 0; font-family: var(--sans); }
 .journal .failed td { color: var(--red); font-weight: 600; }
-.look { margin: 18px 0; padding: 12px 18px; border: 1px solid #e3b7af; border-radius: 10px; background: var(--red-wash); }
-.look h3 { margin: 0 0 4px; font-size: 15px; color: var(--red); }
-.look ul { margin: 0; padding-left: 20px; font-size: 14.5px; overflow-wrap: anywhere; }
+.notice { margin: 18px 0; padding: 12px 18px; border: 1px solid #e3b7af; border-radius: 10px; background: var(--red-wash); }
+.notice h3 { margin: 0 0 4px; font-size: 15px; color: var(--red); }
+.notice ul { margin: 0; padding-left: 20px; font-size: 14.5px; overflow-wrap: anywhere; }
 .windows .bad { border-left-color: var(--red); }
 .windows .bad em { color: var(--red); font-weight: 600; }
 .windows { margin: 18px 0; padding: 0; list-style: none; }
@@ -85,7 +86,7 @@ mark { background: #fdf0c4; color: inherit; }
 .verdicts { display: flex; flex-wrap: wrap; gap: 6px 22px; margin: 14px 0 0; padding: 0; list-style: none; font-size: 14px; }
 .verdicts .good { color: var(--green); }
 .verdicts .good::before { content: "\2713\00a0"; }
-.verdicts .bad { color: var(--red); font-weight: 600; }
+.verdicts .bad { flex-basis: 100%; color: var(--red); font-weight: 600; overflow-wrap: anywhere; }
 .verdicts .bad::before { content: "\2717\00a0"; }
 main { padding-bottom: 96px; }
 @media (max-width: 900px) { .pair { grid-template-columns: minmax(0, 1fr); } header, section { padding-left: 20px; padding-right: 20px; } .overview .gate { display: none; } }

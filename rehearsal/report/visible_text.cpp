@@ -1,5 +1,7 @@
 #include "rehearsal/report/visible_text.h"
 
+#include "rehearsal/excerpt.h"
+
 #include <algorithm>
 
 namespace ornavel::rehearsal::report {
@@ -62,20 +64,10 @@ constexpr std::size_t most_words = 8, shortest_piece = 12;
 /// as links and a signature are, parts it, and no word is lost.
 bool stands_in_pieces(std::string_view text, std::string_view other) {
     while (!text.empty()) {
-        std::size_t fits = 0, fails = text.size() + 1, place = 0;
-        while (fits + 1 < fails) {
-            const std::size_t length = (fits + fails) / 2;
-            const auto at = other.find(text.substr(0, length));
-            if (at == std::string_view::npos) {
-                fails = length;
-            } else {
-                fits = length;
-                place = at;
-            }
-        }
-        if (fits < std::min(shortest_piece, text.size())) return false;
-        text.remove_prefix(fits);
-        other.remove_prefix(place + fits);
+        const Beginning fits = longest_beginning(text, other);
+        if (fits.length < std::min(shortest_piece, text.size())) return false;
+        text.remove_prefix(fits.length);
+        other.remove_prefix(fits.place + fits.length);
     }
     return true;
 }
