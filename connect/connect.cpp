@@ -75,9 +75,11 @@ void Connect::start_up() noexcept {
     Session& session = *session_;
     session.started = true;
     // No catalogue can know where the add-in lies.
-    session.start_up.application_path =
-        read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
-    session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);
+    attempt([&] {
+        session.start_up.application_path =
+            read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
+        session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);
+    });
     prepare_environment(session);
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
@@ -157,7 +159,9 @@ void Connect::myActiveExplorer_Close() noexcept {
     record(session, u"Fired", u"", u"MyActiveExplorer sub");
     const auto count = explorer_count(session);
     if (count && *count < 2) {
-        record(session, u"Calling Varcleanup", u"", u"Explorer count <= 1 (Count is " + to_text(*count));
+        attempt([&] {
+            record(session, u"Calling Varcleanup", u"", u"Explorer count <= 1 (Count is " + to_text(*count));
+        });
         VarCleanup();
     } else {
         attempt([&] { hook(another_than(session.host.myActiveExplorer, session.host.oHostApp)); });

@@ -5,6 +5,7 @@
 #include "rehearsal/model/file_system.h"
 #include "rehearsal/model/handle.h"
 #include "rehearsal/model/registry_provider.h"
+#include "rehearsal/turn.h"
 
 #include <algorithm>
 
@@ -51,6 +52,7 @@ MailClient::MailClient(const Scenario& scenario, Machine& machine, Failures& fai
 }
 
 host::ObjectPtr MailClient::create(TextView prog_id) {
+    const MachinesTurn turn;
     journal_.note(Deed::call, u"CreateObject", prog_id);
     failures_.use(Failing::Kind::creation, prog_id);
     const auto entry =
@@ -62,6 +64,7 @@ host::ObjectPtr MailClient::create(TextView prog_id) {
 }
 
 host::ObjectPtr MailClient::get(TextView moniker) {
+    const MachinesTurn turn;
     journal_.note(Deed::call, u"GetObject", moniker);
     failures_.use(Failing::Kind::creation, moniker);
     const bool provider =

@@ -1,5 +1,7 @@
 #include "rehearsal/native/memory_disk.h"
 
+#include "rehearsal/turn.h"
+
 #include "base/errors.h"
 
 namespace ornavel::rehearsal {
@@ -110,31 +112,61 @@ void MemoryDisk::remove_folder(TextView path) {
                   [&](const auto& other) { return same_name(other, folder) || is_below(other, folder); });
 }
 
+bool RehearsedDisk::file_exists(TextView path) const {
+    const MachinesTurn turn;
+    return disk_.file_exists(path);
+}
+
+bool RehearsedDisk::folder_exists(TextView path) const {
+    const MachinesTurn turn;
+    return disk_.folder_exists(path);
+}
+
+std::vector<Text> RehearsedDisk::list(TextView folder) const {
+    const MachinesTurn turn;
+    return disk_.list(folder);
+}
+
+std::vector<Text> RehearsedDisk::list_folders(TextView folder) const {
+    const MachinesTurn turn;
+    return disk_.list_folders(folder);
+}
+
+void RehearsedDisk::create_folder(TextView path) {
+    const MachinesTurn turn;
+    disk_.create_folder(path);
+}
+
 std::string RehearsedDisk::read(TextView path) const {
+    const MachinesTurn turn;
     journal_.note(Deed::read_file, Text(path));
     failures_.use(Failing::Kind::read_file, plain_path(path));
     return failures_.given(disk_.read(path));
 }
 
 void RehearsedDisk::write(TextView path, std::string_view bytes) {
+    const MachinesTurn turn;
     journal_.note(Deed::write_file, Text(path));
     failures_.use(Failing::Kind::write_file, plain_path(path));
     disk_.write(path, bytes);
 }
 
 void RehearsedDisk::append(TextView path, std::string_view bytes) {
+    const MachinesTurn turn;
     journal_.note(Deed::write_file, Text(path));
     failures_.use(Failing::Kind::write_file, plain_path(path));
     disk_.append(path, bytes);
 }
 
 void RehearsedDisk::remove(TextView path) {
+    const MachinesTurn turn;
     journal_.note(Deed::delete_file, Text(path));
     failures_.use(Failing::Kind::delete_file, plain_path(path));
     disk_.remove(path);
 }
 
 void RehearsedDisk::remove_folder(TextView path) {
+    const MachinesTurn turn;
     journal_.note(Deed::delete_file, Text(path));
     failures_.use(Failing::Kind::delete_file, plain_path(path));
     disk_.remove_folder(path);

@@ -48,15 +48,15 @@ public:
     RehearsedDisk(MemoryDisk& disk, Failures& failures, Journal& journal)
         : disk_(disk), failures_(failures), journal_(journal) {}
 
-    bool file_exists(TextView path) const override { return disk_.file_exists(path); }
-    bool folder_exists(TextView path) const override { return disk_.folder_exists(path); }
-    std::vector<Text> list(TextView folder) const override { return disk_.list(folder); }
-    std::vector<Text> list_folders(TextView folder) const override { return disk_.list_folders(folder); }
+    bool file_exists(TextView path) const override;
+    bool folder_exists(TextView path) const override;
+    std::vector<Text> list(TextView folder) const override;
+    std::vector<Text> list_folders(TextView folder) const override;
     std::string read(TextView path) const override;
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
-    void create_folder(TextView path) override { disk_.create_folder(path); }
+    void create_folder(TextView path) override;
     void remove_folder(TextView path) override;
     const CodePage& ansi() const override { return disk_.ansi(); }
 

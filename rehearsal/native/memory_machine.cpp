@@ -7,6 +7,7 @@
 #include "rehearsal/form_record.h"
 #include "rehearsal/native/form_player.h"
 #include "rehearsal/native/watching.h"
+#include "rehearsal/turn.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -91,6 +92,7 @@ Json MemoryMachine::tray_outcome() const {
 }
 
 void MemoryMachine::launch(TextView program, TextView arguments, WindowState window) {
+    const MachinesTurn turn;
     journal_.note(Deed::launch, Text(program), arguments);
     failures_.use(Failing::Kind::launch, file_name(program));
     launched_.push_back({{"program", to_json(recorded_program(program))},
@@ -99,6 +101,7 @@ void MemoryMachine::launch(TextView program, TextView arguments, WindowState win
 }
 
 Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
+    const MachinesTurn turn;
     journal_.note(Deed::window, Text(title), text);
     failures_.use(Failing::Kind::window, title);
     const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, buttons));
@@ -110,6 +113,7 @@ void MemoryMachine::show_modal(forms::Form& form) {
     form.load();
     if (!form.is_loaded()) return;
     const forms::Unloading at_the_end(form);
+    const MachinesTurn turn;
     failures_.use(Failing::Kind::window, form.name());
     forms::place_on_screen(form, screen, {&screen, 1});
     journal_.note(Deed::window, form.name(), form.properties.caption);
@@ -117,7 +121,10 @@ void MemoryMachine::show_modal(forms::Form& form) {
     windows_.push_back(form_record(form));
     const auto entry = user_.meet(form.name());
     if (entry) take_steps(user_, *entry, form);
-    attempt([&] { form.unload(); });
+    attempt([&] {
+        const AddInsTurn addins;
+        form.unload();
+    });
     windows_[place]["at close"] = changed_controls(windows_[place], form);
     if (!entry) windows_[place]["unexpected"] = true;
 }

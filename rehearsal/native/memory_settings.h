@@ -4,6 +4,7 @@
 #include "rehearsal/failures.h"
 #include "rehearsal/journal.h"
 #include "rehearsal/machine.h"
+#include "rehearsal/turn.h"
 #include "settings/store.h"
 
 namespace ornavel::rehearsal {
@@ -34,6 +35,7 @@ public:
         : store_(store), failures_(failures), journal_(journal) {}
 
     std::optional<Text> find(TextView section, TextView key) const noexcept override {
+        const MachinesTurn turn;
         std::optional<Text> value;
         attempt([&] {
             failures_.use(Failing::Kind::read_setting, key);
@@ -44,6 +46,7 @@ public:
     }
 
     void save(TextView section, TextView key, TextView value) noexcept override {
+        const MachinesTurn turn;
         attempt([&] {
             journal_.note(Deed::save_setting, named(section, key), value);
             failures_.use(Failing::Kind::save_setting, key);
