@@ -1,6 +1,7 @@
 #include "rehearsal/model/handle.h"
 
 #include "rehearsal/model/mail_client.h"
+#include "rehearsal/turn.h"
 
 #include <algorithm>
 
@@ -73,6 +74,7 @@ Text Handle::full_name(TextView member) const {
 }
 
 Value Handle::get(host::Member member, const Arguments& arguments) {
+    const MachinesTurn turn;
     Journal& journal = client_.journal();
     return journal.note_use(Deed::get, full_name(member.name), {}, [&] {
         const std::size_t place = journal.entries().size() - 1;
@@ -85,6 +87,7 @@ Value Handle::get(host::Member member, const Arguments& arguments) {
 }
 
 void Handle::put(host::Member member, const Value& value) {
+    const MachinesTurn turn;
     client_.journal().note_use(Deed::put, full_name(member.name), shown(value), [&] {
         const Target target = find(member.name);
         if (!target.row.write) throw host::Error(u"Object doesn't support this property or method");
@@ -93,6 +96,7 @@ void Handle::put(host::Member member, const Value& value) {
 }
 
 Value Handle::call(host::Member member, const Arguments& arguments) {
+    const MachinesTurn turn;
     return client_.journal().note_use(Deed::call, full_name(member.name), shown(arguments), [&] {
         const Target target = find(member.name);
         check_count(target.row, arguments);
@@ -101,6 +105,7 @@ Value Handle::call(host::Member member, const Arguments& arguments) {
 }
 
 host::Subscription Handle::advise(host::EventSource source, host::EventHandler handler) {
+    const MachinesTurn turn;
     if (node_->what().events != source)
         throw host::Error(u"Object or class does not support the set of events");
     struct Counted {
@@ -134,6 +139,7 @@ void raise_event(MailClient& client, Node& node, TextView event, std::span<Value
         const auto listener = entry.lock();
         if (!listener) continue;
         client.journal().note(Deed::event, Text(node.what().name) + u'.' + Text(event));
+        const AddInsTurn turn;
         listener->handler(event, arguments);
     }
 }
