@@ -36,9 +36,7 @@ int read_number(const Store& store, const NumberKey& key) noexcept {
     return numeric_value(value ? TextView(*value) : key.default_value);
 }
 
-void save(Store& store, const Key& key, TextView value) noexcept {
-    store.save(key.section, key.name, value);
-}
+void save(Store& store, const Key& key, TextView value) noexcept { store.save(key.section, key.name, value); }
 
 std::optional<Text> MemoryStore::find(TextView section, TextView key) const noexcept {
     std::optional<Text> value;
