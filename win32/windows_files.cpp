@@ -94,6 +94,23 @@ void WindowsFiles::create_folder(TextView path) {
     if (!CreateDirectoryW(wide(path).c_str(), nullptr) && !folder_exists(path)) fail(path, GetLastError());
 }
 
+void WindowsFiles::move(TextView from, TextView to) {
+    if (!MoveFileExW(wide(from).c_str(), wide(to).c_str(), MOVEFILE_REPLACE_EXISTING))
+        fail(to, GetLastError());
+}
+
+bool WindowsFiles::leads_elsewhere(TextView folder) const {
+    const DWORD attributes = GetFileAttributesW(wide(folder).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+}
+
+void WindowsFiles::remove_folder(TextView path) {
+    if (!leads_elsewhere(path)) {
+        for (const Text& name : list(path)) remove(with_backslash(path) + name);
+    }
+    if (!RemoveDirectoryW(wide(path).c_str())) fail(path, GetLastError());
+}
+
 const CodePage& WindowsFiles::ansi() const { return ansi_code_page(); }
 
 } // namespace ornavel::win32

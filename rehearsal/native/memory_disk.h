@@ -20,11 +20,11 @@ public:
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
+    void move(TextView from, TextView to) override;
     void create_folder(TextView path) override;
+    void remove_folder(TextView path) override;
+    bool leads_elsewhere(TextView) const override { return false; }
     const CodePage& ansi() const override { return windows_1252(); }
-
-    /// With everything in it.
-    void remove_folder(TextView path);
 
     const ByName<std::string>& files() const { return files_; }
     const std::set<Text, NameOrder>& folders() const { return folders_; }
@@ -50,7 +50,10 @@ public:
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
+    void move(TextView from, TextView to) override;
     void create_folder(TextView path) override { disk_.create_folder(path); }
+    void remove_folder(TextView path) override;
+    bool leads_elsewhere(TextView folder) const override { return disk_.leads_elsewhere(folder); }
     const CodePage& ansi() const override { return disk_.ansi(); }
 
 private:

@@ -76,7 +76,8 @@ Json play_here(const Scenario& scenario, const std::string& source, Journal& jou
                                         .machine = machine.addin_machine(),
                                         .addin_folder = scenario.computer.addin_folder,
                                         .on_gate = on_gate,
-                                        .on_trap = on_trap});
+                                        .on_trap = on_trap,
+                                        .tray = &machine.addin_tray()});
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);
