@@ -38,6 +38,8 @@ public:
     void begin_act(std::size_t act) { act_ = act; }
     void note(Deed deed, Text what, TextView value = {}, bool found = true);
     const std::vector<JournalEntry>& entries() const { return entries_; }
+    /// Keeps nothing of what has happened.
+    void forget() { entries_ = {}; }
     /// How many uses of the mail client's members an act made.
     std::size_t host_uses(std::size_t act) const;
 

@@ -56,8 +56,17 @@ host::Value argument(const DISPPARAMS* parameters, UINT index) {
 
 connect::Platform Machine::platform(IUnknown* owner) {
     const auto keep = [owner] { return std::make_shared<win32::ComPtr<IUnknown>>(owner); };
-    return {settings_, files_,   clock_,       launcher_,      objects_,
-            windows_,  strings_, information_, addin_folder(), keep};
+    return {.settings = settings_,
+            .files = files_,
+            .clock = clock_,
+            .launcher = launcher_,
+            .objects = objects_,
+            .windows = windows_,
+            .strings = strings_,
+            .machine = information_,
+            .addin_folder = addin_folder(),
+            .keep = keep,
+            .tray = &tray_};
 }
 
 HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {

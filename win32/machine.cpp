@@ -62,7 +62,7 @@ Progress ShellLauncher::run_windows_program(TextView name, TextView arguments, W
 }
 
 Answer DesktopWindows::show(TextView title, TextView text, Buttons buttons) {
-    const HWND owner = GetActiveWindow();
+    const HWND owner = owner_of_boxes();
     const int button = MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(), box_style(buttons, owner));
     if (button <= 0) fail(title, GetLastError());
     if (buttons == Buttons::ok) return Answer::ok;

@@ -23,8 +23,11 @@ public:
     void move(TextView from, TextView to) override;
     void create_folder(TextView path) override;
     void remove_folder(TextView path) override;
-    bool leads_elsewhere(TextView) const override { return false; }
+    bool leads_elsewhere(TextView folder) const override { return links_.contains(plain_path(folder)); }
     const CodePage& ansi() const override { return windows_1252(); }
+
+    /// The folder is a name for another one from now on.
+    void make_link(TextView folder) { links_.insert(plain_path(folder)); }
 
     const ByName<std::string>& files() const { return files_; }
     const std::set<Text, NameOrder>& folders() const { return folders_; }
@@ -35,6 +38,7 @@ private:
 
     ByName<std::string> files_;
     std::set<Text, NameOrder> folders_;
+    std::set<Text, NameOrder> links_;
 };
 
 /// The disk as the add-in sees it: each use is noted, and fails where the scenario says so.

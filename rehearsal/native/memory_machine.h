@@ -31,6 +31,8 @@ public:
     Json windows() const override { return windows_; }
     Json tray_outcome() const override { return to_json(tray_.record()); }
 
+    MemoryDisk& disk() { return disk_; }
+
     /// The parts that the add-in is given.
     settings::Store& addin_settings() { return rehearsed_settings_; }
     Files& addin_files() { return rehearsed_disk_; }

@@ -1,5 +1,7 @@
 #include "rehearsal/windows/windows_machine.h"
 
+#include "rehearsal/menu_act.h"
+
 namespace ornavel::rehearsal {
 
 WindowsMachine::WindowsMachine(const Scenario& scenario, const std::string& source)
@@ -29,8 +31,12 @@ Snapshot WindowsMachine::snapshot() const {
 
 void WindowsMachine::change_settings(const SettingsTree& settings) { registry_.change_settings(settings); }
 
-Json WindowsMachine::tray_outcome() const {
-    return {{"shown", false}, {"tip", ""}, {"times shown", 0}, {"times removed", 0}, {"menu", Json::array()}};
+bool WindowsMachine::tray(const Act& act) {
+    screen_.expect_menu(menu_choice(act));
+    if (!tray_.send(icon_message(act))) return false;
+    check_choice(user_, act, screen_.choice());
+    tray_.record.menu = screen_.menu();
+    return true;
 }
 
 } // namespace ornavel::rehearsal
