@@ -18,6 +18,8 @@ public:
     /// Names of the files of a folder, without their folder, in case-insensitive alphabetical order. A
     /// missing folder has none.
     virtual std::vector<Text> list(TextView folder) const = 0;
+    /// The same for the folders in it.
+    virtual std::vector<Text> list_folders(TextView folder) const = 0;
 
     virtual std::string read(TextView path) const = 0;
     /// Creates the file or replaces what it held.

@@ -14,7 +14,8 @@ enum class Progress { runs, failed, ended };
 class Launcher {
 public:
     virtual ~Launcher() = default;
-    /// Starts a program by its full path, without waiting for it. Throws Failure when it can't be started.
+    /// Starts a program by its full path, in its own folder, without waiting for it. Throws Failure when it
+    /// can't be started.
     virtual void launch(TextView program, TextView arguments, WindowState window) = 0;
     /// Starts a program of the Windows folder by its name, never one of that name elsewhere, and waits for
     /// its end, but not longer than this. Throws Failure when it can't be started.

@@ -11,10 +11,10 @@ inline constexpr TrapName signature_folder_trap{u"write_signature_files", u"Sign
 inline constexpr TrapName one_signature_trap{u"write_signature_files", u"SignatureFile_Err"};
 inline constexpr TrapName text_signature_trap{u"write_signature_files", u"TextSignature_Err"};
 
-/// Writes the mail client's own signatures: from each HTML and each rich-text file in the folder of signatures
-/// one of the same kind, and a plain-text one from the settings alone. What was there before is replaced, file
-/// by file and each as a whole; one that can't be written is logged, and the others go on. The user is asked
-/// about the first error only.
+/// Writes the mail client's own signatures: from each HTML and each rich-text file in the folder of
+/// signatures one of the same kind, and a plain-text one from the settings alone. What was there before is
+/// replaced, file by file and each as a whole; one that can't be written is logged, and the others go on. The
+/// user is asked about the first error only.
 void write_signature_files(const settings::Store& settings, Files& files, const SystemInformation& machine,
                            diagnostics::ErrorReports& errors) noexcept;
 

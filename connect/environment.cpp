@@ -37,13 +37,13 @@ constexpr Change to_html[] = {{mail_2000, u"EditorPreference", html_editor},
                               {mail_2002, u"EditorPreference", html_editor}};
 constexpr Change word_to_html[] = {{mail_2000, u"EditorPreference", word_for_html, word_for_rich_text},
                                    {mail_2002, u"EditorPreference", word_for_html, word_for_rich_text}};
-constexpr Change spelling_on[] = {{spelling_2000, u"Check", 1},
-                                  {spelling_2002, u"Check", 1},
-                                  {spelling_2002, u"UseAutoCorrect", 1}};
+constexpr Change spelling_on[] = {
+    {spelling_2000, u"Check", 1}, {spelling_2002, u"Check", 1}, {spelling_2002, u"UseAutoCorrect", 1}};
 
 struct Switch {
     const SwitchKey& setting;
-    TextView recorded; ///< the first is spelled in another way than its setting; those who read logs know it so
+    TextView
+        recorded; ///< the first is spelled in another way than its setting; those who read logs know it so
     std::span<const Change> changes;
 };
 
@@ -120,10 +120,8 @@ void choose_whether_breaks_are_converted(Session& session) {
     Store& store = session.platform.settings;
     const auto& key = admin::WipeoutRemoveConvertedBR;
     if (store.find(key.section, key.name)) return;
-    attempt([&] {
-        const Text version = session.host.oHostApp.version();
-        if (!version.empty() && numeric_value(version) < first_without) save(store, key, on);
-    });
+    const Text version = session.host.oHostApp.version();
+    if (!version.empty() && numeric_value(version) < first_without) save(store, key, on);
 }
 
 void write_reset_file(Session& session, const Text& path) {
@@ -138,9 +136,9 @@ void prepare_environment(Session& session) noexcept {
     const bool for_this_user = import_when_there(session, u"NewUser.reg");
     const bool for_all = import_when_there(session, u"DefaultUser.reg");
     if (for_this_user || for_all) make_user_folders(session);
-    for (const Switch& a_switch : switches) flip(session, a_switch);
-    remove_stationery(session);
-    choose_whether_breaks_are_converted(session);
+    for (const Switch& a_switch : switches) attempt([&] { flip(session, a_switch); });
+    attempt([&] { remove_stationery(session); });
+    attempt([&] { choose_whether_breaks_are_converted(session); });
 }
 
 void reset_host_signatures(Session& session) noexcept {

@@ -14,8 +14,7 @@ struct Kept {
 std::shared_ptr<forms::frmSysTray> make_form(Session& session) {
     const Platform& platform = session.platform;
     const auto keep = [&session]() -> std::shared_ptr<void> {
-        const auto& keep_add_in = session.platform.keep;
-        return std::make_shared<Kept>(Kept{keep_add_in ? keep_add_in() : nullptr, session.tray_form});
+        return std::make_shared<Kept>(Kept{session.platform.kept(), session.tray_form});
     };
     return std::make_shared<forms::frmSysTray>(forms::frmSysTray::Needs{
         platform.settings, platform.windows, *platform.tray, platform.strings, platform.machine,

@@ -114,9 +114,12 @@ void frmSysTray::Form_Unload() { needs_.tray.hide(); }
 
 void frmSysTray::Picture1_MouseMove(int message) noexcept {
     if (message != right_button_released || open_) return;
-    const std::shared_ptr<void> kept = needs_.keep ? needs_.keep() : nullptr;
-    const Flag open(open_);
-    trap(needs_.errors, tray_trap, [&] { pop_up(); });
+    std::shared_ptr<void> kept;
+    trap(needs_.errors, tray_trap, [&] {
+        if (needs_.keep) kept = needs_.keep();
+        const Flag open(open_);
+        pop_up();
+    });
 }
 
 void frmSysTray::pop_up() {
@@ -161,8 +164,9 @@ void frmSysTray::flip(std::size_t number) {
     if (!needs_.windows.ask(toggle.title, question)) return;
     save(needs_.settings, toggle.key, was_on ? off : on);
     if (was_on || &toggle.key != &admin::WipeOutFileCompare) return;
-    needs_.windows.inform(u"Admin File Compare", u"Check the " + needs_.addin_folder +
-                                                     u" directory for files beforetext.txt and aftertext.txt");
+    needs_.windows.inform(u"Admin File Compare",
+                          u"Check the " + needs_.addin_folder +
+                              u" directory for files beforetext.txt and aftertext.txt");
 }
 
 void frmSysTray::mnSignature_Click() {
@@ -173,9 +177,9 @@ void frmSysTray::mnSignature_Click() {
 }
 
 void frmSysTray::mnTemplate_Click() {
-    const auto name = ask_for_text(needs_.windows, u"Template File Name",
-                                   u"What is the name of the default template file?",
-                                   read(needs_.settings, user::Template, u""));
+    const auto name =
+        ask_for_text(needs_.windows, u"Template File Name", u"What is the name of the default template file?",
+                     read(needs_.settings, user::Template, u""));
     if (name && !name->empty()) save(needs_.settings, user::Template, *name);
 }
 
@@ -184,9 +188,9 @@ void frmSysTray::mnSupport_Click() {
                                    u"Add a note to describe your problem briefly", {});
     if (!note) return;
     needs_.errors.take(u"Notified by user- " + *note, {u"Systray option", u"UserRequest"});
-    needs_.windows.inform(u"Brevant support request", u"An email message has been sent to Brevant support." +
-                                                          Text(line_end) +
-                                                          u"Brevant support will contact you as soon as possible.");
+    needs_.windows.inform(u"Brevant support request",
+                          u"An email message has been sent to Brevant support." + Text(line_end) +
+                              u"Brevant support will contact you as soon as possible.");
 }
 
 std::optional<Text> tray_caption(TextView key) {

@@ -29,8 +29,8 @@ public:
         diagnostics::ErrorReports& errors;
         const host::Application& application; ///< the mail client; may hold nothing
         Text addin_folder;
-        /// Keeps all of the above and this form for as long as the result lives: the mail client may end while
-        /// the menu or a box is open.
+        /// Keeps all of the above and this form for as long as the result lives: the mail client may end
+        /// while the menu or a box is open.
         std::function<std::shared_ptr<void>()> keep;
     };
     /// The needs outlive it.

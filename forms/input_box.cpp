@@ -42,7 +42,8 @@ std::optional<Text> ask_for_text(Windows& windows, TextView title, TextView prom
     std::optional<Text> answer;
     Form form({.name = Text(input_box_name), .caption = Text(title)}, designed_controls(prompt, prefilled));
     form.make_room(room);
-    form.topmost = true; // no window of the mail client may be active when the user chose from the tray's menu
+    form.topmost =
+        true; // no window of the mail client may be active when the user chose from the tray's menu
     form.on(input_box_ok, Event::click, [&] {
         answer = form[input_box_answer].text;
         form.unload();

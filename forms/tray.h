@@ -8,8 +8,8 @@
 
 namespace ornavel::forms {
 
-/// One entry of a pop-up menu; without a caption it is the line between two groups. In the caption a "&" marks
-/// the access key.
+/// One entry of a pop-up menu; without a caption it is the line between two groups. In the caption a "&"
+/// marks the access key.
 struct MenuEntry {
     Text caption{};
     bool ticked = false;

@@ -81,8 +81,10 @@ void NotificationIcon::put(DWORD what) const {
 LRESULT CALLBACK NotificationIcon::procedure(HWND window, UINT message, WPARAM word, LPARAM pointer) {
     auto* const self = reinterpret_cast<NotificationIcon*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message == icon_message) {
-        const auto handler = self->handler_; // the icon may go while it is at work
-        handler(static_cast<int>(pointer));
+        attempt([&] {
+            const auto handler = self->handler_; // the icon may go while it is at work
+            handler(static_cast<int>(pointer));
+        });
         return 0;
     }
     if (message == taskbar_created()) self->put(NIM_ADD);

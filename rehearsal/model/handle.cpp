@@ -1,6 +1,7 @@
 #include "rehearsal/model/handle.h"
 
 #include "rehearsal/model/mail_client.h"
+#include "rehearsal/turn.h"
 
 #include <algorithm>
 
@@ -66,6 +67,7 @@ Handle::Target Handle::find(TextView member) const {
 }
 
 Value Handle::get(host::Member member, const Arguments& arguments) {
+    const MachinesTurn turn;
     const Target target = find(member.name);
     check_count(target.row, arguments);
     Value value = client_.given(target.row.read({client_, target.node, arguments, *node_}));
@@ -74,6 +76,7 @@ Value Handle::get(host::Member member, const Arguments& arguments) {
 }
 
 void Handle::put(host::Member member, const Value& value) {
+    const MachinesTurn turn;
     const Target target = find(member.name);
     if (!target.row.write) throw host::Error(u"Object doesn't support this property or method");
     client_.journal().note(Deed::put, target.name, shown(value));
@@ -81,6 +84,7 @@ void Handle::put(host::Member member, const Value& value) {
 }
 
 Value Handle::call(host::Member member, const Arguments& arguments) {
+    const MachinesTurn turn;
     const Target target = find(member.name);
     check_count(target.row, arguments);
     client_.journal().note(Deed::call, target.name, shown(arguments));
@@ -88,6 +92,7 @@ Value Handle::call(host::Member member, const Arguments& arguments) {
 }
 
 host::Subscription Handle::advise(host::EventSource source, host::EventHandler handler) {
+    const MachinesTurn turn;
     if (node_->what().events != source)
         throw host::Error(u"Object or class does not support the set of events");
     struct Counted {
@@ -121,6 +126,7 @@ void raise_event(MailClient& client, Node& node, TextView event, std::span<Value
         const auto listener = entry.lock();
         if (!listener) continue;
         client.journal().note(Deed::event, Text(node.what().name) + u'.' + Text(event));
+        const AddInsTurn turn;
         listener->handler(event, arguments);
     }
 }

@@ -5,6 +5,7 @@
 #include "rehearsal/model/file_system.h"
 #include "rehearsal/model/handle.h"
 #include "rehearsal/model/registry_provider.h"
+#include "rehearsal/turn.h"
 
 #include <algorithm>
 
@@ -51,6 +52,7 @@ MailClient::MailClient(const Scenario& scenario, Machine& machine, Failures& fai
 }
 
 host::ObjectPtr MailClient::create(TextView prog_id) {
+    const MachinesTurn turn;
     journal_.note(Deed::call, u"CreateObject", prog_id);
     failures_.use(Failing::Kind::creation, prog_id);
     const auto entry =
@@ -62,6 +64,7 @@ host::ObjectPtr MailClient::create(TextView prog_id) {
 }
 
 host::ObjectPtr MailClient::get(TextView moniker) {
+    const MachinesTurn turn;
     journal_.note(Deed::call, u"GetObject", moniker);
     failures_.use(Failing::Kind::creation, moniker);
     const bool provider =
@@ -86,7 +89,22 @@ bool MailClient::send(MailItemNode& item) {
     raise_event(*this, *application_, u"ItemSend", arguments);
     item.cancelled = host::as_flag(arguments[1]);
     item.sent = !item.cancelled;
+    if (item.sent && open_document_ == &item) close_documents(); // the message's window goes with its editor
     return item.cancelled;
+}
+
+void MailClient::open_document(const MailItemNode& item, const Text& path, const std::string& text) {
+    if (open_document_ && open_document_ != &item)
+        throw host::Error(u"Word cannot give a document the same name as an open document");
+    machine_.let_go();
+    machine_.files().write(path, text);
+    machine_.hold(path);
+    open_document_ = &item;
+}
+
+void MailClient::close_documents() {
+    machine_.let_go();
+    open_document_ = nullptr;
 }
 
 void MailClient::send_silently(MailItemNode& item) {

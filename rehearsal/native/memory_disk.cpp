@@ -1,5 +1,7 @@
 #include "rehearsal/native/memory_disk.h"
 
+#include "rehearsal/turn.h"
+
 #include "base/errors.h"
 
 namespace ornavel::rehearsal {
@@ -50,6 +52,14 @@ std::vector<Text> MemoryDisk::list(TextView folder) const {
     return names;
 }
 
+std::vector<Text> MemoryDisk::list_folders(TextView folder) const {
+    std::vector<Text> names;
+    const Text wanted = without_end(folder);
+    for (const auto& path : folders_)
+        if (same_name(parent_of(path), wanted)) names.push_back(path.substr(parent_of(path).size() + 1));
+    return names;
+}
+
 /// In the words that the system has for it, too.
 void MemoryDisk::fail_to_find(TextView path) const {
     fail(path, folder_exists(parent_of(plain_path(path))) ? u"File not found." : u"Path not found.");
@@ -61,8 +71,13 @@ std::string MemoryDisk::read(TextView path) const {
     return file->second;
 }
 
+void MemoryDisk::require_free(TextView path) const {
+    if (held_.contains(plain_path(path))) fail(path, u"Sharing violation.");
+}
+
 std::string& MemoryDisk::open_for_writing(TextView path) {
     const Text plain = plain_path(path);
+    require_free(path);
     if (folder_exists(plain)) fail(path, u"Access denied.");
     if (!folder_exists(parent_of(plain))) fail(path, u"Path not found.");
     return files_.try_emplace(plain).first->second;
@@ -75,6 +90,7 @@ void MemoryDisk::append(TextView path, std::string_view bytes) { open_for_writin
 void MemoryDisk::remove(TextView path) {
     const auto file = files_.find(plain_path(path));
     if (file == files_.end()) fail_to_find(path);
+    require_free(path);
     files_.erase(file);
 }
 
@@ -94,30 +110,61 @@ void MemoryDisk::create_folder(TextView path) {
 void MemoryDisk::remove_folder(TextView path) {
     const Text folder = without_end(path);
     if (!folders_.contains(folder)) fail(path, u"Path not found.");
+    for (const auto& file : held_)
+        if (is_below(file, folder)) require_free(file);
     std::erase_if(files_, [&](const auto& file) { return is_below(file.first, folder); });
     std::erase_if(folders_,
                   [&](const auto& other) { return same_name(other, folder) || is_below(other, folder); });
 }
 
+bool RehearsedDisk::file_exists(TextView path) const {
+    const MachinesTurn turn;
+    return disk_.file_exists(path);
+}
+
+bool RehearsedDisk::folder_exists(TextView path) const {
+    const MachinesTurn turn;
+    return disk_.folder_exists(path);
+}
+
+std::vector<Text> RehearsedDisk::list(TextView folder) const {
+    const MachinesTurn turn;
+    return disk_.list(folder);
+}
+
+std::vector<Text> RehearsedDisk::list_folders(TextView folder) const {
+    const MachinesTurn turn;
+    return disk_.list_folders(folder);
+}
+
+void RehearsedDisk::create_folder(TextView path) {
+    const MachinesTurn turn;
+    disk_.create_folder(path);
+}
+
 std::string RehearsedDisk::read(TextView path) const {
+    const MachinesTurn turn;
     journal_.note(Deed::read_file, Text(path));
     failures_.use(Failing::Kind::read_file, plain_path(path));
     return failures_.given(disk_.read(path));
 }
 
 void RehearsedDisk::write(TextView path, std::string_view bytes) {
+    const MachinesTurn turn;
     journal_.note(Deed::write_file, Text(path));
     failures_.use(Failing::Kind::write_file, plain_path(path));
     disk_.write(path, bytes);
 }
 
 void RehearsedDisk::append(TextView path, std::string_view bytes) {
+    const MachinesTurn turn;
     journal_.note(Deed::write_file, Text(path));
     failures_.use(Failing::Kind::write_file, plain_path(path));
     disk_.append(path, bytes);
 }
 
 void RehearsedDisk::remove(TextView path) {
+    const MachinesTurn turn;
     journal_.note(Deed::delete_file, Text(path));
     failures_.use(Failing::Kind::delete_file, plain_path(path));
     disk_.remove(path);
@@ -125,12 +172,14 @@ void RehearsedDisk::remove(TextView path) {
 
 /// What is put in place counts as a file that is written there.
 void RehearsedDisk::move(TextView from, TextView to) {
+    const MachinesTurn turn;
     journal_.note(Deed::write_file, Text(to));
     failures_.use(Failing::Kind::write_file, plain_path(to));
     disk_.move(from, to);
 }
 
 void RehearsedDisk::remove_folder(TextView path) {
+    const MachinesTurn turn;
     journal_.note(Deed::delete_file, Text(path));
     failures_.use(Failing::Kind::delete_file, plain_path(path));
     disk_.remove_folder(path);

@@ -9,6 +9,7 @@
 #include "rehearsal/menu_act.h"
 #include "rehearsal/native/form_player.h"
 #include "rehearsal/native/watching.h"
+#include "rehearsal/turn.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -23,6 +24,14 @@ TextView recorded_program(TextView program) {
     return same_name(name, u"regedit.exe") || same_name(name, u"regedit") ? name : program;
 }
 
+/// As the Wine binding has it.
+Named<Text> environment_of(const Computer& computer) {
+    return {{u"APPDATA", application_data(computer)},
+            {u"ProgramFiles", u"C:\\Program Files"},
+            {u"SystemDrive", u"C:"},
+            {u"SystemRoot", u"C:\\windows"}};
+}
+
 const char* state_name(WindowState state) {
     if (state == WindowState::minimised) return "minimised";
     return state == WindowState::hidden ? "hidden" : "normal";
@@ -33,8 +42,8 @@ const char* state_name(WindowState state) {
 MemoryMachine::MemoryMachine(const Scenario& scenario, const std::string& source, Failures& failures,
                              Journal& journal)
     : failures_(failures), journal_(journal), user_(scenario.user, source), computer_(scenario.computer),
-      now_(scenario.clock), rehearsed_settings_(settings_, failures, journal),
-      rehearsed_disk_(disk_, failures, journal) {}
+      now_(scenario.clock), settings_(environment_of(scenario.computer)),
+      rehearsed_settings_(settings_, failures, journal), rehearsed_disk_(disk_, failures, journal) {}
 
 void MemoryMachine::prepare(const Scenario& scenario) {
     disk_.create_folder(scenario.computer.addin_folder);
@@ -52,8 +61,7 @@ void MemoryMachine::prepare(const Scenario& scenario) {
 
 Snapshot MemoryMachine::snapshot() const {
     Snapshot snapshot;
-    for (const auto& [section, keys] : settings_.sections())
-        for (const auto& [key, value] : keys) snapshot.settings[section][key] = value;
+    snapshot.settings = settings_.sections();
     snapshot.files = disk_.files();
     snapshot.folders = disk_.folders();
     snapshot.registry = registry_.keys();
@@ -88,6 +96,7 @@ bool MemoryMachine::tray(const Act& act) {
 }
 
 void MemoryMachine::launch(TextView program, TextView arguments, WindowState window) {
+    const MachinesTurn turn;
     journal_.note(Deed::launch, Text(program), arguments);
     failures_.use(Failing::Kind::launch, file_name(program));
     launched_.push_back({{"program", to_json(recorded_program(program))},
@@ -96,6 +105,7 @@ void MemoryMachine::launch(TextView program, TextView arguments, WindowState win
 }
 
 Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
+    const MachinesTurn turn;
     journal_.note(Deed::window, Text(title), text);
     failures_.use(Failing::Kind::window, title);
     const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, buttons));
@@ -107,6 +117,7 @@ void MemoryMachine::show_modal(forms::Form& form) {
     form.load();
     if (!form.is_loaded()) return;
     const forms::Unloading at_the_end(form);
+    const MachinesTurn turn;
     failures_.use(Failing::Kind::window, form.name());
     if (form.name() == forms::input_box_name) return show_input_box(form);
     forms::place_on_screen(form, screen, {&screen, 1});
@@ -115,7 +126,10 @@ void MemoryMachine::show_modal(forms::Form& form) {
     windows_.push_back(form_record(form));
     const auto entry = user_.meet(form.name());
     if (entry) take_steps(user_, *entry, form);
-    attempt([&] { form.unload(); });
+    attempt([&] {
+        const AddInsTurn addins;
+        form.unload();
+    });
     windows_[place]["at close"] = changed_controls(windows_[place], form);
     if (!entry) windows_[place]["unexpected"] = true;
 }

@@ -14,7 +14,7 @@ constexpr std::string_view last_gate = "stamping";
 std::string given(const Story& story, TextView section, TextView key) {
     for (const auto& [name, values] : story.scenario.settings)
         for (const auto& [other, value] : values)
-            if (same_name(name, section) && same_name(other, key)) return to_utf8(value);
+            if (same_name(name, section) && same_name(other, key)) return to_utf8(stored_text(value));
     return {};
 }
 

@@ -34,6 +34,15 @@ public:
         return names;
     }
 
+    std::vector<Text> list_folders(TextView folder) const override {
+        std::vector<Text> names;
+        const Text prefix = Text(folder) + u"\\";
+        for (const auto& path : folders)
+            if (same_name(TextView(path).substr(0, prefix.size()), prefix))
+                names.push_back(path.substr(prefix.size()));
+        return names;
+    }
+
     std::string read(TextView path) const override {
         require_access(path);
         const auto found = contents.find(Text(path));
