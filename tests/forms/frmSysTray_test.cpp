@@ -1,5 +1,6 @@
 #include "forms/frmSysTray.h"
 
+#include "base/encoding.h"
 #include "tests/fakes/recording_reports.h"
 #include "tests/fakes/scripted_windows.h"
 
