@@ -52,12 +52,6 @@ std::vector<Text> names_in(TextView folder, Kind wanted) {
     return names;
 }
 
-/// Whether a folder is a name for another one.
-bool leads_elsewhere(TextView folder) {
-    const DWORD attributes = GetFileAttributesW(wide(folder).c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
-}
-
 /// The folder above, or an empty text for a drive and for a name without a folder.
 Text parent_of(TextView path) {
     const auto slash = path.find_last_of(u"\\/");
@@ -103,6 +97,16 @@ void WindowsFiles::create_folder(TextView path) {
     const Text parent = parent_of(path);
     if (!parent.empty()) create_folder(parent);
     if (!CreateDirectoryW(wide(path).c_str(), nullptr) && !folder_exists(path)) fail(path, GetLastError());
+}
+
+void WindowsFiles::move(TextView from, TextView to) {
+    if (!MoveFileExW(wide(from).c_str(), wide(to).c_str(), MOVEFILE_REPLACE_EXISTING))
+        fail(to, GetLastError());
+}
+
+bool WindowsFiles::leads_elsewhere(TextView folder) const {
+    const DWORD attributes = GetFileAttributesW(wide(folder).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
 }
 
 void WindowsFiles::remove_folder(TextView path) {
