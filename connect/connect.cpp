@@ -74,13 +74,13 @@ void Connect::OnStartupComplete() noexcept {
 void Connect::start_up() noexcept {
     Session& session = *session_;
     session.started = true;
-    // No catalogue can know where the add-in lies.
+    prepare_environment(session);
+    // Behind the imports, which may set them. No catalogue can know where the add-in lies.
     attempt([&] {
         session.start_up.application_path =
             read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
         session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);
     });
-    prepare_environment(session);
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
     attempt([&] { session.start_up.usage_log = compose::Get_Marketing_Info(session.platform.settings); });
