@@ -1,0 +1,22 @@
+#pragma once
+
+#include "base/errors.h"
+#include "base/launcher.h"
+
+#include <vector>
+
+namespace ornavel {
+
+/// Programs that are started on paper.
+class RecordingLauncher final : public Launcher {
+public:
+    bool fails = false;
+    std::vector<Text> programs;
+
+    void launch(TextView program, TextView, WindowState) override {
+        if (fails) throw Failure(u"rehearsed failure");
+        programs.emplace_back(program);
+    }
+};
+
+} // namespace ornavel
