@@ -11,8 +11,10 @@ using namespace settings;
 
 constexpr TextView button_tag = u"SendOptions";
 
-bool is_mode_on(const Session& session) {
-    return read(session.platform.settings, user::SettingButtonBar) == modes::on;
+bool is_mode_on(const Session& session) noexcept {
+    bool on = false;
+    attempt([&] { on = read(session.platform.settings, user::SettingButtonBar) == modes::on; });
+    return on;
 }
 
 /// A window may fail at each Activate: the first failure is written to the error log, and nobody is asked.
@@ -26,11 +28,8 @@ void log_once(Session& session, Body&& body) noexcept {
 
 /// The window may close, and its entry go, while the form is open.
 void SendOptions_Click(Session& session, const host::MessageWindow& window) noexcept {
-    std::shared_ptr<void> kept;
-    attempt([&] {
-        if (session.platform.keep) kept = session.platform.keep();
-        dress_by_hand(session, window.item());
-    });
+    const auto kept = session.platform.kept();
+    attempt([&] { dress_by_hand(session, window.item()); });
 }
 
 bool is_unsent_message(const host::MessageWindow& window) {

@@ -11,7 +11,7 @@ namespace {
 using namespace settings;
 
 /// From here on the current item is the wrapper, where there is one; without it the item itself serves.
-void wrap_current_item(Session& session) noexcept {
+void wrap_current_item(Session& session) {
     if (!is_on(session.platform.settings, admin::UseRedemption)) return;
     trap(session.errors, wrap_by_hand_trap, [&] {
         const auto wrapped = host::SafeMailItem::around(session.platform.objects, session.host.MyMessItem);
@@ -21,7 +21,7 @@ void wrap_current_item(Session& session) noexcept {
 }
 
 /// Whether the item is to be sent.
-bool ask(Session& session, bool& vcard_chosen) noexcept {
+bool ask(Session& session, bool& vcard_chosen) {
     return trap(session.errors, send_options_trap, [&] {
         const host::MailItem& item = session.host.MyMessItem;
         forms::BrevantUser form({.composing = session.composing,
