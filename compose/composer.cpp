@@ -101,7 +101,7 @@ std::vector<TrapName> traps() {
     for (const TextView place : {reply_cut, merge_group})
         all.push_back({any_step.sub_function, any_step.section, place});
     for (const TrapName& other :
-         {next_appointment_trap, next_quote_trap, boilerplate_trap, signature_file_trap,
+         {next_appointment_trap, next_quote_trap, next_tip_trap, boilerplate_trap, signature_file_trap,
           signature_folder_trap, one_signature_trap, text_signature_trap})
         all.push_back(other);
     return all;

@@ -32,6 +32,17 @@ Text quote_numbered(std::span<const Text> lines, long long number) {
     return {};
 }
 
+/// The quote whose turn it is; moves on to the next one.
+Text take_next_quote(Store& settings, const Files& files) {
+    const long long number = std::max<long long>(read_number(settings, system::LastTipNumber), first_quote);
+    const auto lines = lines_of(read_text(files, read(settings, admin::TipsFileLocation)));
+    const bool wraps = number > static_cast<long long>(lines.size()) - 1;
+    // A wrap-around carries no quote and goes on with 16, not 15. The number is kept in the store, where every
+    // version that the user has run counts on alike.
+    save(settings, system::LastTipNumber, to_text(wraps ? first_quote + 1 : number + 1));
+    return wraps ? Text() : quote_numbered(lines, number);
+}
+
 } // namespace
 
 Text next_appointment(const host::Application& application, const Clock& clock, ErrorSink& errors) noexcept {
@@ -50,16 +61,17 @@ Text next_appointment(const host::Application& application, const Clock& clock, 
 }
 
 void GetNextQuote(Store& settings, const Files& files, ErrorSink& errors) noexcept {
-    trap(errors, next_quote_trap, [&] {
-        const long long number =
-            std::max<long long>(read_number(settings, system::LastTipNumber), first_quote);
-        const auto lines = lines_of(read_text(files, read(settings, admin::TipsFileLocation)));
-        const bool wraps = number > static_cast<long long>(lines.size()) - 1;
-        // A wrap-around carries no quote and goes on with 16, not 15. The number is kept in the store, where
-        // every version that the user has run counts on alike.
-        save(settings, system::LastTipNumber, to_text(wraps ? first_quote + 1 : number + 1));
-        save(settings, user::SendQuoteString, wraps ? Text() : quote_numbered(lines, number));
+    trap(errors, next_quote_trap,
+         [&] { save(settings, user::SendQuoteString, take_next_quote(settings, files)); });
+}
+
+Text next_tip(Store& settings, const Files& files, ErrorSink& errors) noexcept {
+    Text tip;
+    trap(errors, next_tip_trap, [&] {
+        if (files.file_exists(read(settings, admin::TipsFileLocation)))
+            tip = take_next_quote(settings, files);
     });
+    return tip;
 }
 
 Text boilerplate_text(const Store& settings, const Files& files, TextView name, ErrorSink& errors) noexcept {

@@ -56,8 +56,6 @@ Verdict resend_from_sent_items(Send& send);
 Verdict personal_stationery(Send& send);
 
 // gates_reply.cpp
-inline constexpr TrapName version_trap{
-    u"ol_ItemSend", u"Error establishing the Outlook Version, MyVersion_err in OL_itemsend"};
 Verdict load_reply_marker(Send& send);
 Verdict reply_test(Send& send);
 
@@ -74,8 +72,9 @@ Verdict auto_preview(Send& send);
 
 // gates_compose.cpp: composition and stamping.
 
-/// The body that the item goes out with. The item itself is not changed.
-compose::Composed composed_body(Send& send, bool plain_text, compose::Purpose purpose);
+/// The body that the item goes out with, the boilerplate of this name in front. The item itself is not
+/// changed.
+compose::Composed composed_body(Send& send, bool plain_text, TextView boilerplate, compose::Purpose purpose);
 Verdict compose_body(Send& send);
 Verdict stamp(Send& send);
 

@@ -1,4 +1,5 @@
 #include "connect/gates.h"
+#include "connect/send_options.h"
 #include "connect/toolbar.h"
 #include "settings/modes.h"
 
@@ -15,13 +16,6 @@ Verdict refuse_without_default(Send& send, TextView prompt_mode) {
     return Verdict::leave;
 }
 
-void attach_selected_vcard(Send& send) {
-    const Text path = read(send.settings(), user::vCardPathSelected);
-    const bool wanted = send.session.dialog_answer && is_on(send.settings(), user::SendvCard) &&
-                        !path.empty() && send.preview.vcard_chosen;
-    if (wanted) send.sent.attachments().add(path);
-}
-
 } // namespace
 
 Verdict non_auto_branch(Send& send) {
@@ -31,7 +25,8 @@ Verdict non_auto_branch(Send& send) {
     // The item is the current one already, so a send-options form would find it.
     record_gate(send, u"Ornavel Dialog check OK");
     send.session.host.MyMessItem.release();
-    attach_selected_vcard(send);
+    if (send.session.dialog_answer)
+        attach_selected_vcard(send.settings(), send.sent, send.preview.vcard_chosen);
     record_gate(send, u"vCard Attach check OK");
     send.cancel = !send.session.dialog_answer;
     return Verdict::leave;

@@ -1,9 +1,12 @@
 #include "connect/send_pipeline.h"
 
+#include "connect/current_item.h"
 #include "connect/gates.h"
+#include "connect/message_windows.h"
+#include "connect/replies.h"
+#include "connect/send_options.h"
 
 #include <array>
-#include <utility>
 
 namespace ornavel::connect {
 namespace {
@@ -47,26 +50,6 @@ constexpr Gate gates[] = {
     {u"stamping", stamp, {}},
 };
 
-/// Makes the item the current one. On every way out the outer send, where there is one, finds its own item
-/// again, and the processed flag that it left: a send inside it may have been refused.
-class CurrentItem {
-public:
-    CurrentItem(Session& session, const host::MailItem& item)
-        : session_(session), outer_(std::exchange(session.host.MyMessItem, item)),
-          processed_(session.processed) {}
-    ~CurrentItem() {
-        if (outer_) session_.processed = processed_;
-        session_.host.MyMessItem = std::move(outer_);
-    }
-    CurrentItem(const CurrentItem&) = delete;
-    CurrentItem& operator=(const CurrentItem&) = delete;
-
-private:
-    Session& session_;
-    host::MailItem outer_;
-    bool processed_;
-};
-
 constexpr TrapName trap_of(TextView gate) { return {u"ol_ItemSend", gate}; }
 
 bool passes(const Gate& gate, Send& send) noexcept {
@@ -97,7 +80,8 @@ std::vector<TextView> gate_names() {
 }
 
 std::vector<TrapName> traps() {
-    std::vector<TrapName> all{version_trap};
+    std::vector<TrapName> all{version_trap, message_windows_trap, window_button_trap, send_options_trap,
+                              vcard_trap,   send_by_hand_trap,    wrap_by_hand_trap};
     for (const Gate& gate : gates) all.push_back(trap_of(gate.name));
     return all;
 }

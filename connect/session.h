@@ -8,7 +8,17 @@
 #include "forms/frmSysTray.h"
 #include "host/application.h"
 
+#include <list>
+
 namespace ornavel::connect {
+
+/// A message's window, and the button that the add-in put on its toolbar.
+struct WatchedWindow {
+    host::MessageWindow window;
+    bool activated = false; ///< before that its toolbars may be missing
+    host::CommandBarButton button{};
+    host::Subscription window_events{}, button_events{};
+};
 
 /// Every reference to a host object, and the subscriptions to its events, in one place, so that VarCleanup
 /// can let all of them go.
@@ -21,9 +31,12 @@ struct HostReferences {
     host::CommandBarButton MyButtonConfigWiz;
     host::MailItem MyMessItem; ///< the current item: the one being sent, or its wrapper
 
+    std::list<WatchedWindow> message_windows;
+
     host::Subscription application_events;
     host::Subscription explorers_events;
     host::Subscription explorer_events;
+    host::Subscription message_windows_events;
     host::Subscription mode_button_events;
     host::Subscription setup_button_events;
 };
@@ -56,6 +69,8 @@ struct Session {
     bool processed = false;
     bool internal = false;
     bool dialog_answer = true; ///< the send-options form's answer
+    bool sent_to_many = false; ///< another program reads the preview's page
+    bool button_failure_logged = false;
     Text language;
     std::shared_ptr<forms::frmSysTray> tray_form; ///< while the administrator's icon is shown
 };
