@@ -4,6 +4,8 @@
 #include "connect/session.h"
 #include "settings/modes.h"
 
+#include <utility>
+
 namespace ornavel::connect {
 namespace {
 
@@ -102,9 +104,12 @@ void remove_all(Session& session) noexcept {
 void watch_message_windows(Session& session) noexcept {
     trap(session.quiet_errors, message_windows_trap, [&] {
         const host::MessageWindows windows = session.host.oHostApp.message_windows();
-        session.host.message_windows_events = windows.on_new([&session](host::MessageWindow window) {
+        host::Subscription events = windows.on_new([&session](host::MessageWindow window) {
             log_once(session, [&] { watch(session, std::move(window)); });
         });
+        // A mail client may stop telling of new windows when nobody holds their collection.
+        session.host.message_windows_events =
+            std::make_shared<std::pair<host::MessageWindows, host::Subscription>>(windows, std::move(events));
         watch_open_windows(session, windows);
     });
 }
