@@ -78,10 +78,7 @@ void Connect::OnStartupComplete() noexcept {
 void Connect::start_up() noexcept {
     Session& session = *session_;
     session.started = true;
-    // No catalogue can know where the add-in lies.
-    session.start_up.application_path =
-        read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
-    session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);
+    read_working_folders(session);
     prepare_environment(session);
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
