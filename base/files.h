@@ -18,6 +18,8 @@ public:
     /// Names of the files of a folder, without their folder, in case-insensitive alphabetical order. A
     /// missing folder has none.
     virtual std::vector<Text> list(TextView folder) const = 0;
+    /// The same for the folders in it.
+    virtual std::vector<Text> list_folders(TextView folder) const = 0;
 
     virtual std::string read(TextView path) const = 0;
     /// Creates the file or replaces what it held.
@@ -28,6 +30,8 @@ public:
 
     /// Creates the folder and those above it that are missing.
     virtual void create_folder(TextView path) = 0;
+    /// With everything in it. What a folder that leads elsewhere leads to stays.
+    virtual void remove_folder(TextView path) = 0;
 
     /// The machine's ANSI code page.
     virtual const CodePage& ansi() const = 0;

@@ -10,7 +10,8 @@ enum class WindowState { normal, minimised, hidden };
 class Launcher {
 public:
     virtual ~Launcher() = default;
-    /// Starts a program by its full path, without waiting for it. Throws Failure when it can't be started.
+    /// Starts a program by its full path, in its own folder, without waiting for it. Throws Failure when it
+    /// can't be started.
     virtual void launch(TextView program, TextView arguments, WindowState window) = 0;
 };
 

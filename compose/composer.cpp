@@ -86,6 +86,22 @@ private:
     std::vector<Text> before_;
 };
 
+Composed compose(const Services& services, Request request) {
+    AskingErrors errors(services.errors, services.boxes);
+    Composition composition{services, request, errors, std::move(request.source),
+                            std::move(request.template_path)};
+    composition.log_usage = services.start_up.usage_log.enabled;
+    for (const Step& step : steps) {
+        const Watch watch(composition);
+        const bool through = trap(errors, step.own_trap(), [&] { step.run(composition); });
+        watch.tell(step.name);
+        if (!through && step.failing == Failing::loses_text) return {Outcome::failed};
+        // A question that could not be put has refused nothing.
+        if (composition.refused) return {Outcome::refused, std::move(composition.result)};
+    }
+    return {Outcome::composed, std::move(composition.result)};
+}
+
 } // namespace
 
 void AskingErrors::take(TextView description, TrapName trap) noexcept {
@@ -105,18 +121,9 @@ Text path_or_first_of(const Composition& c, const Text& path, const settings::Pa
 }
 
 Composed CreateHTMLBody(const Services& services, Request request) noexcept {
-    AskingErrors errors(services.errors, services.boxes);
-    Composition composition{services, request, errors, std::move(request.source), request.template_path};
-    composition.log_usage = services.start_up.usage_log.enabled;
-    for (const Step& step : steps) {
-        const Watch watch(composition);
-        const bool through = trap(errors, step.own_trap(), [&] { step.run(composition); });
-        attempt([&] { watch.tell(step.name); });
-        if (!through && step.failing == Failing::loses_text) return {Outcome::failed};
-        // A question that could not be put has refused nothing.
-        if (composition.refused) return {Outcome::refused, std::move(composition.result)};
-    }
-    return {Outcome::composed, std::move(composition.result)};
+    Composed composed{Outcome::failed};
+    attempt([&] { composed = compose(services, std::move(request)); });
+    return composed;
 }
 
 std::vector<TrapName> traps() {

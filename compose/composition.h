@@ -23,7 +23,7 @@ struct Composition {
     const Request& request;
     AskingErrors& errors;
     Text message;       ///< what the user wrote, until it is poured into the template
-    Text template_path; ///< of the template that is there
+    Text template_path; ///< as it was asked for, then of the template that is there
 
     bool is_html = true; ///< the item has an HTML body
     bool is_word_mail = false;
@@ -33,8 +33,8 @@ struct Composition {
     Text quoted{};            ///< on a reply: the earlier message
     bool small_quote = false; ///< the earlier message stands in small letters
     Text signature_name{};
-    Text template_text{};
-    std::size_t marker = 0; ///< where the message goes in the template
+    Text template_text{insertion_marker}; ///< one that can't be read loses nothing: the message stands alone
+    std::size_t marker = 0;               ///< where the message goes in the template
     Text result{};
     bool refused = false; ///< the template's script was: nothing else runs
     bool log_usage = false;

@@ -36,8 +36,6 @@ void append_signature(Composition& c) {
 }
 
 void read_template(Composition& c) {
-    // A template that can't be read loses nothing: the message stands alone.
-    c.template_text = insertion_marker;
     c.template_text = read_lines(c.services.files, c.template_path, line_end);
 }
 

@@ -1,6 +1,7 @@
 #include "base/find.h"
 #include "compose/composition.h"
 #include "compose/filters.h"
+#include "compose/word_file.h"
 
 // Where the text comes from: the item's HTML, Word's document, or plain text; and on a reply, where it ends.
 
@@ -35,6 +36,19 @@ void cut_at_marker(Composition& c) {
     c.new_text = std::move(c.message);
 }
 
+/// What an earlier message left behind is never read as this one. A version that saves in no format leaves no
+/// file, and reading it fails. The editor may still hold the file of an earlier composition: it then writes
+/// it anew.
+void save_document(const host::WordDocument& document, Files& files, const Text& path) {
+    const auto format = format_for(document.word_version());
+    const auto remove = [&] {
+        if (files.file_exists(path)) files.remove(path);
+    };
+    if (!format) return remove();
+    attempt(remove);
+    document.save_as(path, *format);
+}
+
 } // namespace
 
 void look_at_item(Composition& c) {
@@ -47,17 +61,14 @@ void look_at_item(Composition& c) {
 
 void read_Word_document(Composition& c) {
     if (!c.is_word_mail) return;
-    const Text path = c.services.start_up.application_path + u"\\GetMyHtml.htm";
-    // What an earlier message left behind is never read as this one.
-    if (c.services.files.file_exists(path)) c.services.files.remove(path);
+    const Text& folder = c.services.start_up.application_path;
     const host::WordDocument document = c.request.item.inspector().word_editor();
     document.copy_content_to_clipboard();
-    // A version that saves in no format leaves no file, and reading it fails into this step's trap.
-    if (const auto format = format_for(document.word_version())) document.save_as(path, *format);
-    Text text = read_lines(c.services.files, path, u" ");
+    save_document(document, c.services.files, word_file(folder));
+    Text text = read_lines(c.services.files, word_file(folder), u" ");
     break_image_tags(text);
     c.message = std::move(text);
-    c.services.files.remove(path);
+    remove_word_file(c.services.files, folder);
 }
 
 void link_addresses(Composition& c) {

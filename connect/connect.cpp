@@ -56,15 +56,11 @@ void Connect::OnConnection(host::Application application, int mode) noexcept {
 /// Without its events the add-in is dead: the log tells, and nobody is asked.
 void Connect::subscribe() noexcept {
     Session& session = *session_;
-    const auto keep = [this] {
-        const auto& keep_add_in = session_->platform.keep;
-        return keep_add_in ? keep_add_in() : nullptr;
-    };
     trap(session.quiet_errors, {u"OnConnection", u"Error hooking the mail client's events"}, [&] {
         session.host.application_events = session.host.oHostApp.on_events(
             {.item_send =
-                 [this, keep](const host::MailItem& item, bool& cancel) {
-                     const std::shared_ptr<void> kept = keep();
+                 [this](const host::MailItem& item, bool& cancel) {
+                     const auto kept = session_->platform.kept();
                      ol_ItemSend(*session_, item, cancel);
                  },
              .options_pages_add = [this](const host::PropertyPages& pages) { OptionsPagesAdd(pages); }});
@@ -78,7 +74,7 @@ void Connect::OnStartupComplete() noexcept {
 void Connect::start_up() noexcept {
     Session& session = *session_;
     session.started = true;
-    read_working_folders(session);
+    attempt([&] { read_working_folders(session); });
     prepare_environment(session);
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
@@ -138,12 +134,16 @@ void Connect::hook(host::Explorer explorer) {
     host.myActiveExplorer = std::move(explorer);
     if (!host.myActiveExplorer) return;
     trap(session_->quiet_errors, {u"OnConnection", u"Error hooking the explorer"}, [&] {
-        host.explorer_events = host.myActiveExplorer.on_close([this] { myActiveExplorer_Close(); });
+        host.explorer_events = host.myActiveExplorer.on_close([this] {
+            const auto kept = session_->platform.kept();
+            myActiveExplorer_Close();
+        });
     });
 }
 
 void Connect::NewExplorer(const host::Explorer& explorer) noexcept {
     Session& session = *session_;
+    const auto kept = session.platform.kept();
     session.host.explorers_events.reset();
     attempt([&] { hook(explorer); });
     if (session.started) add_buttons(session);
@@ -154,7 +154,9 @@ void Connect::myActiveExplorer_Close() noexcept {
     record(session, u"Fired", u"", u"MyActiveExplorer sub");
     const auto count = explorer_count(session);
     if (count && *count < 2) {
-        record(session, u"Calling Varcleanup", u"", u"Explorer count <= 1 (Count is " + to_text(*count));
+        attempt([&] {
+            record(session, u"Calling Varcleanup", u"", u"Explorer count <= 1 (Count is " + to_text(*count));
+        });
         VarCleanup();
     } else {
         attempt([&] { hook(another_than(session.host.myActiveExplorer, session.host.oHostApp)); });

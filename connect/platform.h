@@ -30,8 +30,10 @@ struct Platform {
     /// The folder among the user's application data where folders may be made; empty where none is known.
     Text user_folder = {};
     /// Keeps the add-in and its machine for as long as the result lives: the mail client may let go of them
-    /// while a send waits for the user. Empty where they outlive every send anyway.
+    /// in the middle of an event, while a window waits for the user. Empty where they outlive every event
+    /// anyway.
     std::function<std::shared_ptr<void>()> keep = {};
+    std::shared_ptr<void> kept() const { return keep ? keep() : nullptr; }
     /// Told each gate that a send reaches with what it answered, and each trap that is sprung; empty where
     /// nobody watches.
     std::function<void(TextView gate, Verdict)> on_gate = {};

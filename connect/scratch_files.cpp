@@ -1,5 +1,7 @@
 #include "connect/scratch_files.h"
 
+#include "compose/word_file.h"
+
 namespace ornavel::connect {
 namespace {
 
@@ -20,8 +22,9 @@ void remove_scratch_files(Session& session) noexcept {
     attempt([&] {
         if (is_on(session.platform.settings, settings::admin::WipeOutFileCompare)) return;
         remove(session.platform.files, preview_page(session));
-        for (const TextView name : {u"beforetext.txt", u"aftertext.txt", u"GetMyHtml.htm"})
+        for (const TextView name : {u"beforetext.txt", u"aftertext.txt"})
             remove(session.platform.files, session.start_up.application_path + u"\\" + Text(name));
+        compose::remove_word_file(session.platform.files, session.start_up.application_path);
     });
 }
 

@@ -15,8 +15,10 @@ bool start_setup_program(Session& session) noexcept {
 
 void start_setup_program_when_due(Session& session) noexcept {
     Store& store = session.platform.settings;
-    const bool identity_missing =
-        read(store, admin::SigEmail).empty() || read(store, admin::SigWebsite).empty();
+    bool identity_missing = false;
+    attempt([&] {
+        identity_missing = read(store, admin::SigEmail).empty() || read(store, admin::SigWebsite).empty();
+    });
     if (!identity_missing && !is_on(store, admin::StartupSetupWiz)) return;
     if (start_setup_program(session)) record(session, u"Calling Setup Wiz", u"", u"On Connection");
     save(store, admin::StartupSetupWiz, off);

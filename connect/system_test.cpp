@@ -12,7 +12,7 @@ void send_system_report(Session& session) {
     const Store& store = session.platform.settings;
     host::SafeMailItem mail =
         host::SafeMailItem::around(session.platform.objects, session.host.oHostApp.create_mail());
-    attempt([&] { mail.recipients().add(read(store, admin::EmailAddressNotify)); });
+    attempt([&] { mail.recipients().add(read(store, admin::EmailAddressNotify)).resolve(); });
     attempt([&] { mail.set_subject(u"System test - file report"); });
     attempt([&] { mail.set_html_body(u"Report sent from session startup"); });
     attempt([&] { mail.attachments().add(read(store, admin::ErrorFileLocation)); });

@@ -57,8 +57,10 @@ void add_setup_button(Session& session) {
         forms::load_text(session.platform.strings, forms::text_ids::ornavel_setup));
     host.MyButtonConfigWiz.show_face_and_caption(setup_face);
     trap(session.quiet_errors, {u"OnStartupComplete", u"Error hooking the setup button"}, [&] {
-        host.setup_button_events =
-            host.MyButtonConfigWiz.on_click([&session] { start_setup_program(session); });
+        host.setup_button_events = host.MyButtonConfigWiz.on_click([&session] {
+            const auto kept = session.platform.kept();
+            start_setup_program(session);
+        });
     });
 }
 
@@ -69,8 +71,10 @@ void add_mode_button(Session& session) {
     host.myButtonSetting.set_caption(
         caption_of_mode(session, read(session.platform.settings, user::SettingButtonBar)));
     trap(session.quiet_errors, {u"OnStartupComplete", u"Error hooking the mode button"}, [&] {
-        host.mode_button_events =
-            host.myButtonSetting.on_click([&session] { myButtonSetting_Click(session); });
+        host.mode_button_events = host.myButtonSetting.on_click([&session] {
+            const auto kept = session.platform.kept();
+            myButtonSetting_Click(session);
+        });
     });
 }
 

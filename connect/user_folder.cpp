@@ -16,21 +16,19 @@ bool is_in(TextView folder, TextView own) {
            (folder.size() == own.size() || folder[own.size()] == u'\\') && !contains(folder, u"..");
 }
 
-void make(Session& session, TextView folder) noexcept {
-    attempt([&] {
-        Files& files = session.platform.files;
-        if (is_in(folder, session.platform.user_folder) && !files.folder_exists(folder))
-            files.create_folder(folder);
-    });
+void make(Session& session, TextView folder) {
+    Files& files = session.platform.files;
+    if (is_in(folder, session.platform.user_folder) && !files.folder_exists(folder))
+        files.create_folder(folder);
 }
 
 } // namespace
 
 void make_user_folders(Session& session) noexcept {
     const Store& settings = session.platform.settings;
-    make(session, read(settings, admin::ApplicationPath));
-    make(session, read(settings, admin::BrowserPath));
-    make(session, folder_of(read(settings, admin::ErrorFileLocation)));
+    attempt([&] { make(session, read(settings, admin::ApplicationPath)); });
+    attempt([&] { make(session, read(settings, admin::BrowserPath)); });
+    attempt([&] { make(session, folder_of(read(settings, admin::ErrorFileLocation))); });
 }
 
 } // namespace ornavel::connect

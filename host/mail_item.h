@@ -44,6 +44,8 @@ class Recipient : public ViewOf<u"Recipient"> {
 public:
     using ViewOf::ViewOf;
     Text address() const { return as_text(get({u"Address"})); }
+    /// Looks the address up, as a mail needs before it can be sent.
+    void resolve() const { call({u"Resolve"}); }
 };
 
 class Recipients : public ViewOf<u"Recipients"> {
@@ -54,7 +56,7 @@ public:
     Recipient item(int index) const {
         return Recipient(as_object(call({u"Item"}, {static_cast<std::int32_t>(index)})));
     }
-    void add(TextView address) const { call({u"Add"}, {Text(address)}); }
+    Recipient add(TextView address) const { return Recipient(as_object(call({u"Add"}, {Text(address)}))); }
 };
 
 /// What the editor of an item is, as the host numbers it; other numbers occur and count as HTML.

@@ -15,8 +15,13 @@ using ObjectPtr = std::shared_ptr<Object>;
 /// The value of a property that was never set; also what a call without a result gives back.
 using Empty = std::monostate;
 
-/// An optional argument that is left out.
+/// An optional argument that is left out. It is copied by a constructor of its own, because a variant of
+/// which every alternative is trivial or a standard text or pointer counts as never without a value in the
+/// compiler's library: copying a text for which there is no memory then destroys what was never made.
 struct Omitted {
+    Omitted() = default;
+    Omitted(const Omitted&) noexcept {}
+    Omitted& operator=(const Omitted&) = default;
     bool operator==(const Omitted&) const = default;
 };
 

@@ -18,7 +18,7 @@ using ByName = std::map<Text, Value, NameOrder>;
 
 /// Everything that an add-in can leave behind on a machine, at one moment.
 struct Snapshot {
-    ByName<ByName<Text>> settings;
+    ByName<ByName<SettingValue>> settings;
     ByName<std::string> files; ///< full path and bytes
     std::set<Text, NameOrder> folders;
     ByName<ByName<RegistryValue>> registry;
@@ -50,6 +50,9 @@ public:
     virtual Registry& registry() = 0;
     /// With everything in it.
     virtual void remove_folder(TextView path) = 0;
+    /// The mail client's editor keeps a file open, until it lets go of all: others can read it only.
+    virtual void hold(TextView path) = 0;
+    virtual void let_go() = 0;
 
     virtual void change_settings(const SettingsTree& settings) = 0;
     virtual void set_clock(const LocalTime& time) = 0;

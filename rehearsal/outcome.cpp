@@ -100,11 +100,16 @@ Json connection_outcome(const ConnectionNode& connection) {
     return {{"opened with", to_json(connection.opened_with)}, {"closed", connection.closed}};
 }
 
+Json setting_outcome(const SettingValue& value) {
+    if (std::holds_alternative<Text>(value)) return to_json(std::get<Text>(value));
+    return {{"expand", to_json(stored_text(value))}};
+}
+
 Json settings_outcome(const Snapshot& machine) {
     Json json = Json::object();
     for (const auto& [section, keys] : machine.settings) {
         Json& values = json[to_utf8(section)] = Json::object();
-        for (const auto& [key, value] : keys) values[to_utf8(key)] = to_json(value);
+        for (const auto& [key, value] : keys) values[to_utf8(key)] = setting_outcome(value);
     }
     return json;
 }

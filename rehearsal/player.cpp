@@ -46,8 +46,10 @@ void Player::play_act(const Act& act, Json& record) {
     case Kind::update:
         return addin_.update();
     case Kind::shutdown:
+        client_.close_documents();
         return addin_.shutdown();
     case Kind::disconnect:
+        client_.close_documents();
         addin_.disconnect(act.number);
         connected_ = false;
         return;

@@ -18,6 +18,13 @@ struct ExpandText {
     bool operator==(const ExpandText&) const = default;
 };
 using RegistryValue = std::variant<std::uint32_t, Text, ExpandText>;
+using SettingValue = std::variant<Text, ExpandText>;
+
+/// The text as it is stored.
+inline const Text& stored_text(const SettingValue& value) {
+    const auto* expand = std::get_if<ExpandText>(&value);
+    return expand ? expand->text : std::get<Text>(value);
+}
 
 template <class Value>
 using Named = std::vector<std::pair<Text, Value>>;
@@ -35,6 +42,11 @@ struct Appointment {
     Text subject;
     LocalTime start;
 };
+
+/// Where the computer's user has the data of programs.
+inline Text application_data(const Computer& computer) {
+    return u"C:\\Documents and Settings\\" + computer.user + u"\\Application Data";
+}
 
 struct Host {
     Text version = u"11.0.6353";
@@ -107,7 +119,7 @@ struct Failing {
     Text says = u"rehearsed failure";
 };
 
-using SettingsTree = Named<Named<Text>>;
+using SettingsTree = Named<Named<SettingValue>>;
 
 struct Act {
     enum class Kind {

@@ -1,5 +1,7 @@
 #include "settings/catalogue.h"
 
+#include <algorithm>
+
 namespace ornavel::settings {
 namespace {
 
@@ -17,5 +19,11 @@ constexpr Key every_key[] = {
 } // namespace
 
 std::span<const Key> catalogue() { return every_key; }
+
+bool is_path(TextView section, TextView name) {
+    return std::ranges::any_of(every_key, [&](const Key& key) {
+        return key.kind == Kind::path && same_name(key.section, section) && same_name(key.name, name);
+    });
+}
 
 } // namespace ornavel::settings

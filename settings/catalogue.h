@@ -36,4 +36,7 @@ inline constexpr TextView off = u"False";
 /// Every key that the add-in reads or writes, in the order of its sections.
 std::span<const Key> catalogue();
 
+/// Whether the key with this name is the path of a file or folder. Names compare without case.
+bool is_path(TextView section, TextView name);
+
 } // namespace ornavel::settings

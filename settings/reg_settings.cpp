@@ -33,9 +33,7 @@ bool takes_along(const Text& removed, TextView section) {
 
 bool counts(TextView section, const RegValue& value) {
     if (value.kind == RegValue::Kind::text) return true;
-    if (value.kind != RegValue::Kind::expand_text) return false;
-    const Key* key = find_key(section, value.name);
-    return key && key->kind == Kind::path;
+    return value.kind == RegValue::Kind::expand_text && is_path(section, value.name);
 }
 
 void take(std::vector<FileSetting>& settings, const Text& section, const RegValue& value) {

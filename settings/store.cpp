@@ -11,6 +11,12 @@ Text value_of(const Store& store, const Key& key, TextView fallback) {
 
 Text value_of(const Store& store, const Key& key) { return value_of(store, key, key.default_value); }
 
+/// Compares without building a text, for which there may be no memory.
+bool is(const Store& store, const Key& key, TextView wanted) noexcept {
+    const auto value = store.find(key.section, key.name);
+    return (value ? TextView(*value) : key.default_value) == wanted;
+}
+
 } // namespace
 
 Text read(const Store& store, const TextKey& key) { return value_of(store, key); }
@@ -22,12 +28,15 @@ Text read(const Store& store, const PathKey& key, TextView fallback) {
     return value_of(store, key, fallback);
 }
 
-bool is_on(const Store& store, const SwitchKey& key) { return value_of(store, key) == on; }
-bool is_off(const Store& store, const SwitchKey& key) { return value_of(store, key) == off; }
-bool is_ticked(const Store& store, const TickKey& key) { return value_of(store, key) == u"1"; }
-int read_number(const Store& store, const NumberKey& key) { return numeric_value(value_of(store, key)); }
+bool is_on(const Store& store, const SwitchKey& key) noexcept { return is(store, key, on); }
+bool is_off(const Store& store, const SwitchKey& key) noexcept { return is(store, key, off); }
+bool is_ticked(const Store& store, const TickKey& key) noexcept { return is(store, key, u"1"); }
+int read_number(const Store& store, const NumberKey& key) noexcept {
+    const auto value = store.find(key.section, key.name);
+    return numeric_value(value ? TextView(*value) : key.default_value);
+}
 
-void save(Store& store, const Key& key, TextView value) { store.save(key.section, key.name, value); }
+void save(Store& store, const Key& key, TextView value) noexcept { store.save(key.section, key.name, value); }
 
 std::optional<Text> MemoryStore::find(TextView section, TextView key) const noexcept {
     std::optional<Text> value;

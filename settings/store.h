@@ -26,18 +26,18 @@ Text read(const Store& store, const TextKey& key, TextView fallback);
 Text read(const Store& store, const PathKey& key, TextView fallback);
 
 /// Whether the value is exactly "True"; "true" is off.
-bool is_on(const Store& store, const SwitchKey& key);
+bool is_on(const Store& store, const SwitchKey& key) noexcept;
 
 /// Whether the value is exactly "False". A value that is no switch's is neither on nor off.
-bool is_off(const Store& store, const SwitchKey& key);
+bool is_off(const Store& store, const SwitchKey& key) noexcept;
 
 /// Whether the value is exactly "1"; "True" ticks nothing.
-bool is_ticked(const Store& store, const TickKey& key);
+bool is_ticked(const Store& store, const TickKey& key) noexcept;
 
 /// The digits that the value begins with, as numeric_value takes them.
-int read_number(const Store& store, const NumberKey& key);
+int read_number(const Store& store, const NumberKey& key) noexcept;
 
-void save(Store& store, const Key& key, TextView value);
+void save(Store& store, const Key& key, TextView value) noexcept;
 
 /// A store that lives as long as the program.
 class MemoryStore final : public Store {

@@ -1,6 +1,7 @@
 #include "shell/add_in.h"
 
 #include "win32/dispatch_object.h"
+#include "win32/environment.h"
 #include "win32/values.h"
 #include "win32/wide.h"
 
@@ -38,6 +39,12 @@ Text addin_folder() {
     return path.substr(0, path.find_last_of(u'\\'));
 }
 
+/// Empty where the environment tells no place for data of the user's programs.
+Text user_folder() {
+    Text folder = win32::expanded(u"%APPDATA%\\Brevant\\Ornavel");
+    return folder.starts_with(u'%') ? Text() : folder;
+}
+
 /// Runs a handler on behalf of the mail client: nothing gets out, and the object stays until it has ended.
 template <class Body>
 HRESULT at_boundary(IUnknown* object, Body body) noexcept {
@@ -56,8 +63,17 @@ host::Value argument(const DISPPARAMS* parameters, UINT index) {
 
 connect::Platform Machine::platform(IUnknown* owner) {
     const auto keep = [owner] { return std::make_shared<win32::ComPtr<IUnknown>>(owner); };
-    return {settings_, files_,   clock_,       launcher_,      objects_,
-            windows_,  strings_, information_, addin_folder(), keep};
+    return {.settings = settings_,
+            .files = files_,
+            .clock = clock_,
+            .launcher = launcher_,
+            .objects = objects_,
+            .windows = windows_,
+            .strings = strings_,
+            .machine = information_,
+            .addin_folder = addin_folder(),
+            .user_folder = user_folder(),
+            .keep = keep};
 }
 
 HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {

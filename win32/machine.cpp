@@ -20,6 +20,35 @@ int show_command(WindowState window) {
     }
 }
 
+/// The shell's own codes for what stands in its way, and the system's for the same.
+struct ShellCode {
+    INT_PTR code;
+    DWORD error;
+};
+
+constexpr ShellCode shell_codes[] = {
+    {0, ERROR_NOT_ENOUGH_MEMORY},
+    {SE_ERR_SHARE, ERROR_SHARING_VIOLATION},
+    {SE_ERR_ASSOCINCOMPLETE, ERROR_NO_ASSOCIATION},
+    {SE_ERR_DDETIMEOUT, ERROR_DDE_FAIL},
+    {SE_ERR_DDEFAIL, ERROR_DDE_FAIL},
+    {SE_ERR_DDEBUSY, ERROR_DDE_FAIL},
+    {SE_ERR_NOASSOC, ERROR_NO_ASSOCIATION},
+    {SE_ERR_DLLNOTFOUND, ERROR_DLL_NOT_FOUND},
+};
+
+/// Its other codes are the system's.
+DWORD error_of(INT_PTR code) {
+    for (const auto& row : shell_codes)
+        if (row.code == code) return row.error;
+    return static_cast<DWORD>(code);
+}
+
+TextView folder_of(TextView program) {
+    const auto slash = program.find_last_of(u'\\');
+    return slash == TextView::npos ? TextView() : program.substr(0, slash + 1);
+}
+
 } // namespace
 
 LocalTime SystemClock::now() const {
@@ -30,9 +59,10 @@ LocalTime SystemClock::now() const {
 
 void ShellLauncher::launch(TextView program, TextView arguments, WindowState window) {
     constexpr INT_PTR last_error_code = 32;
-    const HINSTANCE outcome = ShellExecuteW(nullptr, L"open", wide(program).c_str(), wide(arguments).c_str(),
-                                            nullptr, show_command(window));
-    if (reinterpret_cast<INT_PTR>(outcome) <= last_error_code) fail(program, GetLastError());
+    const auto outcome = reinterpret_cast<INT_PTR>(
+        ShellExecuteW(nullptr, L"open", wide(program).c_str(), wide(arguments).c_str(),
+                      wide(folder_of(program)).c_str(), show_command(window)));
+    if (outcome <= last_error_code) fail(program, error_of(outcome));
 }
 
 Answer DesktopWindows::show(TextView title, TextView text, Buttons buttons) {

@@ -27,7 +27,7 @@ std::optional<RegistryKey> RegistryKey::open(TextView path, REGSAM access) {
     return RegistryKey(key);
 }
 
-std::optional<Text> RegistryKey::text(TextView name) const {
+std::optional<RegistryKey::StoredText> RegistryKey::stored_text(TextView name) const {
     const std::wstring wanted = wide(name);
     std::wstring value(256, L'\0');
     DWORD type = REG_NONE;
@@ -39,11 +39,24 @@ std::optional<Text> RegistryKey::text(TextView name) const {
                                   &size);
         if (status == ERROR_MORE_DATA) value.resize(size / sizeof(wchar_t) + 1);
     }
-    if (status != ERROR_SUCCESS || type != REG_SZ) return {};
+    if (status == ERROR_KEY_DELETED) throw KeyRemoved();
+    if (status != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) return {};
     value.resize(size / sizeof(wchar_t));
-    // The closing NUL is stored with the text, by some programs more than once and by others not at all.
-    value.resize(value.find_last_not_of(L'\0') + 1);
-    return text_of(value);
+    // The closing NUL is stored with the text, by some programs not at all, and by others with what was there
+    // before.
+    return StoredText{text_of(value.substr(0, value.find(L'\0'))), type == REG_EXPAND_SZ};
+}
+
+std::optional<Text> RegistryKey::text(TextView name) const {
+    std::optional<Text> found;
+    attempt([&] {
+        if (auto stored = stored_text(name); stored && !stored->expands) found = std::move(stored->text);
+    });
+    return found;
+}
+
+bool RegistryKey::tell_changes_of_names(HANDLE event) const {
+    return RegNotifyChangeKeyValue(key_, TRUE, REG_NOTIFY_CHANGE_NAME, event, TRUE) == ERROR_SUCCESS;
 }
 
 void RegistryKey::set(TextView name, TextView text) {

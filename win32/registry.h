@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/text.h"
+#include "base/errors.h"
 
 #include <windows.h>
 
@@ -8,6 +8,12 @@
 #include <utility>
 
 namespace ornavel::win32 {
+
+/// The key was removed while it was open; another may stand in its place.
+class KeyRemoved : public Failure {
+public:
+    KeyRemoved() : Failure(u"The registry key was removed") {}
+};
 
 /// An open key of the user's part of the registry. Whatever fails throws Failure, unless it says otherwise.
 class RegistryKey {
@@ -18,14 +24,28 @@ public:
     static std::optional<RegistryKey> open(TextView path, REGSAM access = KEY_READ);
 
     RegistryKey(RegistryKey&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
+    RegistryKey& operator=(RegistryKey&& other) noexcept {
+        std::swap(key_, other.key_);
+        return *this;
+    }
     ~RegistryKey() {
         if (key_) RegCloseKey(key_);
     }
 
-    /// Nothing when the value is absent or of another type.
+    /// A text as it is stored; where it expands, with the names of environment variables in it.
+    struct StoredText {
+        Text text;
+        bool expands;
+    };
+    /// Nothing when the value is absent or no text. A text ends at its first NUL. Throws KeyRemoved.
+    std::optional<StoredText> stored_text(TextView name) const;
+    /// The same for a text that does not expand; nothing when the key is gone.
     std::optional<Text> text(TextView name) const;
     void set(TextView name, TextView text);
     void set(TextView name, DWORD number);
+
+    /// Has the event set when a key below this one is made, removed or renamed next; whether that can be had.
+    bool tell_changes_of_names(HANDLE event) const;
 
     /// Whether the key holds neither keys nor values.
     bool empty() const;

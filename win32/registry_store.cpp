@@ -1,7 +1,6 @@
 #include "win32/registry_store.h"
 
-#include "base/errors.h"
-#include "win32/registry.h"
+#include "win32/environment.h"
 
 namespace ornavel::win32 {
 namespace {
@@ -10,16 +9,41 @@ Text path_of(TextView section) { return u"Software\\VB and VBA Program Settings\
 
 } // namespace
 
+const RegistryKey* RegistryStore::key_of(TextView section) const {
+    if (watch_.has_something_changed()) keys_.clear();
+    if (const auto known = keys_.find(section); known != keys_.end()) return &known->second;
+    auto key = RegistryKey::open(path_of(section));
+    return key ? &keys_.emplace(Text(section), std::move(*key)).first->second : nullptr;
+}
+
 std::optional<Text> RegistryStore::find(TextView section, TextView key) const noexcept {
+    std::optional<RegistryKey::StoredText> stored;
+    const auto look = [&] {
+        if (const auto* values = key_of(section)) stored = values->stored_text(key);
+    };
     std::optional<Text> value;
     attempt([&] {
-        if (const auto values = RegistryKey::open(path_of(section))) value = values->text(key);
+        try {
+            look();
+        } catch (const KeyRemoved&) {
+            keys_.clear();
+            look();
+        }
+        if (!stored) return;
+        if (!stored->expands)
+            value = std::move(stored->text);
+        else if (settings::is_path(section, key))
+            value = expanded(stored->text);
     });
     return value;
 }
 
 void RegistryStore::save(TextView section, TextView key, TextView value) noexcept {
-    attempt([&] { RegistryKey::create(path_of(section)).set(key, value); });
+    attempt([&] {
+        RegistryKey::create(path_of(section)).set(key, value);
+        // What was just saved is read next, also where the open key is no longer the section's.
+        if (const auto open = keys_.find(section); open != keys_.end()) keys_.erase(open);
+    });
 }
 
 } // namespace ornavel::win32

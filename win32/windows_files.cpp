@@ -35,6 +35,29 @@ void write_all(const Handle& file, TextView path, std::string_view bytes) {
 
 Text with_backslash(TextView folder) { return Text(folder) + (folder.ends_with(u'\\') ? u"" : u"\\"); }
 
+/// The entries of a folder that are of this kind, in order.
+std::vector<Text> names_in(TextView folder, Kind wanted) {
+    std::vector<Text> names;
+    // Without this an empty name would list the root of the current drive.
+    if (folder.empty()) return names;
+    WIN32_FIND_DATAW found;
+    const FindHandle search(FindFirstFileW(wide(with_backslash(folder) + u"*").c_str(), &found));
+    if (!search) return names;
+    do {
+        const Text name = text_of(found.cFileName);
+        const bool is_folder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+        if (is_folder == (wanted == Kind::folder) && name != u"." && name != u"..") names.push_back(name);
+    } while (FindNextFileW(search.get(), &found));
+    std::ranges::sort(names, name_before);
+    return names;
+}
+
+/// Whether a folder is a name for another one.
+bool leads_elsewhere(TextView folder) {
+    const DWORD attributes = GetFileAttributesW(wide(folder).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+}
+
 /// The folder above, or an empty text for a drive and for a name without a folder.
 Text parent_of(TextView path) {
     const auto slash = path.find_last_of(u"\\/");
@@ -47,19 +70,8 @@ Text parent_of(TextView path) {
 bool WindowsFiles::file_exists(TextView path) const { return kind_of(path) == Kind::file; }
 bool WindowsFiles::folder_exists(TextView path) const { return kind_of(path) == Kind::folder; }
 
-std::vector<Text> WindowsFiles::list(TextView folder) const {
-    std::vector<Text> names;
-    // Without this an empty name would list the root of the current drive.
-    if (folder.empty()) return names;
-    WIN32_FIND_DATAW found;
-    const FindHandle search(FindFirstFileW(wide(with_backslash(folder) + u"*").c_str(), &found));
-    if (!search) return names;
-    do {
-        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) names.push_back(text_of(found.cFileName));
-    } while (FindNextFileW(search.get(), &found));
-    std::ranges::sort(names, name_before);
-    return names;
-}
+std::vector<Text> WindowsFiles::list(TextView folder) const { return names_in(folder, Kind::file); }
+std::vector<Text> WindowsFiles::list_folders(TextView folder) const { return names_in(folder, Kind::folder); }
 
 std::string WindowsFiles::read(TextView path) const {
     const Handle file = open(path, GENERIC_READ, OPEN_EXISTING);
@@ -78,9 +90,8 @@ void WindowsFiles::write(TextView path, std::string_view bytes) {
 }
 
 void WindowsFiles::append(TextView path, std::string_view bytes) {
-    const Handle file = open(path, GENERIC_WRITE, OPEN_ALWAYS);
-    SetFilePointer(file.get(), 0, nullptr, FILE_END);
-    write_all(file, path, bytes);
+    // Opened for nothing but appending, so that each line goes behind what another session has just written.
+    write_all(open(path, FILE_APPEND_DATA, OPEN_ALWAYS), path, bytes);
 }
 
 void WindowsFiles::remove(TextView path) {
@@ -92,6 +103,14 @@ void WindowsFiles::create_folder(TextView path) {
     const Text parent = parent_of(path);
     if (!parent.empty()) create_folder(parent);
     if (!CreateDirectoryW(wide(path).c_str(), nullptr) && !folder_exists(path)) fail(path, GetLastError());
+}
+
+void WindowsFiles::remove_folder(TextView path) {
+    if (!leads_elsewhere(path)) {
+        for (const Text& name : list(path)) remove(with_backslash(path) + name);
+        for (const Text& name : list_folders(path)) remove_folder(with_backslash(path) + name);
+    }
+    if (!RemoveDirectoryW(wide(path).c_str())) fail(path, GetLastError());
 }
 
 const CodePage& WindowsFiles::ansi() const { return ansi_code_page(); }

@@ -10,11 +10,13 @@ public:
     bool file_exists(TextView path) const override;
     bool folder_exists(TextView path) const override;
     std::vector<Text> list(TextView folder) const override;
+    std::vector<Text> list_folders(TextView folder) const override;
     std::string read(TextView path) const override;
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
     void create_folder(TextView path) override;
+    void remove_folder(TextView path) override;
     const CodePage& ansi() const override;
 };
 

@@ -22,11 +22,15 @@ public:
     bool file_exists(TextView path) const override { return machine_.file_exists(mapped(path)); }
     bool folder_exists(TextView path) const override { return machine_.folder_exists(mapped(path)); }
     std::vector<Text> list(TextView folder) const override { return machine_.list(mapped(folder)); }
+    std::vector<Text> list_folders(TextView folder) const override {
+        return machine_.list_folders(mapped(folder));
+    }
     std::string read(TextView path) const override { return machine_.read(mapped(path)); }
     void write(TextView path, std::string_view bytes) override { machine_.write(mapped(path), bytes); }
     void append(TextView path, std::string_view bytes) override { machine_.append(mapped(path), bytes); }
     void remove(TextView path) override { machine_.remove(mapped(path)); }
     void create_folder(TextView path) override { machine_.create_folder(mapped(path)); }
+    void remove_folder(TextView path) override { machine_.remove_folder(mapped(path)); }
     const CodePage& ansi() const override { return machine_.ansi(); }
 
 private:

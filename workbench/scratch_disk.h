@@ -20,6 +20,7 @@ public:
     }
     bool folder_exists(TextView path) const override { return disk_.folder_exists(path); }
     std::vector<Text> list(TextView folder) const override { return disk_.list(folder); }
+    std::vector<Text> list_folders(TextView folder) const override { return disk_.list_folders(folder); }
     std::string read(TextView path) const override {
         const auto written = written_.find(path);
         return written == written_.end() ? disk_.read(path) : written->second;
@@ -33,6 +34,7 @@ public:
         removed_.insert(Text(path));
     }
     void create_folder(TextView) override {}
+    void remove_folder(TextView) override {}
     const CodePage& ansi() const override { return disk_.ansi(); }
 
 private:

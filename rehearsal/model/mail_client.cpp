@@ -5,6 +5,7 @@
 #include "rehearsal/model/file_system.h"
 #include "rehearsal/model/handle.h"
 #include "rehearsal/model/registry_provider.h"
+#include "rehearsal/turn.h"
 
 #include <algorithm>
 
@@ -51,24 +52,28 @@ MailClient::MailClient(const Scenario& scenario, Machine& machine, Failures& fai
 }
 
 host::ObjectPtr MailClient::create(TextView prog_id) {
-    journal_.note(Deed::call, u"CreateObject", prog_id);
-    failures_.use(Failing::Kind::creation, prog_id);
-    const auto entry =
-        std::find_if(std::begin(creatables), std::end(creatables),
-                     [&](const Creatable& candidate) { return same_name(candidate.prog_id, prog_id); });
-    if (entry == std::end(creatables) || !is_there(host(), prog_id))
-        throw host::Error(u"ActiveX component can't create object");
-    return hand_out(entry->make());
+    const MachinesTurn turn;
+    return journal_.note_use(Deed::call, u"CreateObject", prog_id, [&] {
+        failures_.use(Failing::Kind::creation, prog_id);
+        const auto entry =
+            std::find_if(std::begin(creatables), std::end(creatables),
+                         [&](const Creatable& candidate) { return same_name(candidate.prog_id, prog_id); });
+        if (entry == std::end(creatables) || !is_there(host(), prog_id))
+            throw host::Error(u"ActiveX component can't create object");
+        return hand_out(entry->make());
+    });
 }
 
 host::ObjectPtr MailClient::get(TextView moniker) {
-    journal_.note(Deed::call, u"GetObject", moniker);
-    failures_.use(Failing::Kind::creation, moniker);
-    const bool provider =
-        moniker.starts_with(u"winmgmts:") && moniker.ends_with(u"\\root\\default:StdRegProv");
-    if (!provider || !is_there(host(), u"winmgmts"))
-        throw host::Error(u"ActiveX component can't create object");
-    return hand_out(std::make_shared<RegistryProviderNode>());
+    const MachinesTurn turn;
+    return journal_.note_use(Deed::call, u"GetObject", moniker, [&] {
+        failures_.use(Failing::Kind::creation, moniker);
+        const bool provider =
+            moniker.starts_with(u"winmgmts:") && moniker.ends_with(u"\\root\\default:StdRegProv");
+        if (!provider || !is_there(host(), u"winmgmts"))
+            throw host::Error(u"ActiveX component can't create object");
+        return hand_out(std::make_shared<RegistryProviderNode>());
+    });
 }
 
 Value MailClient::given(Value value) {
@@ -86,7 +91,22 @@ bool MailClient::send(MailItemNode& item) {
     raise_event(*this, *application_, u"ItemSend", arguments);
     item.cancelled = host::as_flag(arguments[1]);
     item.sent = !item.cancelled;
+    if (item.sent && open_document_ == &item) close_documents(); // the message's window goes with its editor
     return item.cancelled;
+}
+
+void MailClient::open_document(const MailItemNode& item, const Text& path, const std::string& text) {
+    if (open_document_ && open_document_ != &item)
+        throw host::Error(u"Word cannot give a document the same name as an open document");
+    machine_.let_go();
+    machine_.files().write(path, text);
+    machine_.hold(path);
+    open_document_ = &item;
+}
+
+void MailClient::close_documents() {
+    machine_.let_go();
+    open_document_ = nullptr;
 }
 
 void MailClient::send_silently(MailItemNode& item) {

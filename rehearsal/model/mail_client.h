@@ -54,6 +54,11 @@ public:
     host::Value given(host::Value value);
     Journal& journal() { return journal_; }
     Machine& machine() { return machine_; }
+
+    /// The item's editor saves its document under a name, and keeps that file open until the item is sent or
+    /// the documents are closed. Only one document at a time can have a name.
+    void open_document(const MailItemNode& item, const Text& path, const std::string& text);
+    void close_documents();
     const Host& host() const { return scenario_.host; }
     const std::shared_ptr<References>& references() { return references_; }
 
@@ -67,6 +72,7 @@ public:
 private:
     const Scenario& scenario_;
     Machine& machine_;
+    const MailItemNode* open_document_ = nullptr; ///< the item whose document has a file open
     Failures& failures_;
     Journal& journal_;
     std::shared_ptr<References> references_ = std::make_shared<References>();

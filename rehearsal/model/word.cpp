@@ -10,8 +10,13 @@ using host::Value;
 
 WordDocument document_of(const PartOfItem& part) { return part.item->word.value_or(WordDocument{}); }
 
+/// The pictures go into a folder beside the file.
 Value save_as(const Call& call) {
-    call.client.machine().files().write(call.text(0), to_utf8(document_of(call.as<DocumentNode>()).html));
+    const auto& document = call.as<DocumentNode>();
+    const Text path = call.text(0), folder = path.substr(0, path.find_last_of(u'.')) + u"_files";
+    call.client.open_document(*document.item, path, to_utf8(document_of(document).html));
+    call.client.machine().files().create_folder(folder);
+    call.client.machine().files().write(folder + u"\\filelist.xml", "<xml/>\r\n");
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/encoding.h"
 #include "rehearsal/form_record.h"
+#include "rehearsal/turn.h"
 
 namespace ornavel::rehearsal {
 
@@ -10,6 +11,7 @@ namespace {
 /// What a handler throws ends that handler alone, as in a real window.
 void take(const Step& step, forms::Form& form) {
     try {
+        const AddInsTurn turn;
         take_step(step, forms::FormUser(form));
     } catch (const forms::UnusableStep&) {
         throw;

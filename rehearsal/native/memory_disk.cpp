@@ -1,6 +1,8 @@
 #include "rehearsal/native/memory_disk.h"
 
+#include "base/encoding.h"
 #include "base/errors.h"
+#include "rehearsal/turn.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -50,6 +52,14 @@ std::vector<Text> MemoryDisk::list(TextView folder) const {
     return names;
 }
 
+std::vector<Text> MemoryDisk::list_folders(TextView folder) const {
+    std::vector<Text> names;
+    const Text wanted = without_end(folder);
+    for (const auto& path : folders_)
+        if (same_name(parent_of(path), wanted)) names.push_back(path.substr(parent_of(path).size() + 1));
+    return names;
+}
+
 /// In the words that the system has for it, too.
 void MemoryDisk::fail_to_find(TextView path) const {
     fail(path, folder_exists(parent_of(plain_path(path))) ? u"File not found." : u"Path not found.");
@@ -61,8 +71,13 @@ std::string MemoryDisk::read(TextView path) const {
     return file->second;
 }
 
+void MemoryDisk::require_free(TextView path) const {
+    if (held_.contains(plain_path(path))) fail(path, u"Sharing violation.");
+}
+
 std::string& MemoryDisk::open_for_writing(TextView path) {
     const Text plain = plain_path(path);
+    require_free(path);
     if (folder_exists(plain)) fail(path, u"Access denied.");
     if (!folder_exists(parent_of(plain))) fail(path, u"Path not found.");
     return files_.try_emplace(plain).first->second;
@@ -75,6 +90,7 @@ void MemoryDisk::append(TextView path, std::string_view bytes) { open_for_writin
 void MemoryDisk::remove(TextView path) {
     const auto file = files_.find(plain_path(path));
     if (file == files_.end()) fail_to_find(path);
+    require_free(path);
     files_.erase(file);
 }
 
@@ -89,33 +105,83 @@ void MemoryDisk::create_folder(TextView path) {
 void MemoryDisk::remove_folder(TextView path) {
     const Text folder = without_end(path);
     if (!folders_.contains(folder)) fail(path, u"Path not found.");
+    for (const auto& file : held_)
+        if (is_below(file, folder)) require_free(file);
     std::erase_if(files_, [&](const auto& file) { return is_below(file.first, folder); });
     std::erase_if(folders_,
                   [&](const auto& other) { return same_name(other, folder) || is_below(other, folder); });
 }
 
+namespace {
+
+/// As much as the journal may show.
+Text beginning(std::string_view bytes) { return from_utf8(bytes.substr(0, 2000)); }
+
+} // namespace
+
+bool RehearsedDisk::file_exists(TextView path) const {
+    const MachinesTurn turn;
+    return disk_.file_exists(path);
+}
+
+bool RehearsedDisk::folder_exists(TextView path) const {
+    const MachinesTurn turn;
+    return disk_.folder_exists(path);
+}
+
+std::vector<Text> RehearsedDisk::list(TextView folder) const {
+    const MachinesTurn turn;
+    return disk_.list(folder);
+}
+
+std::vector<Text> RehearsedDisk::list_folders(TextView folder) const {
+    const MachinesTurn turn;
+    return disk_.list_folders(folder);
+}
+
+void RehearsedDisk::create_folder(TextView path) {
+    const MachinesTurn turn;
+    disk_.create_folder(path);
+}
+
 std::string RehearsedDisk::read(TextView path) const {
-    journal_.note(Deed::read_file, Text(path));
-    failures_.use(Failing::Kind::read_file, plain_path(path));
-    return failures_.given(disk_.read(path));
+    const MachinesTurn turn;
+    return journal_.note_use(Deed::read_file, Text(path), {}, [&] {
+        failures_.use(Failing::Kind::read_file, plain_path(path));
+        return failures_.given(disk_.read(path));
+    });
 }
 
 void RehearsedDisk::write(TextView path, std::string_view bytes) {
-    journal_.note(Deed::write_file, Text(path));
-    failures_.use(Failing::Kind::write_file, plain_path(path));
-    disk_.write(path, bytes);
+    const MachinesTurn turn;
+    journal_.note_use(Deed::write_file, Text(path), beginning(bytes), [&] {
+        failures_.use(Failing::Kind::write_file, plain_path(path));
+        disk_.write(path, bytes);
+    });
 }
 
 void RehearsedDisk::append(TextView path, std::string_view bytes) {
-    journal_.note(Deed::write_file, Text(path));
-    failures_.use(Failing::Kind::write_file, plain_path(path));
-    disk_.append(path, bytes);
+    const MachinesTurn turn;
+    journal_.note_use(Deed::write_file, Text(path), beginning(bytes), [&] {
+        failures_.use(Failing::Kind::write_file, plain_path(path));
+        disk_.append(path, bytes);
+    });
 }
 
 void RehearsedDisk::remove(TextView path) {
-    journal_.note(Deed::delete_file, Text(path));
-    failures_.use(Failing::Kind::delete_file, plain_path(path));
-    disk_.remove(path);
+    const MachinesTurn turn;
+    journal_.note_use(Deed::delete_file, Text(path), {}, [&] {
+        failures_.use(Failing::Kind::delete_file, plain_path(path));
+        disk_.remove(path);
+    });
+}
+
+void RehearsedDisk::remove_folder(TextView path) {
+    const MachinesTurn turn;
+    journal_.note_use(Deed::delete_file, Text(path), {}, [&] {
+        failures_.use(Failing::Kind::delete_file, plain_path(path));
+        disk_.remove_folder(path);
+    });
 }
 
 } // namespace ornavel::rehearsal

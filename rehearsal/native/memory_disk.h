@@ -16,25 +16,30 @@ public:
     bool file_exists(TextView path) const override { return files_.contains(plain_path(path)); }
     bool folder_exists(TextView path) const override;
     std::vector<Text> list(TextView folder) const override;
+    std::vector<Text> list_folders(TextView folder) const override;
     std::string read(TextView path) const override;
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
     void create_folder(TextView path) override;
+    void remove_folder(TextView path) override;
     const CodePage& ansi() const override { return windows_1252(); }
 
-    /// With everything in it.
-    void remove_folder(TextView path);
+    /// Another program keeps a file open, until all are let go: it can be read, and neither written nor
+    /// removed.
+    void hold(TextView path) { held_.insert(plain_path(path)); }
+    void let_go() { held_.clear(); }
 
     const ByName<std::string>& files() const { return files_; }
     const std::set<Text, NameOrder>& folders() const { return folders_; }
 
 private:
     [[noreturn]] void fail_to_find(TextView path) const;
+    void require_free(TextView path) const;
     std::string& open_for_writing(TextView path);
 
     ByName<std::string> files_;
-    std::set<Text, NameOrder> folders_;
+    std::set<Text, NameOrder> folders_, held_;
 };
 
 /// The disk as the add-in sees it: each use is noted, and fails where the scenario says so.
@@ -43,14 +48,16 @@ public:
     RehearsedDisk(MemoryDisk& disk, Failures& failures, Journal& journal)
         : disk_(disk), failures_(failures), journal_(journal) {}
 
-    bool file_exists(TextView path) const override { return disk_.file_exists(path); }
-    bool folder_exists(TextView path) const override { return disk_.folder_exists(path); }
-    std::vector<Text> list(TextView folder) const override { return disk_.list(folder); }
+    bool file_exists(TextView path) const override;
+    bool folder_exists(TextView path) const override;
+    std::vector<Text> list(TextView folder) const override;
+    std::vector<Text> list_folders(TextView folder) const override;
     std::string read(TextView path) const override;
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
-    void create_folder(TextView path) override { disk_.create_folder(path); }
+    void create_folder(TextView path) override;
+    void remove_folder(TextView path) override;
     const CodePage& ansi() const override { return disk_.ansi(); }
 
 private:

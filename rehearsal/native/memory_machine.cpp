@@ -7,6 +7,7 @@
 #include "rehearsal/form_record.h"
 #include "rehearsal/native/form_player.h"
 #include "rehearsal/native/watching.h"
+#include "rehearsal/turn.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -21,6 +22,14 @@ TextView recorded_program(TextView program) {
     return same_name(name, u"regedit.exe") || same_name(name, u"regedit") ? name : program;
 }
 
+/// As the Wine binding has it.
+Named<Text> environment_of(const Computer& computer) {
+    return {{u"APPDATA", application_data(computer)},
+            {u"ProgramFiles", u"C:\\Program Files"},
+            {u"SystemDrive", u"C:"},
+            {u"SystemRoot", u"C:\\windows"}};
+}
+
 const char* state_name(WindowState state) {
     if (state == WindowState::minimised) return "minimised";
     return state == WindowState::hidden ? "hidden" : "normal";
@@ -31,8 +40,8 @@ const char* state_name(WindowState state) {
 MemoryMachine::MemoryMachine(const Scenario& scenario, const std::string& source, Failures& failures,
                              Journal& journal)
     : failures_(failures), journal_(journal), user_(scenario.user, source), computer_(scenario.computer),
-      now_(scenario.clock), rehearsed_settings_(settings_, failures, journal),
-      rehearsed_disk_(disk_, failures, journal) {}
+      now_(scenario.clock), settings_(environment_of(scenario.computer)),
+      rehearsed_settings_(settings_, failures, journal), rehearsed_disk_(disk_, failures, journal) {}
 
 void MemoryMachine::prepare(const Scenario& scenario) {
     disk_.create_folder(scenario.computer.addin_folder);
@@ -50,8 +59,7 @@ void MemoryMachine::prepare(const Scenario& scenario) {
 
 Snapshot MemoryMachine::snapshot() const {
     Snapshot snapshot;
-    for (const auto& [section, keys] : settings_.sections())
-        for (const auto& [key, value] : keys) snapshot.settings[section][key] = value;
+    snapshot.settings = settings_.sections();
     snapshot.files = disk_.files();
     snapshot.folders = disk_.folders();
     snapshot.registry = registry_.keys();
@@ -84,16 +92,17 @@ Json MemoryMachine::tray_outcome() const {
 }
 
 void MemoryMachine::launch(TextView program, TextView arguments, WindowState window) {
-    journal_.note(Deed::launch, Text(program), arguments);
-    failures_.use(Failing::Kind::launch, file_name(program));
+    const MachinesTurn turn;
+    journal_.note_use(Deed::launch, Text(program), arguments,
+                      [&] { failures_.use(Failing::Kind::launch, file_name(program)); });
     launched_.push_back({{"program", to_json(recorded_program(program))},
                          {"arguments", to_json(arguments)},
                          {"window", state_name(window)}});
 }
 
 Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
-    journal_.note(Deed::window, Text(title), text);
-    failures_.use(Failing::Kind::window, title);
+    const MachinesTurn turn;
+    journal_.note_use(Deed::window, Text(title), text, [&] { failures_.use(Failing::Kind::window, title); });
     const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, buttons));
     if (buttons == Buttons::ok) return Answer::ok;
     return record.at("answer") == "Yes" ? Answer::yes : Answer::no;
@@ -103,6 +112,7 @@ void MemoryMachine::show_modal(forms::Form& form) {
     form.load();
     if (!form.is_loaded()) return;
     const forms::Unloading at_the_end(form);
+    const MachinesTurn turn;
     failures_.use(Failing::Kind::window, form.name());
     forms::place_on_screen(form, screen, {&screen, 1});
     journal_.note(Deed::window, form.name(), form.properties.caption);
@@ -110,7 +120,10 @@ void MemoryMachine::show_modal(forms::Form& form) {
     windows_.push_back(form_record(form));
     const auto entry = user_.meet(form.name());
     if (entry) take_steps(user_, *entry, form);
-    attempt([&] { form.unload(); });
+    attempt([&] {
+        const AddInsTurn addins;
+        form.unload();
+    });
     windows_[place]["at close"] = changed_controls(windows_[place], form);
     if (!entry) windows_[place]["unexpected"] = true;
 }

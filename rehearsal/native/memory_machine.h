@@ -21,6 +21,8 @@ public:
     Files& files() override { return disk_; }
     Registry& registry() override { return registry_; }
     void remove_folder(TextView path) override { disk_.remove_folder(path); }
+    void hold(TextView path) override { disk_.hold(path); }
+    void let_go() override { disk_.let_go(); }
     void change_settings(const SettingsTree& settings) override;
     void set_clock(const LocalTime& time) override { now_ = time; }
     bool tray(const Act&) override { return false; }
@@ -54,7 +56,7 @@ private:
     ScriptedUser user_;
     Computer computer_;
     LocalTime now_;
-    settings::MemoryStore settings_;
+    MemorySettings settings_;
     RehearsedSettings rehearsed_settings_;
     MemoryDisk disk_;
     RehearsedDisk rehearsed_disk_;

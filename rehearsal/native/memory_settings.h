@@ -3,17 +3,39 @@
 #include "base/errors.h"
 #include "rehearsal/failures.h"
 #include "rehearsal/journal.h"
+#include "rehearsal/machine.h"
+#include "rehearsal/turn.h"
 #include "settings/store.h"
 
 namespace ornavel::rehearsal {
 
+/// Settings of either kind of text, as the registry holds them.
+class MemorySettings {
+public:
+    /// environment: names and what they stand for, between per cent signs.
+    explicit MemorySettings(Named<Text> environment) : environment_(std::move(environment)) {}
+
+    /// As the real store reads them: an expandable text counts only where the setting is a path.
+    std::optional<Text> find(TextView section, TextView key) const;
+    void save(TextView section, TextView key, SettingValue value);
+
+    const ByName<ByName<SettingValue>>& sections() const { return sections_; }
+
+private:
+    Text expanded(Text text) const;
+
+    Named<Text> environment_;
+    ByName<ByName<SettingValue>> sections_;
+};
+
 /// The settings as the add-in sees them: each use is noted, and fails where the scenario says so.
 class RehearsedSettings final : public settings::Store {
 public:
-    RehearsedSettings(settings::MemoryStore& store, Failures& failures, Journal& journal)
+    RehearsedSettings(MemorySettings& store, Failures& failures, Journal& journal)
         : store_(store), failures_(failures), journal_(journal) {}
 
     std::optional<Text> find(TextView section, TextView key) const noexcept override {
+        const MachinesTurn turn;
         std::optional<Text> value;
         attempt([&] {
             failures_.use(Failing::Kind::read_setting, key);
@@ -24,17 +46,18 @@ public:
     }
 
     void save(TextView section, TextView key, TextView value) noexcept override {
+        const MachinesTurn turn;
         attempt([&] {
             journal_.note(Deed::save_setting, named(section, key), value);
             failures_.use(Failing::Kind::save_setting, key);
-            store_.save(section, key, value);
+            store_.save(section, key, Text(value));
         });
     }
 
 private:
     static Text named(TextView section, TextView key) { return Text(section) + u" / " + Text(key); }
 
-    settings::MemoryStore& store_;
+    MemorySettings& store_;
     Failures& failures_;
     Journal& journal_;
 };

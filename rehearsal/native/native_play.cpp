@@ -5,6 +5,7 @@
 #include "rehearsal/native/memory_machine.h"
 #include "rehearsal/native/watching.h"
 #include "rehearsal/outcome.h"
+#include "rehearsal/turn.h"
 
 #include <fstream>
 #include <iostream>
@@ -22,12 +23,25 @@ public:
     void connect(const host::ObjectPtr& application, int mode) override {
         if (was_connected_) connect_ = std::make_unique<connect::Connect>(platform_);
         was_connected_ = true;
+        const AddInsTurn turn;
         connect_->OnConnection(host::Application(application), mode);
     }
-    void start() override { connect_->OnStartupComplete(); }
-    void update() override { connect_->OnAddInsUpdate(); }
-    void shutdown() override { connect_->OnBeginShutdown(); }
-    void disconnect(int remove_mode) override { connect_->OnDisconnection(remove_mode); }
+    void start() override {
+        const AddInsTurn turn;
+        connect_->OnStartupComplete();
+    }
+    void update() override {
+        const AddInsTurn turn;
+        connect_->OnAddInsUpdate();
+    }
+    void shutdown() override {
+        const AddInsTurn turn;
+        connect_->OnBeginShutdown();
+    }
+    void disconnect(int remove_mode) override {
+        const AddInsTurn turn;
+        connect_->OnDisconnection(remove_mode);
+    }
 
 private:
     connect::Platform platform_;
@@ -63,20 +77,26 @@ Json play_here(const Scenario& scenario, const std::string& source, Journal& jou
     MailClient client(scenario, machine, failures, journal);
     const WatchedStrings strings(journal);
     const auto on_gate = [&](TextView gate, connect::Verdict verdict) {
+        const MachinesTurn turn;
         journal.note(Deed::gate, Text(gate), name_of(verdict));
     };
-    const auto on_trap = [&](TrapName trap) { journal.note(Deed::trap, name_of(trap), as_logged(trap)); };
-    NativeAddIn addin(connect::Platform{.settings = machine.addin_settings(),
-                                        .files = machine.addin_files(),
-                                        .clock = machine.addin_clock(),
-                                        .launcher = machine.addin_launcher(),
-                                        .objects = client,
-                                        .windows = machine.addin_windows(),
-                                        .strings = strings,
-                                        .machine = machine.addin_machine(),
-                                        .addin_folder = scenario.computer.addin_folder,
-                                        .on_gate = on_gate,
-                                        .on_trap = on_trap});
+    const auto on_trap = [&](TrapName trap) {
+        const MachinesTurn turn;
+        journal.note(Deed::trap, name_of(trap), as_logged(trap));
+    };
+    NativeAddIn addin(
+        connect::Platform{.settings = machine.addin_settings(),
+                          .files = machine.addin_files(),
+                          .clock = machine.addin_clock(),
+                          .launcher = machine.addin_launcher(),
+                          .objects = client,
+                          .windows = machine.addin_windows(),
+                          .strings = strings,
+                          .machine = machine.addin_machine(),
+                          .addin_folder = scenario.computer.addin_folder,
+                          .user_folder = application_data(scenario.computer) + u"\\Brevant\\Ornavel",
+                          .on_gate = on_gate,
+                          .on_trap = on_trap});
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);

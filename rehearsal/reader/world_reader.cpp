@@ -38,14 +38,21 @@ std::string read_contents(const Place& place) {
     return bytes;
 }
 
+ExpandText read_expand_text(const Place& place) {
+    ExpandText expand;
+    if (place.size() != 1) place.refuse("expected {\"expand\": …}");
+    place.fields({{"expand", [&](const Place& at) { expand.text = at.text(); }}});
+    return expand;
+}
+
+SettingValue read_setting_value(const Place& place) {
+    if (place.is_object()) return read_expand_text(place);
+    return place.text();
+}
+
 RegistryValue read_registry_value(const Place& place) {
     if (place.is_text()) return place.text();
-    if (place.is_object()) {
-        ExpandText expand;
-        if (place.size() != 1) place.refuse("expected {\"expand\": …}");
-        place.fields({{"expand", [&](const Place& at) { expand.text = at.text(); }}});
-        return expand;
-    }
+    if (place.is_object()) return read_expand_text(place);
     return static_cast<std::uint32_t>(place.number(0, 0xFFFFFFFF));
 }
 
@@ -64,9 +71,10 @@ bool is_registry_key(const Text& key) {
 SettingsTree read_settings(const Place& place) {
     SettingsTree sections;
     place.each_member([&](const Text& section, const Place& keys) {
-        auto& entry = sections.emplace_back(section, Named<Text>{});
-        keys.each_member(
-            [&](const Text& key, const Place& value) { entry.second.emplace_back(key, value.text()); });
+        auto& entry = sections.emplace_back(section, Named<SettingValue>{});
+        keys.each_member([&](const Text& key, const Place& value) {
+            entry.second.emplace_back(key, read_setting_value(value));
+        });
     });
     return sections;
 }

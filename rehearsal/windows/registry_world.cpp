@@ -40,6 +40,17 @@ std::optional<ByName<RegistryValue>> values_at(TextView key) {
     return values_of(open.get());
 }
 
+RegistryValue registry_value(const SettingValue& value) {
+    return std::visit([](const auto& text) -> RegistryValue { return text; }, value);
+}
+
+/// A number is no setting.
+std::optional<SettingValue> setting_value(const RegistryValue& value) {
+    if (const auto* text = std::get_if<Text>(&value)) return *text;
+    if (const auto* expand = std::get_if<ExpandText>(&value)) return *expand;
+    return {};
+}
+
 void restore(const KeyAddress& key, const ByName<RegistryValue>& before, const ByName<RegistryValue>& after) {
     for (const auto& [name, value] : after)
         if (!before.contains(name)) remove_value(key, name);
@@ -83,8 +94,9 @@ bool RegistryWorld::remove_key(TextView key) {
 
 void RegistryWorld::change_settings(const SettingsTree& settings) {
     for (const auto& [section, keys] : settings) {
-        auto stored = win32::RegistryKey::create(below(Text(settings_key), section));
-        for (const auto& [key, value] : keys) stored.set(key, value);
+        const KeyAddress address{HKEY_CURRENT_USER, below(Text(settings_key), section)};
+        win32::RegistryKey::create(address.path);
+        for (const auto& [key, value] : keys) write_value(address, key, registry_value(value));
     }
 }
 
@@ -97,7 +109,7 @@ void RegistryWorld::add_to(Snapshot& snapshot) const {
     for (const Text& section : subkeys_of(settings.get())) {
         const OpenKey key({HKEY_CURRENT_USER, below(Text(settings_key), section)}, KEY_READ);
         for (const auto& [name, value] : values_of(key.get()))
-            if (const auto* text = std::get_if<Text>(&value)) snapshot.settings[section][name] = *text;
+            if (auto setting = setting_value(value)) snapshot.settings[section][name] = std::move(*setting);
     }
 }
 

@@ -1,11 +1,16 @@
 #include "rehearsal/windows/windows_machine.h"
 
+#include "win32/wide.h"
+
 namespace ornavel::rehearsal {
 
 WindowsMachine::WindowsMachine(const Scenario& scenario, const std::string& source)
     : user_(scenario.user, source), screen_(user_) {}
 
-WindowsMachine::~WindowsMachine() { disk_.clear(); }
+WindowsMachine::~WindowsMachine() {
+    let_go();
+    disk_.clear();
+}
 
 void WindowsMachine::prepare(const Scenario& scenario) {
     disk_.clear();
@@ -15,6 +20,7 @@ void WindowsMachine::prepare(const Scenario& scenario) {
         files_.create_folder(TextView(path).substr(0, path.find_last_of(u'\\')));
         files_.write(path, bytes);
     }
+    SetEnvironmentVariableW(L"APPDATA", win32::wide(application_data(scenario.computer)).c_str());
     change_settings(scenario.settings);
     for (const auto& [key, values] : scenario.registry)
         for (const auto& [name, value] : values) registry_.set(key, name, value);
@@ -28,6 +34,11 @@ Snapshot WindowsMachine::snapshot() const {
 }
 
 void WindowsMachine::change_settings(const SettingsTree& settings) { registry_.change_settings(settings); }
+
+void WindowsMachine::hold(TextView path) {
+    held_.emplace_back(CreateFileW(win32::wide(path).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
+                                   nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
 
 Json WindowsMachine::tray_outcome() const {
     return {{"shown", false}, {"tip", ""}, {"times shown", 0}, {"times removed", 0}, {"menu", Json::array()}};

@@ -4,6 +4,7 @@
 #include "rehearsal/windows/launch_recorder.h"
 #include "rehearsal/windows/registry_world.h"
 #include "rehearsal/windows/screen_user.h"
+#include "win32/handle.h"
 #include "win32/windows_files.h"
 
 namespace ornavel::rehearsal {
@@ -20,6 +21,8 @@ public:
     Files& files() override { return files_; }
     Registry& registry() override { return registry_; }
     void remove_folder(TextView path) override { disk_.remove_folder(path); }
+    void hold(TextView path) override;
+    void let_go() override { held_.clear(); }
     void change_settings(const SettingsTree& settings) override;
     void set_clock(const LocalTime&) override { throw Unusable("clock: native only"); }
     bool tray(const Act&) override { return false; }
@@ -40,6 +43,7 @@ private:
     DiskWorld disk_;
     RegistryWorld registry_;
     win32::WindowsFiles files_;
+    std::vector<win32::Handle> held_;
     LaunchRecorder launches_;
     ScreenUser screen_;
 };

@@ -33,6 +33,35 @@ private:
     }
 };
 
+/// A clock that is asked for the time while something happens.
+class InterruptedClock final : public Clock {
+public:
+    std::function<void()> meanwhile;
+    LocalTime now() const override {
+        if (meanwhile) meanwhile();
+        return {2003, 11, 20, 14, 5, 9};
+    }
+};
+
+/// Settings of which one is asked for while something happens.
+class InterruptedStore final : public settings::Store {
+public:
+    explicit InterruptedStore(settings::Store& store) : store_(store) {}
+    std::function<void()> meanwhile;
+    TextView while_asked_for;
+
+    std::optional<Text> find(TextView section, TextView key) const noexcept override {
+        if (meanwhile && key == while_asked_for) meanwhile();
+        return store_.find(section, key);
+    }
+    void save(TextView section, TextView key, TextView value) noexcept override {
+        store_.save(section, key, value);
+    }
+
+private:
+    settings::Store& store_;
+};
+
 /// Two messages, and a template whose script is asked about while the first one is composed.
 constexpr const char* two_messages = R"({
     "settings": {
@@ -51,9 +80,9 @@ protected:
     }
 
     Platform platform() {
-        return {.settings = stage.machine.addin_settings(),
+        return {.settings = store,
                 .files = stage.machine.addin_files(),
-                .clock = stage.machine.addin_clock(),
+                .clock = clock,
                 .launcher = stage.machine.addin_launcher(),
                 .objects = stage.client,
                 .windows = windows,
@@ -73,6 +102,8 @@ protected:
 
     Stage stage{two_messages};
     InterruptedWindows windows;
+    InterruptedClock clock;
+    InterruptedStore store{stage.machine.addin_settings()};
     std::shared_ptr<Connect> connect = std::make_shared<Connect>(platform());
 };
 
@@ -180,6 +211,31 @@ TEST_F(Reentrancy, AMailClientThatLetsGoOfTheAddInWhileAQuestionIsOpenFindsNothi
     };
     EXPECT_FALSE(send(0));
     EXPECT_EQ(body(0), u"outer");
+    EXPECT_EQ(stage.held(), 0u);
+}
+
+TEST_F(Reentrancy, AMailClientThatLetsGoOfTheAddInWhileAnExplorerClosesFindsNothingHeldAfterwards) {
+    stage.client.add_explorers(1);
+    stage.machine.change_settings({{u"System Settings", {{u"SystemCheck", u"True"}}},
+                                   {u"Admin Settings", {{u"ErrorFileLocation", u"C:\\log.txt"}}}});
+    clock.meanwhile = [&] {
+        if (connect) std::exchange(connect, {})->OnDisconnection(0);
+    };
+    stage.client.close_explorer(0);
+    EXPECT_FALSE(connect);
+    EXPECT_EQ(stage.held(), 0u);
+}
+
+TEST_F(Reentrancy, AMailClientThatLetsGoOfTheAddInWhileAButtonIsPressedFindsNothingHeldAfterwards) {
+    const auto button = stage.client.standard_bar->find(u"EmailMonitor");
+    stage.client.click(*button); // off; the next click asks whether there is a mode "eSignature"
+    store.while_asked_for = u"eSignature";
+    store.meanwhile = [&] {
+        if (connect) std::exchange(connect, {})->OnDisconnection(0);
+    };
+    stage.client.click(*button);
+    EXPECT_FALSE(connect);
+    EXPECT_EQ(mode(), u"eSignature");
     EXPECT_EQ(stage.held(), 0u);
 }
 

@@ -60,6 +60,7 @@ struct ErrorReporterTest : testing::Test {
     Machine machine;
     Creator objects;
     std::shared_ptr<RecordingObject> recipients = std::make_shared<RecordingObject>(mail, u"Recipients");
+    std::shared_ptr<RecordingObject> recipient = std::make_shared<RecordingObject>(mail, u"Recipient");
     std::shared_ptr<RecordingObject> attachments = std::make_shared<RecordingObject>(mail, u"Attachments");
     std::shared_ptr<RecordingObject> inspector = std::make_shared<RecordingObject>(elsewhere);
     std::shared_ptr<RecordingObject> item = std::make_shared<RecordingObject>(elsewhere);
@@ -72,6 +73,7 @@ struct ErrorReporterTest : testing::Test {
         item->values = {{u"GetInspector", host::ObjectPtr(inspector)}};
         inspector->values = {{u"IsWordMail", false}, {u"EditorType", std::int32_t{2}}};
         objects.safe = std::make_shared<RecordingObject>(mail, u"Mail");
+        recipients->values = {{u"Add", host::ObjectPtr(recipient)}};
         objects.safe->values = {{u"Recipients", host::ObjectPtr(recipients)},
                                 {u"Attachments", host::ObjectPtr(attachments)}};
     }
@@ -301,6 +303,20 @@ TEST_F(ErrorReporterTest, AReportWhoseLogCantBeAttachedIsStillSent) {
     prompt.answer = true;
     raise();
     EXPECT_EQ(mail.back(), u"Mail.Send");
+}
+
+TEST_F(ErrorReporterTest, TheRecipientOfAReportIsResolved) {
+    prompt.answer = true;
+    raise();
+    EXPECT_TRUE(did(u"Recipient.Resolve"));
+}
+
+TEST_F(ErrorReporterTest, AReportWhoseRecipientCantBeResolvedIsStillSent) {
+    recipient->failing = {u"Resolve"};
+    prompt.answer = true;
+    raise();
+    EXPECT_EQ(mail.back(), u"Mail.Send");
+    EXPECT_EQ(logged(), line);
 }
 
 TEST_F(ErrorReporterTest, ALogThatCantBeWrittenStopsNeitherQuestionNorMail) {

@@ -33,6 +33,15 @@ public:
         return names;
     }
 
+    std::vector<Text> list_folders(TextView folder) const override {
+        std::vector<Text> names;
+        const Text prefix = Text(folder) + u"\\";
+        for (const auto& path : folders)
+            if (same_name(TextView(path).substr(0, prefix.size()), prefix))
+                names.push_back(path.substr(prefix.size()));
+        return names;
+    }
+
     std::string read(TextView path) const override {
         require_access(path);
         const auto found = contents.find(Text(path));
@@ -54,6 +63,12 @@ public:
     void create_folder(TextView path) override {
         require_access(path);
         folders.insert(Text(path));
+    }
+    void remove_folder(TextView path) override {
+        require_access(path);
+        if (folders.erase(Text(path)) == 0) throw Failure(u"Path not found");
+        const Text prefix = Text(path) + u"\\";
+        std::erase_if(contents, [&](const auto& file) { return file.first.starts_with(prefix); });
     }
     const CodePage& ansi() const override { return windows_1252(); }
 

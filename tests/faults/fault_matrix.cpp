@@ -1,13 +1,15 @@
-// fault_matrix [--samples N FOLDER] SCENARIO.json...: replays each scenario once for each use that the add-in
+// fault_matrix [--samples N FILE] SCENARIO.json...: replays each scenario once for each use that the add-in
 // makes of the mail client, the files, the settings, other programs and windows, and for each kind of fault,
 // with that use going wrong. Prints what came of it; exit code 1 when anything did. With --samples it leaves
-// N of the replays in a folder instead, as scenarios for every binding: those in which a member of the mail
-// client fails.
+// N of the replays in a file instead, as scenarios for every binding: those in which a member of the mail
+// client fails. Memory that the add-in asks for is refused in the same way: each piece in ten scenarios,
+// fifty spread ones in each other.
 #include "rehearsal/native/apart.h"
 #include "rehearsal/native/loaded.h"
 #include "rehearsal/native/native_play.h"
 #include "rehearsal/report/gather.h"
 #include "tests/faults/judge.h"
+#include "tests/faults/scarce_memory.h"
 
 #include "base/encoding.h"
 
@@ -36,7 +38,8 @@ struct Count {
 /// What all replays came to. A replay in which the user's script met other windows than it was written for
 /// has no outcome; all that it shows is that nothing was let out.
 struct Tally {
-    std::size_t runs = 0, escaped = 0, blocked = 0, half_dressed = 0, leaked = 0, silent = 0, unfinished = 0;
+    std::size_t runs = 0, escaped = 0, blocked = 0, half_dressed = 0, leaked = 0, silent = 0, unfinished = 0,
+                without_memory = 0;
 
     void add(const Verdict& verdict) {
         escaped += verdict.escaped;
@@ -53,6 +56,7 @@ struct Tally {
         leaked += other.leaked;
         silent += other.silent;
         unfinished += other.unfinished;
+        without_memory += other.without_memory;
     }
     std::size_t bad() const { return escaped + blocked + half_dressed + leaked + silent; }
 };
@@ -65,9 +69,8 @@ Play play(const Loaded& loaded, Failures& failures) {
     return result;
 }
 
-void tell(const Loaded& loaded, std::size_t use, const Planted& planted, const Verdict& verdict) {
-    std::cerr << loaded.source << ": use " << use << " (" << to_utf8(planted.use.subject) << ", "
-              << kind_names[static_cast<int>(planted.fault)] << "):" << (verdict.escaped ? " escaped" : "")
+void tell(const Loaded& loaded, const std::string& fault, const Verdict& verdict) {
+    std::cerr << loaded.source << ": " << fault << ":" << (verdict.escaped ? " escaped" : "")
               << (verdict.blocked ? " blocked" : "") << (verdict.half_dressed ? " half-dressed" : "")
               << (verdict.leaked ? " leaked" : "") << (verdict.silent ? " silent" : "") << '\n';
 }
@@ -82,19 +85,62 @@ void replay(const Loaded& loaded, const Play& sound, std::size_t use, Fault faul
         const Planted planted{fault, failures.uses().at(use - 1)};
         const Verdict verdict = judge(loaded.scenario, sound, faulty, planted);
         tally.add(verdict);
-        if (!verdict.good()) tell(loaded, use, planted, verdict);
+        if (!verdict.good())
+            tell(loaded,
+                 "use " + std::to_string(use) + " (" + to_utf8(planted.use.subject) + ", " +
+                     kind_names[static_cast<int>(planted.fault)] + ")",
+                 verdict);
     } catch (const Unusable&) {
         ++tally.runs;
         ++tally.unfinished;
     }
 }
 
-Tally replay_all(const Loaded& loaded) {
+/// With memory that is refused once, or from then on.
+void replay_without_memory(const Loaded& loaded, const Play& sound, std::size_t first_refused,
+                           ScarceMemory::Lasts lasts, Tally& tally) {
+    Failures failures(loaded.scenario.fail);
+    ++tally.runs;
+    ++tally.without_memory;
+    try {
+        const ScarceMemory memory(first_refused, lasts);
+        const Play faulty = play(loaded, failures);
+        const Verdict verdict = judge_without_memory(loaded.scenario, sound, faulty);
+        tally.add(verdict);
+        if (!verdict.good())
+            tell(loaded,
+                 "allocation " + std::to_string(first_refused) +
+                     (lasts == ScarceMemory::Lasts::once ? "" : " and all that follow"),
+                 verdict);
+    } catch (const Unusable&) {
+        ++tally.unfinished;
+    }
+}
+
+std::size_t allocations_of(const Loaded& loaded) {
+    Failures failures(loaded.scenario.fail);
+    const ScarceMemory memory;
+    play(loaded, failures);
+    return memory.asked();
+}
+
+void replay_without_memory(const Loaded& loaded, const Play& sound, bool whole, Tally& tally) {
+    constexpr std::size_t spread = 50;
+    const std::size_t asked = allocations_of(loaded), tries = whole ? asked : std::min(spread, asked);
+    for (std::size_t i = 0; i < tries; ++i) {
+        const std::size_t allocation = 1 + i * asked / tries;
+        for (const auto lasts : {ScarceMemory::Lasts::once, ScarceMemory::Lasts::from_then_on})
+            replay_without_memory(loaded, sound, allocation, lasts, tally);
+    }
+}
+
+Tally replay_all(const Loaded& loaded, bool every_allocation) {
     Failures failures(loaded.scenario.fail);
     const Play sound = play(loaded, failures);
     Tally tally;
     for (std::size_t use = 1; use <= failures.uses().size(); ++use)
         for (const Fault fault : kinds) replay(loaded, sound, use, fault, tally);
+    replay_without_memory(loaded, sound, every_allocation, tally);
     return tally;
 }
 
@@ -123,11 +169,13 @@ std::size_t run_in_processes(std::size_t tasks, const std::function<void(std::si
 
 Tally replay_everything(const std::vector<std::string>& files) {
     const auto all = load(files, Binding::native);
+    constexpr std::size_t ten_wholly = 10;
     const ScratchFolder scratch;
     const auto result = [&](std::size_t i) { return scratch / std::to_string(i); };
     Tally sum;
     sum.escaped = run_in_processes(all.size(), [&](std::size_t i) {
-        const Tally tally = replay_all(all[i]);
+        const bool every_allocation = i * ten_wholly / all.size() != (i + 1) * ten_wholly / all.size();
+        const Tally tally = replay_all(all[i], every_allocation);
         std::ofstream(result(i), std::ios::binary).write(reinterpret_cast<const char*>(&tally), sizeof tally);
     });
     for (std::size_t i = 0; i < all.size(); ++i) {
@@ -184,6 +232,7 @@ void leave_samples(std::size_t wanted, const std::string& suite, const std::vect
 
 int print(const Tally& tally) {
     const Count rows[] = {{"runs", tally.runs},
+                          {"of these without memory", tally.without_memory},
                           {"escapes", tally.escaped},
                           {"sends blocked by a fault", tally.blocked},
                           {"half-dressed items", tally.half_dressed},

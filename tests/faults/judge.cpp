@@ -4,6 +4,7 @@
 #include "rehearsal/report/reasons.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace ornavel::faults {
 namespace {
@@ -28,7 +29,9 @@ bool may_cancel(const Send& send, const Play& sound, const Play& faulty, const P
     const auto before = std::ranges::find(sound.sends, send.act, &Send::act);
     if (before != sound.sends.end() && before->cancelled) return true;
     const bool later_send = send.act > planted.use.act;
-    return (is_a_value(planted) || later_send || met_nobody(faulty.outcome)) &&
+    // A window that has no memory to take its user's answer is closed by its frame.
+    const bool lost_an_answer = planted.is_memory && !faulty.outcome.at("windows").empty();
+    return (is_a_value(planted) || later_send || lost_an_answer || met_nobody(faulty.outcome)) &&
            !report::left_at(send).empty();
 }
 
@@ -123,6 +126,14 @@ Verdict judge(const Scenario& scenario, const Play& sound, const Play& faulty, c
     for (std::size_t i = 0; i < scenario.items.size(); ++i)
         verdict.half_dressed |= half_dressed(scenario.items[i], sound.outcome.at("items").at(i),
                                              faulty.outcome.at("items").at(i), planted);
+    return verdict;
+}
+
+Verdict judge_without_memory(const Scenario& scenario, const Play& sound, const Play& faulty) {
+    // Judged like a file that can't be read: it loses no text.
+    const Planted planted{Fault::failure, {Failing::Kind::read_file, u"", 0}, true};
+    Verdict verdict = judge(scenario, sound, faulty, planted);
+    verdict.silent = false;
     return verdict;
 }
 

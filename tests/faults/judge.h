@@ -14,6 +14,7 @@ struct Play {
 struct Planted {
     rehearsal::Fault fault;
     rehearsal::Failures::Use use; ///< the one that it struck
+    bool is_memory = false;       ///< memory was refused instead, at no particular use
 };
 
 /// What must not happen. `blocked`: a send was cancelled although no gate decided so. `half_dressed`: an item
@@ -26,5 +27,9 @@ struct Verdict {
 
 Verdict judge(const rehearsal::Scenario& scenario, const Play& sound, const Play& faulty,
               const Planted& planted);
+
+/// The same for a play in which the add-in was refused memory. It may be silent: a line in the log takes
+/// memory, too.
+Verdict judge_without_memory(const rehearsal::Scenario& scenario, const Play& sound, const Play& faulty);
 
 } // namespace ornavel::faults

@@ -1,6 +1,7 @@
 #include "tests/settings/store_contract.h"
 #include "win32/registry.h"
 #include "win32/registry_store.h"
+#include "win32/wide.h"
 
 namespace ornavel::win32 {
 
@@ -27,15 +28,14 @@ namespace ornavel::win32 {
 class RegistryValues : public testing::Test {
 protected:
     /// Stores bytes as another program might have done.
-    void plant(DWORD type, std::wstring_view units) {
+    void plant(DWORD type, std::wstring_view units) { plant(contract_key, L"Planted", type, units); }
+    void plant(TextView path, const wchar_t* name, DWORD type, std::wstring_view units) {
         HKEY key = nullptr;
-        const std::wstring path(contract_key.begin(), contract_key.end());
-        ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &key,
-                                  nullptr),
+        ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, wide(path).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr,
+                                  &key, nullptr),
                   0);
         const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t));
-        EXPECT_EQ(RegSetValueExW(key, L"Planted", 0, type, reinterpret_cast<const BYTE*>(units.data()), size),
-                  0);
+        EXPECT_EQ(RegSetValueExW(key, name, 0, type, reinterpret_cast<const BYTE*>(units.data()), size), 0);
         RegCloseKey(key);
     }
     std::optional<Text> planted() { return registry_.store().find(u"Contract", u"Planted"); }
@@ -51,6 +51,25 @@ TEST_F(RegistryValues, AStringStoredWithoutItsNulIsWhole) {
 TEST_F(RegistryValues, NulsTooManyAreNoPartOfTheValue) {
     plant(REG_SZ, {L"True\0\0\0", 7});
     EXPECT_EQ(planted(), u"True");
+}
+
+TEST_F(RegistryValues, ATextEndsAtItsFirstNul) {
+    plant(REG_SZ, {L"True\0what was here before", 24});
+    EXPECT_EQ(planted(), u"True");
+    plant(REG_SZ, {L"\0", 1});
+    EXPECT_EQ(planted(), u"");
+}
+
+TEST_F(RegistryValues, AnExpandableTextIsExpandedForASettingThatIsAPath) {
+    constexpr TextView admin = u"Software\\VB and VBA Program Settings\\Ornavel\\Admin Settings";
+    SetEnvironmentVariableW(L"ORNAVEL_TEST", L"C:\\Stationery");
+    plant(admin, L"HTM Files Path", REG_EXPAND_SZ, L"%ORNAVEL_TEST%\\Templates\\%ORNAVEL_NONE%");
+    plant(admin, L"SigFullname", REG_EXPAND_SZ, L"%ORNAVEL_TEST%");
+    EXPECT_EQ(registry_.store().find(u"Admin Settings", u"HTM Files Path"),
+              u"C:\\Stationery\\Templates\\%ORNAVEL_NONE%");
+    EXPECT_EQ(registry_.store().find(u"Admin Settings", u"SigFullname"), std::nullopt);
+    SetEnvironmentVariableW(L"ORNAVEL_TEST", nullptr);
+    remove_key(admin);
 }
 
 TEST_F(RegistryValues, OtherTypesReadAsAbsent) {
@@ -87,6 +106,92 @@ TEST_F(RegistryValues, NamesThatTheRegistryRefusesChangeNothing) {
     const Text too_long(300, u'x');
     registry_.store().save(u"Contract\\" + too_long, u"Template", u"x");
     EXPECT_EQ(registry_.store().find(u"Contract\\" + too_long, u"Template"), std::nullopt);
+}
+
+/// Waits until the system's clock has gone on: so long a reader may miss that a key was made or renamed.
+void wait_for_tick() {
+    const DWORD now = GetTickCount();
+    while (GetTickCount() == now) Sleep(1);
+}
+
+/// Renames a key, as no function of the registry's own does before Windows XP.
+void rename_key(TextView path, std::wstring name) {
+    struct {
+        USHORT length, size;
+        wchar_t* text;
+    } wanted{static_cast<USHORT>(name.size() * 2), static_cast<USHORT>(name.size() * 2), name.data()};
+    using Rename = LONG(WINAPI*)(HKEY, void*);
+    const auto rename = reinterpret_cast<Rename>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtRenameKey")));
+    HKEY key = nullptr;
+    ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, wide(path).c_str(), 0, KEY_ALL_ACCESS, &key), 0);
+    EXPECT_EQ(rename(key, &wanted), 0);
+    RegCloseKey(key);
+}
+
+TEST_F(RegistryValues, AKeyThatIsRemovedOrMadeBetweenReadingsIsNoticedAtOnce) {
+    plant(REG_SZ, L"first");
+    EXPECT_EQ(planted(), u"first");
+    remove_key(contract_key);
+    EXPECT_EQ(planted(), std::nullopt);
+    plant(REG_SZ, L"second");
+    EXPECT_EQ(planted(), u"second");
+}
+
+TEST_F(RegistryValues, AKeyThatIsRemovedAndMadeAnewBetweenReadingsIsReadAnewAtOnce) {
+    plant(REG_SZ, L"first");
+    EXPECT_EQ(planted(), u"first");
+    remove_key(contract_key);
+    plant(REG_SZ, L"second");
+    EXPECT_EQ(planted(), u"second");
+}
+
+TEST_F(RegistryValues, AKeyThatIsRenamedBetweenReadingsIsNoLongerTheSections) {
+    constexpr TextView renamed = u"Software\\VB and VBA Program Settings\\Ornavel\\Contract away";
+    plant(REG_SZ, L"first");
+    wait_for_tick();
+    EXPECT_EQ(planted(), u"first");
+    rename_key(contract_key, L"Contract away");
+    wait_for_tick();
+    EXPECT_EQ(planted(), std::nullopt);
+    rename_key(renamed, L"Contract");
+    wait_for_tick();
+    EXPECT_EQ(planted(), u"first");
+}
+
+TEST_F(RegistryValues, AKeyThatAnotherTakesThePlaceOfIsNoLongerRead) {
+    constexpr TextView away = u"Software\\VB and VBA Program Settings\\Ornavel\\Contract away";
+    plant(REG_SZ, L"first");
+    wait_for_tick();
+    EXPECT_EQ(planted(), u"first");
+    rename_key(contract_key, L"Contract away");
+    plant(REG_SZ, L"second");
+    wait_for_tick();
+    EXPECT_EQ(planted(), u"second");
+    remove_key(away);
+}
+
+TEST_F(RegistryValues, TheKeyOfAllSettingsMayBeReplacedToo) {
+    plant(REG_SZ, L"first");
+    wait_for_tick();
+    EXPECT_EQ(planted(), u"first");
+    rename_key(u"Software\\VB and VBA Program Settings\\Ornavel", L"Ornavel away");
+    wait_for_tick();
+    EXPECT_EQ(planted(), std::nullopt);
+    plant(REG_SZ, L"second");
+    wait_for_tick();
+    EXPECT_EQ(planted(), u"second");
+    remove_key(u"Software\\VB and VBA Program Settings\\Ornavel");
+    rename_key(u"Software\\VB and VBA Program Settings\\Ornavel away", L"Ornavel");
+}
+
+TEST_F(RegistryValues, WhatWasJustSavedIsReadNextWhateverHappenedToTheKey) {
+    plant(REG_SZ, L"first");
+    EXPECT_EQ(planted(), u"first");
+    rename_key(contract_key, L"Contract away");
+    registry_.store().save(u"Contract", u"Planted", u"second");
+    EXPECT_EQ(planted(), u"second");
+    remove_key(u"Software\\VB and VBA Program Settings\\Ornavel\\Contract away");
 }
 
 } // namespace ornavel::win32

@@ -1,6 +1,7 @@
 #include "win32/windows_files.h"
 
 #include "base/errors.h"
+#include "win32/handle.h"
 #include "win32/wide.h"
 
 #include <gtest/gtest.h>
@@ -51,6 +52,23 @@ TEST_F(Disk, AWriteReplacesAndAnAppendAdds) {
     EXPECT_EQ(files.read(in_folder(u"log.txt")), "");
 }
 
+constexpr int lines_of_each = 2000;
+
+DWORD WINAPI append_lines(void* path) {
+    WindowsFiles files;
+    for (int line = 0; line < lines_of_each; ++line)
+        files.append(static_cast<const Text*>(path)->c_str(), "line\r\n");
+    return 0;
+}
+
+TEST_F(Disk, TwoThatAppendToOneFileAtTheSameTimeLoseNoLine) {
+    Text path = in_folder(u"log.txt");
+    const Handle other(CreateThread(nullptr, 0, append_lines, &path, 0, nullptr));
+    append_lines(&path);
+    EXPECT_EQ(WaitForSingleObject(other.get(), 60'000), WAIT_OBJECT_0);
+    EXPECT_EQ(files.read(path).size(), 2 * lines_of_each * std::string_view("line\r\n").size());
+}
+
 TEST_F(Disk, LargeFilesAreReadWhole) {
     const std::string bytes(100'001, 'x');
     files.write(in_folder(u"large.htm"), bytes);
@@ -64,6 +82,23 @@ TEST_F(Disk, AListHasFilesOnlyInOrderWithoutCase) {
     EXPECT_EQ(files.list(folder), expected);
     EXPECT_EQ(files.list(folder + u"\\"), expected);
     RemoveDirectoryW(wide(in_folder(u"aa")).c_str());
+}
+
+TEST_F(Disk, AListOfFoldersHasNoFiles) {
+    files.write(in_folder(u"a.htm"), "");
+    for (const TextView name : {u"b", u"A"}) files.create_folder(in_folder(name));
+    EXPECT_EQ(files.list_folders(folder), (std::vector<Text>{u"A", u"b"}));
+    EXPECT_TRUE(files.list_folders(in_folder(u"missing")).empty());
+    for (const TextView name : {u"b", u"A"}) files.remove_folder(in_folder(name));
+}
+
+TEST_F(Disk, ARemovedFolderIsGoneWithEverythingInIt) {
+    files.create_folder(in_folder(u"one\\two"));
+    files.write(in_folder(u"one\\a.gif"), "x");
+    files.write(in_folder(u"one\\two\\b.gif"), "x");
+    files.remove_folder(in_folder(u"one"));
+    EXPECT_FALSE(files.folder_exists(in_folder(u"one")));
+    EXPECT_THROW(files.remove_folder(in_folder(u"one")), Failure);
 }
 
 TEST_F(Disk, WhatIsNotAFolderHasNoFiles) {

@@ -51,12 +51,10 @@ public:
         return fs::is_directory(native_path(path), error);
     }
     std::vector<Text> list(TextView folder) const override {
-        std::vector<Text> names;
-        std::error_code error;
-        for (const auto& entry : fs::directory_iterator(native_path(folder), error))
-            if (entry.is_regular_file(error)) names.push_back(from_utf8(entry.path().filename().string()));
-        std::ranges::sort(names, name_before);
-        return names;
+        return names_in(folder, [](const fs::directory_entry& entry) { return entry.is_regular_file(); });
+    }
+    std::vector<Text> list_folders(TextView folder) const override {
+        return names_in(folder, [](const fs::directory_entry& entry) { return entry.is_directory(); });
     }
     std::string read(TextView path) const override {
         const fs::path file = native_path(path);
@@ -81,9 +79,23 @@ public:
         fs::create_directories(native_path(path), error);
         if (error) fail(path, error.message());
     }
+    void remove_folder(TextView path) override {
+        std::error_code error;
+        fs::remove_all(native_path(path), error);
+        if (error) fail(path, error.message());
+    }
     const CodePage& ansi() const override { return windows_1252(); }
 
 private:
+    template <class Wanted>
+    static std::vector<Text> names_in(TextView folder, Wanted wanted) {
+        std::vector<Text> names;
+        std::error_code error;
+        for (const auto& entry : fs::directory_iterator(native_path(folder), error))
+            if (wanted(entry)) names.push_back(from_utf8(entry.path().filename().string()));
+        std::ranges::sort(names, name_before);
+        return names;
+    }
     static void put(TextView path, std::string_view bytes, std::ios::openmode how) {
         std::ofstream stream(native_path(path), std::ios::binary | how);
         stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

@@ -1,0 +1,39 @@
+#include "rehearsal/native/memory_settings.h"
+
+#include <algorithm>
+
+namespace ornavel::rehearsal {
+
+std::optional<Text> MemorySettings::find(TextView section, TextView key) const {
+    const auto values = sections_.find(section);
+    if (values == sections_.end()) return {};
+    const auto entry = values->second.find(key);
+    if (entry == values->second.end()) return {};
+    if (const auto* text = std::get_if<Text>(&entry->second)) return *text;
+    if (!settings::is_path(section, key)) return {};
+    return expanded(stored_text(entry->second));
+}
+
+void MemorySettings::save(TextView section, TextView key, SettingValue value) {
+    sections_.try_emplace(Text(section)).first->second.try_emplace(Text(key)).first->second =
+        std::move(value);
+}
+
+Text MemorySettings::expanded(Text text) const {
+    for (auto begin = text.find(u'%'); begin != Text::npos;) {
+        const auto end = text.find(u'%', begin + 1);
+        if (end == Text::npos) break;
+        const TextView name = TextView(text).substr(begin + 1, end - begin - 1);
+        const auto known =
+            std::ranges::find_if(environment_, [&](const auto& v) { return same_name(v.first, name); });
+        if (known == environment_.end()) {
+            begin = end;
+            continue;
+        }
+        text.replace(begin, end + 1 - begin, known->second);
+        begin = text.find(u'%', begin + known->second.size());
+    }
+    return text;
+}
+
+} // namespace ornavel::rehearsal
