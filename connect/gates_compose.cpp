@@ -1,4 +1,5 @@
 #include "connect/gates.h"
+#include "connect/send_pipeline.h"
 
 #include "compose/plain_text.h"
 #include "host/stamps.h"
@@ -50,7 +51,7 @@ compose::Composed composed_body(Send& send, bool plain_text, compose::Purpose pu
 Verdict compose_body(Send& send) {
     send.session.processed = true;
     if (send.preview.send_plain) return Verdict::off;
-    record_gate(send, u"Auto Preview Send Plain check OK");
+    record_gate(send, composition_began);
     attach_vcard(send);
     const compose::Outcome outcome = dress(send);
     if (outcome == compose::Outcome::composed) return Verdict::next;

@@ -1,4 +1,5 @@
 #include "connect/gates.h"
+#include "connect/send_pipeline.h"
 
 namespace ornavel::connect {
 namespace {
@@ -27,7 +28,7 @@ Verdict load_reply_marker(Send& send) {
     trace(send, u"Just before MyMessItem is called- line 1001");
     const TextKey& marker =
         older_host || is_plain_text(send) ? system::MyReplySearchString : system::Office2003SearchString;
-    trace(send, u"Just after MyMessItem is called- line 1002");
+    trace(send, marker_was_loaded);
     send.reply.marker = read(send.settings(), marker);
     return Verdict::next;
 }

@@ -30,6 +30,11 @@ using Task = std::function<Exit(Context&)>;
 /// Each adds its subcommand, which sets the task.
 void add_compose(CLI::App& program, Task& task);
 void add_lint(CLI::App& program, Task& task);
+void add_settings(CLI::App& program, Task& task);
+void add_explain(CLI::App& program, Task& task);
+void add_doctor(CLI::App& program, Task& task);
+void add_policy(CLI::App& program, Task& task);
+void add_presets(CLI::App& program, Task& task);
 
 /// Prints a text in UTF-8.
 std::ostream& operator<<(std::ostream& stream, TextView text);

@@ -40,6 +40,11 @@ int run_program(std::vector<std::string> words, const Machine& machine) {
     Task task;
     add_compose(program, task);
     add_lint(program, task);
+    add_settings(program, task);
+    add_explain(program, task);
+    add_policy(program, task);
+    add_doctor(program, task);
+    add_presets(program, task);
     if (const int code = parse(program, std::move(words), machine); code != fine) return std::max(code, 0);
 
     Context context{Drives(machine.files), machine.clock, machine.out, machine.err};
@@ -58,11 +63,6 @@ int run(std::vector<std::string> words, const Machine& machine) noexcept {
     if (!attempt([&] { code = run_program(std::move(words), machine); }))
         attempt([&] { machine.err << "ornavel: there is not enough memory\n"; });
     return code;
-}
-
-Text at(TextView path, Place place, TextView what) {
-    return Text(path) + u":" + to_text(static_cast<long long>(place.line)) + u":" +
-           to_text(static_cast<long long>(place.column)) + u": " + Text(what);
 }
 
 std::ostream& operator<<(std::ostream& stream, TextView text) { return stream << to_utf8(text); }

@@ -24,6 +24,20 @@ bool chooses(const UserEntry& entry) {
     });
 }
 
+settings::RegValue::Kind kind_of(const SettingValue& value) {
+    using enum settings::RegValue::Kind;
+    return std::holds_alternative<ExpandText>(value) ? expand_text : text;
+}
+
+/// Only the machine itself knows what stands behind %NAME%.
+bool has_variable(const SettingsTree& sections) {
+    for (const auto& [section, values] : sections)
+        for (const auto& [name, value] : values)
+            if (kind_of(value) == settings::RegValue::Kind::expand_text && contains(stored_text(value), u"%"))
+                return true;
+    return false;
+}
+
 bool survives(const Text& text) { return from_utf8(to_utf8(text)) == text; }
 
 std::string obstacle_in(const Scenario& scenario, const Item& item) {
@@ -33,6 +47,7 @@ std::string obstacle_in(const Scenario& scenario, const Item& item) {
         return "something else happens before or after the send";
     if (!scenario.fail.empty()) return "something fails";
     if (std::ranges::any_of(scenario.user, chooses)) return "the user chooses something in a form";
+    if (has_variable(scenario.settings)) return "a path names an environment variable";
     if (!item.links.empty()) return "the message is linked to contacts";
     if (item.html_body.empty() && item.is_word_mail) return "the message is in a document of Word";
     if (!survives(item.html_body) || !survives(item.body))
@@ -48,7 +63,7 @@ std::string settings_file(const SettingsTree& sections) {
     for (const auto& [section, values] : sections) {
         keys.push_back({Text(settings::registry_area) + u"\\" + section});
         for (const auto& [name, value] : values)
-            keys.back().values.push_back({name, settings::RegValue::Kind::text, value});
+            keys.back().values.push_back({name, kind_of(value), stored_text(value)});
     }
     return settings::write_reg_file(keys, windows_1252());
 }

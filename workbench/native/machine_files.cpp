@@ -1,6 +1,7 @@
 #include "workbench/machine_files.h"
 
 #include "base/errors.h"
+#include "workbench/drives.h"
 
 #include <algorithm>
 #include <ctime>
@@ -96,8 +97,11 @@ private:
         std::ranges::sort(names, name_before);
         return names;
     }
+    /// The name is taken as it is: to look for it in another case would cost a walk of the folder for each
+    /// file.
     static void put(TextView path, std::string_view bytes, std::ios::openmode how) {
-        std::ofstream stream(native_path(path), std::ios::binary | how);
+        const fs::path target = native_path(folder_of(path)) / to_utf8(name_of_file(path));
+        std::ofstream stream(target, std::ios::binary | how);
         stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         stream.close();
         if (!stream) fail(path, "can't be written");
