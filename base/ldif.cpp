@@ -38,9 +38,9 @@ bool LdifReader::next(LdifEntry& entry) {
             if (!entry.attributes.empty()) return true;
             continue;
         }
-        if (line.starts_with('#')) continue;
+        if (line.starts_with('#') || line.starts_with("version:")) continue;
         if (entry.line == 0) entry.line = line_begin_;
-        if (!line.starts_with("version:")) take(line, entry);
+        take(line, entry);
     }
     return !entry.attributes.empty();
 }
