@@ -1,5 +1,7 @@
 #include "base/files.h"
 
+#include "base/errors.h"
+
 #include <algorithm>
 
 namespace ornavel {
@@ -12,6 +14,19 @@ Text read_lines(const Files& files, TextView path, TextView after_each_line) {
     result.reserve(whole.size() + after_each_line.size());
     for (const Text& line : lines_of(whole)) result.append(line).append(after_each_line);
     return result;
+}
+
+void write_whole(Files& files, TextView path, std::string_view bytes) {
+    const Text unfinished = Text(path) + u".new";
+    try {
+        files.write(unfinished, bytes);
+        files.move(unfinished, path);
+    } catch (...) {
+        attempt([&] {
+            if (files.file_exists(unfinished)) files.remove(unfinished);
+        });
+        throw;
+    }
 }
 
 std::optional<Text> first_html_file(const Files& files, TextView folder) {

@@ -27,11 +27,16 @@ public:
     /// Creates the file when it is missing.
     virtual void append(TextView path, std::string_view bytes) = 0;
     virtual void remove(TextView path) = 0;
+    /// In one step: who looks at the new place sees what was there before, or all of the file. What was there
+    /// is replaced. Both places are on one drive.
+    virtual void move(TextView from, TextView to) = 0;
 
     /// Creates the folder and those above it that are missing.
     virtual void create_folder(TextView path) = 0;
     /// With everything in it. What a folder that leads elsewhere leads to stays.
     virtual void remove_folder(TextView path) = 0;
+    /// Whether a folder is a name for another one.
+    virtual bool leads_elsewhere(TextView folder) const = 0;
 
     /// The machine's ANSI code page.
     virtual const CodePage& ansi() const = 0;
@@ -42,6 +47,10 @@ Text read_text(const Files& files, TextView path);
 
 /// The lines of a file, joined again with each followed by the given end.
 Text read_lines(const Files& files, TextView path, TextView after_each_line);
+
+/// Creates the file or replaces what it held, so that nobody ever sees half of it, and that what it held
+/// stays where that can't be done: under a name of its own first, then moved.
+void write_whole(Files& files, TextView path, std::string_view bytes);
 
 /// The first file of the folder whose lower-cased name ends in ".htm" or ".html"; nothing when there is none.
 std::optional<Text> first_html_file(const Files& files, TextView folder);

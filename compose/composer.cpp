@@ -3,6 +3,7 @@
 #include "compose/composition.h"
 #include "compose/insertions.h"
 #include "compose/merge.h"
+#include "compose/signature_files.h"
 
 namespace ornavel::compose {
 namespace {
@@ -132,7 +133,8 @@ std::vector<TrapName> traps() {
     for (const TextView place : {reply_cut, merge_group})
         all.push_back({any_step.sub_function, any_step.section, place});
     for (const TrapName& other :
-         {next_appointment_trap, next_quote_trap, boilerplate_trap, signature_file_trap})
+         {next_appointment_trap, next_quote_trap, boilerplate_trap, signature_file_trap,
+          signature_folder_trap, one_signature_trap, text_signature_trap})
         all.push_back(other);
     return all;
 }

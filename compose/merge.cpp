@@ -51,9 +51,9 @@ std::size_t Merge::apply(Text& text) const {
     return failures;
 }
 
-void merge_signature_file(Text& text, const Store& settings, ErrorSink& errors) noexcept {
+void merge_signature_file(Text& text, const Merge& merge, ErrorSink& errors) noexcept {
     trap(errors, signature_file_trap, [&] {
-        for (auto failures = Merge::of_signature_file(settings).apply(text); failures > 0; --failures)
+        for (auto failures = merge.apply(text); failures > 0; --failures)
             trap(errors, signature_file_trap, [] { throw TextTooLarge(); });
     });
 }

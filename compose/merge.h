@@ -41,6 +41,6 @@ private:
 inline constexpr TrapName signature_file_trap{u"merge_signature_file", u"Merge_Err"};
 
 /// Merges one signature text. A failure is written to the error log.
-void merge_signature_file(Text& text, const settings::Store& settings, ErrorSink& errors) noexcept;
+void merge_signature_file(Text& text, const Merge& merge, ErrorSink& errors) noexcept;
 
 } // namespace ornavel::compose

@@ -74,8 +74,9 @@ void Connect::OnStartupComplete() noexcept {
 void Connect::start_up() noexcept {
     Session& session = *session_;
     session.started = true;
-    attempt([&] { read_working_folders(session); });
     prepare_environment(session);
+    // Behind the imports, which may set them.
+    attempt([&] { read_working_folders(session); });
     add_buttons(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
     attempt([&] { session.start_up.usage_log = compose::Get_Marketing_Info(session.platform.settings); });

@@ -7,6 +7,7 @@
 #include "base/system_information.h"
 #include "connect/verdict.h"
 #include "forms/string_table.h"
+#include "forms/tray.h"
 #include "forms/windows.h"
 #include "host/object.h"
 #include "settings/store.h"
@@ -38,6 +39,7 @@ struct Platform {
     /// nobody watches.
     std::function<void(TextView gate, Verdict)> on_gate = {};
     std::function<void(TrapName)> on_trap = {};
+    forms::Tray* tray = nullptr; ///< null where there is no notification area
 };
 
 } // namespace ornavel::connect

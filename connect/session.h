@@ -5,6 +5,7 @@
 #include "diagnostics/error_reporter.h"
 #include "forms/frmBrowser.h"
 #include "forms/frmMessage.h"
+#include "forms/frmSysTray.h"
 #include "host/application.h"
 
 namespace ornavel::connect {
@@ -54,6 +55,7 @@ struct Session {
     bool internal = false;
     bool dialog_answer = true; ///< the send-options form's answer
     Text language;
+    std::shared_ptr<forms::frmSysTray> tray_form; ///< while the administrator's icon is shown
 };
 
 /// What the start-up reads of the folders that the add-in works in.

@@ -4,8 +4,8 @@ namespace ornavel::connect {
 
 struct Session;
 
-/// The administrator's icon in the notification area comes with the tray menu; until then nothing is shown.
-inline void show_tray_icon(Session&) noexcept {}
-inline void remove_tray_icon(Session&) noexcept {}
+/// The administrator's icon in the notification area; where there is no such area, nothing.
+void show_tray_icon(Session& session) noexcept;
+void remove_tray_icon(Session& session) noexcept;
 
 } // namespace ornavel::connect

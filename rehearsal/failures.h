@@ -28,6 +28,8 @@ public:
     void begin_act(std::size_t act) { act_ = act; }
     /// Every use so far, in order.
     const std::vector<Use>& uses() const { return uses_; }
+    /// Keeps nothing of the uses so far.
+    void forget() { uses_ = {}; }
     /// Whether the planted fault has had its effect.
     bool has_struck() const { return struck_; }
 

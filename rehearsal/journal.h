@@ -54,6 +54,8 @@ public:
         }
     }
     const std::vector<JournalEntry>& entries() const { return entries_; }
+    /// Keeps nothing of what has happened.
+    void forget() { entries_ = {}; }
     /// How many uses of the mail client's members an act made.
     std::size_t host_uses(std::size_t act) const;
 

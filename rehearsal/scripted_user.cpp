@@ -42,4 +42,14 @@ Json answer_message_box(ScriptedUser& user, TextView title, TextView text, Butto
     return record;
 }
 
+Json answer_input_box(ScriptedUser& user, TextView title, TextView prompt, TextView prefilled) {
+    const auto entry = user.meet(title);
+    if (entry && !entry->steps.empty()) user.complain(*entry, "the box takes an answer only");
+    Json record{
+        {"input box", to_json(title)}, {"prompt", to_json(prompt)}, {"prefilled", to_json(prefilled)}};
+    record["answer"] = entry && entry->answer ? to_json(*entry->answer) : Json();
+    if (!entry) record["unexpected"] = true;
+    return record;
+}
+
 } // namespace ornavel::rehearsal

@@ -73,7 +73,8 @@ connect::Platform Machine::platform(IUnknown* owner) {
             .machine = information_,
             .addin_folder = addin_folder(),
             .user_folder = user_folder(),
-            .keep = keep};
+            .keep = keep,
+            .tray = &tray_};
 }
 
 HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {

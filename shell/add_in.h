@@ -5,6 +5,7 @@
 #include "win32/com_objects.h"
 #include "win32/extensibility.h"
 #include "win32/machine.h"
+#include "win32/notification_icon.h"
 #include "win32/registry_store.h"
 #include "win32/system_information.h"
 #include "win32/this_module.h"
@@ -27,6 +28,7 @@ private:
     win32::DesktopWindows windows_;
     win32::ResourceStrings strings_{win32::this_module()};
     win32::WindowsInformation information_;
+    win32::NotificationIcon tray_;
 };
 
 /// The class that the mail client creates. Whatever happens inside, its handlers answer S_OK.

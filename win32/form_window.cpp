@@ -2,6 +2,7 @@
 
 #include "forms/screen_place.h"
 #include "forms/unloading.h"
+#include "win32/message_box.h"
 #include "win32/modality.h"
 #include "win32/program_icon.h"
 #include "win32/screens.h"
@@ -82,7 +83,10 @@ void FormWindow::find_place() {
 void FormWindow::run() {
     ShowWindow(window_, SW_SHOW);
     SetForegroundWindow(window_);
-    SetFocus(first_focus());
+    const HWND first = first_focus();
+    SetFocus(first);
+    // As with the Tab key: what the user types replaces what a box brought along.
+    if (SendMessageW(first, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) SendMessageW(first, EM_SETSEL, 0, -1);
     MSG message;
     while (form_.is_loaded()) {
         if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
@@ -159,7 +163,7 @@ HWND FormWindow::first_focus() const {
 void show_form_modally(forms::Form& form) {
     const forms::Unloading at_the_end(form);
     FormWindow window(form);
-    window.open(GetActiveWindow());
+    window.open(owner_of_boxes());
     // The owner is enabled before the window goes, or the system would activate another program's window.
     const Modality modality(window.window());
     window.run();

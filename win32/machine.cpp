@@ -1,6 +1,7 @@
 #include "win32/machine.h"
 
 #include "win32/form_window.h"
+#include "win32/handle.h"
 #include "win32/message_box.h"
 #include "win32/wide.h"
 
@@ -8,6 +9,14 @@
 
 namespace ornavel::win32 {
 namespace {
+
+Text windows_folder() {
+    wchar_t folder[MAX_PATH];
+    // On a server with several users each has a Windows folder of their own, without its programs.
+    const UINT length = GetSystemWindowsDirectoryW(folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH) fail(u"The Windows folder", GetLastError());
+    return text_of({folder, length});
+}
 
 int show_command(WindowState window) {
     switch (window) {
@@ -65,8 +74,25 @@ void ShellLauncher::launch(TextView program, TextView arguments, WindowState win
     if (outcome <= last_error_code) fail(program, error_of(outcome));
 }
 
+Progress ShellLauncher::run_windows_program(TextView name, TextView arguments, WindowState window,
+                                            int milliseconds) {
+    const std::wstring program = wide(windows_folder() + u"\\" + Text(name)), words = wide(arguments);
+    SHELLEXECUTEINFOW start{};
+    start.cbSize = sizeof start;
+    start.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
+    start.lpFile = program.c_str();
+    start.lpParameters = words.c_str();
+    start.nShow = show_command(window);
+    if (!ShellExecuteExW(&start) || !start.hProcess) fail(text_of(program), GetLastError());
+    const Handle process(start.hProcess);
+    if (WaitForSingleObject(process.get(), static_cast<DWORD>(milliseconds)) != WAIT_OBJECT_0)
+        return Progress::runs;
+    DWORD code = 0;
+    return GetExitCodeProcess(process.get(), &code) && code != 0 ? Progress::failed : Progress::ended;
+}
+
 Answer DesktopWindows::show(TextView title, TextView text, Buttons buttons) {
-    const HWND owner = GetActiveWindow();
+    const HWND owner = owner_of_boxes();
     const int button = MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(), box_style(buttons, owner));
     if (button <= 0) fail(title, GetLastError());
     if (buttons == Buttons::ok) return Answer::ok;

@@ -18,6 +18,8 @@ public:
 class ShellLauncher final : public Launcher {
 public:
     void launch(TextView program, TextView arguments, WindowState window) override;
+    Progress run_windows_program(TextView name, TextView arguments, WindowState window,
+                                 int milliseconds) override;
 };
 
 /// The windows of the user's desktop, in front of the window that is active in this thread.

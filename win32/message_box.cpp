@@ -11,6 +11,11 @@ UINT looks(Buttons buttons) {
 
 } // namespace
 
+HWND owner_of_boxes() {
+    const HWND active = GetActiveWindow();
+    return IsWindowVisible(active) ? active : nullptr;
+}
+
 UINT box_style(Buttons buttons, HWND owner) {
     return looks(buttons) | MB_SETFOREGROUND | (owner ? 0 : MB_TASKMODAL | MB_TOPMOST);
 }

@@ -52,12 +52,6 @@ std::vector<Text> names_in(TextView folder, Kind wanted) {
     return names;
 }
 
-/// Whether a folder is a name for another one.
-bool leads_elsewhere(TextView folder) {
-    const DWORD attributes = GetFileAttributesW(wide(folder).c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
-}
-
 /// The folder above, or an empty text for a drive and for a name without a folder.
 Text parent_of(TextView path) {
     const auto slash = path.find_last_of(u"\\/");
@@ -90,8 +84,13 @@ void WindowsFiles::write(TextView path, std::string_view bytes) {
 }
 
 void WindowsFiles::append(TextView path, std::string_view bytes) {
-    // Opened for nothing but appending, so that each line goes behind what another session has just written.
-    write_all(open(path, FILE_APPEND_DATA, OPEN_ALWAYS), path, bytes);
+    // Opened for nothing but appending, so that each line goes behind what another session has just written;
+    // and one at a time, because a share may look for the end before it writes there.
+    const Handle file = open(path, FILE_APPEND_DATA | FILE_READ_DATA, OPEN_ALWAYS);
+    OVERLAPPED far_behind_the_end{};
+    far_behind_the_end.OffsetHigh = 0x7FFFFFFF;
+    LockFileEx(file.get(), LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &far_behind_the_end);
+    write_all(file, path, bytes);
 }
 
 void WindowsFiles::remove(TextView path) {
@@ -103,6 +102,16 @@ void WindowsFiles::create_folder(TextView path) {
     const Text parent = parent_of(path);
     if (!parent.empty()) create_folder(parent);
     if (!CreateDirectoryW(wide(path).c_str(), nullptr) && !folder_exists(path)) fail(path, GetLastError());
+}
+
+void WindowsFiles::move(TextView from, TextView to) {
+    if (!MoveFileExW(wide(from).c_str(), wide(to).c_str(), MOVEFILE_REPLACE_EXISTING))
+        fail(to, GetLastError());
+}
+
+bool WindowsFiles::leads_elsewhere(TextView folder) const {
+    const DWORD attributes = GetFileAttributesW(wide(folder).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
 }
 
 void WindowsFiles::remove_folder(TextView path) {

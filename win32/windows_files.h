@@ -15,8 +15,10 @@ public:
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
+    void move(TextView from, TextView to) override;
     void create_folder(TextView path) override;
     void remove_folder(TextView path) override;
+    bool leads_elsewhere(TextView folder) const override;
     const CodePage& ansi() const override;
 };
 

@@ -1,6 +1,7 @@
 #include "workbench/desk.h"
 
 #include "compose/insertions.h"
+#include "connect/environment.h"
 #include "connect/gates.h"
 #include "workbench/drives.h"
 #include "workbench/scratch_disk.h"
@@ -29,6 +30,9 @@ public:
     void show_modal(forms::Form&) override { throw Failure(u"There is no window here"); }
     void launch(TextView program, TextView, WindowState) override {
         throw Failure(Text(program) + u" is not started here");
+    }
+    Progress run_windows_program(TextView name, TextView, WindowState, int) override {
+        throw Failure(Text(name) + u" is not started here");
     }
     host::ObjectPtr create(TextView prog_id) override {
         throw host::Error(u"ActiveX component can't create object", Text(prog_id));
@@ -123,6 +127,7 @@ Dressed Desk::dress(const Order& order) {
         };
     const Letter letter = letter_of(order, parts_->disk, session.quiet_errors);
     session.host.oHostApp = paper_application(letter);
+    connect::choose_whether_breaks_are_converted(session);
     session.host.MyMessItem = paper_item(letter);
     bool cancel = false;
     connect::Send send{.session = session, .sent = session.host.MyMessItem, .cancel = cancel};

@@ -31,6 +31,8 @@ public:
     void remove(TextView path) override { machine_.remove(mapped(path)); }
     void create_folder(TextView path) override { machine_.create_folder(mapped(path)); }
     void remove_folder(TextView path) override { machine_.remove_folder(mapped(path)); }
+    void move(TextView from, TextView to) override { machine_.move(mapped(from), mapped(to)); }
+    bool leads_elsewhere(TextView folder) const override { return machine_.leads_elsewhere(mapped(folder)); }
     const CodePage& ansi() const override { return machine_.ansi(); }
 
 private:

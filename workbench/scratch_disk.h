@@ -35,6 +35,11 @@ public:
     }
     void create_folder(TextView) override {}
     void remove_folder(TextView) override {}
+    void move(TextView from, TextView to) override {
+        write(to, read(from));
+        remove(from);
+    }
+    bool leads_elsewhere(TextView folder) const override { return disk_.leads_elsewhere(folder); }
     const CodePage& ansi() const override { return disk_.ansi(); }
 
 private:

@@ -94,6 +94,11 @@ void MemoryDisk::remove(TextView path) {
     files_.erase(file);
 }
 
+void MemoryDisk::move(TextView from, TextView to) {
+    write(to, read(from));
+    remove(from);
+}
+
 void MemoryDisk::create_folder(TextView path) {
     const Text folder = without_end(path);
     if (folder.empty() || folder_exists(folder)) return;
@@ -174,6 +179,14 @@ void RehearsedDisk::remove(TextView path) {
         failures_.use(Failing::Kind::delete_file, plain_path(path));
         disk_.remove(path);
     });
+}
+
+/// What is put in place counts as a file that is written there.
+void RehearsedDisk::move(TextView from, TextView to) {
+    const MachinesTurn turn;
+    journal_.note(Deed::write_file, Text(to));
+    failures_.use(Failing::Kind::write_file, plain_path(to));
+    disk_.move(from, to);
 }
 
 void RehearsedDisk::remove_folder(TextView path) {

@@ -21,10 +21,14 @@ public:
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
+    void move(TextView from, TextView to) override;
     void create_folder(TextView path) override;
     void remove_folder(TextView path) override;
+    bool leads_elsewhere(TextView folder) const override { return links_.contains(plain_path(folder)); }
     const CodePage& ansi() const override { return windows_1252(); }
 
+    /// The folder is a name for another one from now on.
+    void make_link(TextView folder) { links_.insert(plain_path(folder)); }
     /// Another program keeps a file open, until all are let go: it can be read, and neither written nor
     /// removed.
     void hold(TextView path) { held_.insert(plain_path(path)); }
@@ -39,7 +43,7 @@ private:
     std::string& open_for_writing(TextView path);
 
     ByName<std::string> files_;
-    std::set<Text, NameOrder> folders_, held_;
+    std::set<Text, NameOrder> folders_, links_, held_;
 };
 
 /// The disk as the add-in sees it: each use is noted, and fails where the scenario says so.
@@ -56,8 +60,10 @@ public:
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
+    void move(TextView from, TextView to) override;
     void create_folder(TextView path) override;
     void remove_folder(TextView path) override;
+    bool leads_elsewhere(TextView folder) const override { return disk_.leads_elsewhere(folder); }
     const CodePage& ansi() const override { return disk_.ansi(); }
 
 private:

@@ -2,9 +2,11 @@
 
 #include "base/encoding.h"
 #include "forms/frmMessage.h"
+#include "forms/input_box.h"
 #include "forms/screen_place.h"
 #include "forms/unloading.h"
 #include "rehearsal/form_record.h"
+#include "rehearsal/menu_act.h"
 #include "rehearsal/native/form_player.h"
 #include "rehearsal/native/watching.h"
 #include "rehearsal/turn.h"
@@ -87,8 +89,10 @@ Memory MemoryMachine::memory() const {
             computer_.available_virtual};
 }
 
-Json MemoryMachine::tray_outcome() const {
-    return {{"shown", false}, {"tip", ""}, {"times shown", 0}, {"times removed", 0}, {"menu", Json::array()}};
+bool MemoryMachine::tray(const Act& act) {
+    const auto made = tray_.send(icon_message(act), menu_choice(act));
+    if (made) check_choice(user_, act, *made);
+    return made.has_value();
 }
 
 void MemoryMachine::launch(TextView program, TextView arguments, WindowState window) {
@@ -114,6 +118,7 @@ void MemoryMachine::show_modal(forms::Form& form) {
     const forms::Unloading at_the_end(form);
     const MachinesTurn turn;
     failures_.use(Failing::Kind::window, form.name());
+    if (form.name() == forms::input_box_name) return show_input_box(form);
     forms::place_on_screen(form, screen, {&screen, 1});
     journal_.note(Deed::window, form.name(), form.properties.caption);
     const std::size_t place = windows_.size();
@@ -126,6 +131,19 @@ void MemoryMachine::show_modal(forms::Form& form) {
     });
     windows_[place]["at close"] = changed_controls(windows_[place], form);
     if (!entry) windows_[place]["unexpected"] = true;
+}
+
+void MemoryMachine::show_input_box(forms::Form& form) {
+    const Text& title = form.properties.caption;
+    journal_.note(Deed::window, title, form[forms::input_box_prompt].caption);
+    const auto& record = windows_.emplace_back(
+        answer_input_box(user_, title, forms::readable_caption(form[forms::input_box_prompt]),
+                         form[forms::input_box_answer].text));
+    const Json& answer = record.at("answer");
+    forms::FormUser hand(form);
+    if (answer.is_null()) return hand.close();
+    hand.set_text(forms::input_box_answer, from_utf8(answer.get<std::string>()));
+    hand.click(forms::input_box_ok);
 }
 
 } // namespace ornavel::rehearsal

@@ -7,6 +7,7 @@
 #include "rehearsal/native/memory_disk.h"
 #include "rehearsal/native/memory_registry.h"
 #include "rehearsal/native/memory_settings.h"
+#include "rehearsal/native/memory_tray.h"
 #include "rehearsal/scripted_user.h"
 
 namespace ornavel::rehearsal {
@@ -25,12 +26,14 @@ public:
     void let_go() override { disk_.let_go(); }
     void change_settings(const SettingsTree& settings) override;
     void set_clock(const LocalTime& time) override { now_ = time; }
-    bool tray(const Act&) override { return false; }
+    bool tray(const Act& act) override;
     std::optional<Text> prompt(TextView mode) override;
     std::optional<std::string> complaint() const override { return user_.complaint(); }
     Json launched() const override { return launched_; }
     Json windows() const override { return windows_; }
-    Json tray_outcome() const override;
+    Json tray_outcome() const override { return to_json(tray_.record()); }
+
+    MemoryDisk& disk() { return disk_; }
 
     /// The parts that the add-in is given.
     settings::Store& addin_settings() { return rehearsed_settings_; }
@@ -39,12 +42,18 @@ public:
     Launcher& addin_launcher() { return *this; }
     forms::Windows& addin_windows() { return *this; }
     const SystemInformation& addin_machine() const { return *this; }
+    forms::Tray& addin_tray() { return tray_; }
 
 private:
     LocalTime now() const override { return now_; }
     void launch(TextView program, TextView arguments, WindowState window) override;
+    Progress run_windows_program(TextView name, TextView arguments, WindowState window, int) override {
+        launch(name, arguments, window);
+        return Progress::ended;
+    }
     Answer show(TextView title, TextView text, Buttons buttons) override;
     void show_modal(forms::Form& form) override;
+    void show_input_box(forms::Form& form);
     OperatingSystem operating_system() const override;
     int processor_type() const override { return computer_.cpu; }
     Memory memory() const override;
@@ -61,6 +70,7 @@ private:
     MemoryDisk disk_;
     RehearsedDisk rehearsed_disk_;
     MemoryRegistry registry_;
+    MemoryTray tray_;
     Json launched_ = Json::array(), windows_ = Json::array();
 };
 

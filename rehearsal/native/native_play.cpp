@@ -96,7 +96,8 @@ Json play_here(const Scenario& scenario, const std::string& source, Journal& jou
                           .addin_folder = scenario.computer.addin_folder,
                           .user_folder = application_data(scenario.computer) + u"\\Brevant\\Ornavel",
                           .on_gate = on_gate,
-                          .on_trap = on_trap});
+                          .on_trap = on_trap,
+                          .tray = &machine.addin_tray()});
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);

@@ -1,6 +1,5 @@
 #include "rehearsal/report/report.h"
 
-#include "diagnostics/about.h"
 #include "rehearsal/report/findings.h"
 #include "rehearsal/report/gather.h"
 #include "rehearsal/report/page.h"

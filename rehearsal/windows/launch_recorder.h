@@ -17,6 +17,7 @@ public:
 
     void watch(HMODULE module);
     const Json& launched() const { return launched_; }
+    void forget() { launched_ = Json::array(); }
     void record(TextView program, TextView arguments, int show_command);
 
 private:

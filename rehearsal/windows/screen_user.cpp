@@ -1,14 +1,17 @@
 #include "rehearsal/windows/screen_user.h"
 
 #include "base/encoding.h"
+#include "forms/input_box.h"
 #include "rehearsal/form_record.h"
 #include "rehearsal/windows/form_hand.h"
 #include "rehearsal/windows/form_reader.h"
+#include "rehearsal/windows/menu_hand.h"
 #include "rehearsal/windows/message_box.h"
 #include "rehearsal/windows/window_parts.h"
 #include "win32/window_name.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ornavel::rehearsal {
 namespace {
@@ -67,6 +70,7 @@ bool ScreenUser::knows(HWND window) const {
 }
 
 void ScreenUser::look() {
+    if (const HWND menu = open_menu()) return meet_menu(menu);
     for (const HWND window : visible_dialogs())
         if (!knows(window)) return meet(window);
     if (!open_.empty() && !open_.back().busy) go_on(open_.back());
@@ -79,11 +83,33 @@ void ScreenUser::meet(HWND window) {
 
 void ScreenUser::meet_form(HWND window) {
     const auto form = read_form(window);
+    if (form->name() == forms::input_box_name) return meet_input_box(window, *form);
     OpenForm open{window, windows_.size(), user_.meet(form->name())};
     windows_.push_back(form_record(*form));
     if (!open.entry) windows_.back()["unexpected"] = true;
     open_.push_back(std::move(open));
     look_again();
+}
+
+void ScreenUser::meet_input_box(HWND window, forms::Form& box) {
+    open_.push_back({.window = window, .record = 0, .entry = {}, .busy = true, .is_box = true});
+    const Json record =
+        answer_input_box(user_, box.properties.caption, forms::readable_caption(box[forms::input_box_prompt]),
+                         box[forms::input_box_answer].text);
+    windows_.push_back(record);
+    const Json& answer = record.at("answer");
+    if (answer.is_null()) return void(SendMessageW(window, WM_CLOSE, 0, 0));
+    Step typing{.kind = Step::Kind::set, .control = Text(forms::input_box_answer), .text = {}};
+    typing.text = from_utf8(answer.get<std::string>());
+    take_step_in_window(typing, window);
+    take_step_in_window({.kind = Step::Kind::click, .control = Text(forms::input_box_ok), .text = {}},
+                        window);
+}
+
+void ScreenUser::meet_menu(HWND window) {
+    if (std::exchange(met_menu_, window) == window) return;
+    menu_ = captions_in_menu(window);
+    choose_in_menu(window, choice_.find(menu_));
 }
 
 void ScreenUser::go_on(OpenForm& form) {
@@ -108,6 +134,7 @@ void ScreenUser::take_next_step(OpenForm& form) {
 void ScreenUser::note_closing(HWND window) {
     const auto form = std::ranges::find(open_, window, &OpenForm::window);
     if (form == open_.end()) return;
+    if (form->is_box) return void(open_.erase(form));
     const auto shown = read_form(window);
     Json& record = windows_[form->record];
     record["at close"] = changed_controls(record, *shown);

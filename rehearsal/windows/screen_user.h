@@ -1,6 +1,8 @@
 #pragma once
 
+#include "forms/form.h"
 #include "rehearsal/scripted_user.h"
+#include "rehearsal/tray_record.h"
 
 #include <windows.h>
 
@@ -18,6 +20,17 @@ public:
     ScreenUser& operator=(const ScreenUser&) = delete;
 
     const Json& windows() const { return windows_; }
+    /// Keeps nothing of the windows so far; none of them is open.
+    void forget() { windows_ = Json::array(); }
+
+    /// What the user chooses in the next menu; without this a menu is closed.
+    void expect_menu(MenuChoice choice) {
+        choice_ = std::move(choice);
+        met_menu_ = nullptr;
+    }
+    /// What became of that, and the captions of the menu that opened last.
+    const MenuChoice& choice() const { return choice_; }
+    const std::vector<Text>& menu() const { return menu_; }
 
 private:
     struct OpenForm {
@@ -26,7 +39,8 @@ private:
         std::optional<UserEntry> entry;
         std::size_t steps_taken = 0;
         bool has_steps_left() const { return entry && steps_taken < entry->steps.size(); }
-        bool busy = false; ///< in the middle of a step, which may have opened another window
+        bool busy = false;   ///< in the middle of a step, which may have opened another window
+        bool is_box = false; ///< an input box, which has been answered
     };
 
     static LRESULT CALLBACK on_message(HWND window, UINT message, WPARAM word, LPARAM pointer);
@@ -37,6 +51,8 @@ private:
     bool knows(HWND window) const;
     void meet(HWND window);
     void meet_form(HWND window);
+    void meet_input_box(HWND window, forms::Form& box);
+    void meet_menu(HWND window);
     void go_on(OpenForm& form);
     void take_next_step(OpenForm& form);
     void note_closing(HWND window);
@@ -46,6 +62,9 @@ private:
     HHOOK hook_;
     std::list<OpenForm> open_; ///< the last one is in front
     Json windows_ = Json::array();
+    MenuChoice choice_;
+    HWND met_menu_ = nullptr; ///< a menu that has got its keys, which may still be on their way
+    std::vector<Text> menu_;
 };
 
 } // namespace ornavel::rehearsal

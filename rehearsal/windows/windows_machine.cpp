@@ -1,5 +1,6 @@
 #include "rehearsal/windows/windows_machine.h"
 
+#include "rehearsal/menu_act.h"
 #include "win32/wide.h"
 
 namespace ornavel::rehearsal {
@@ -35,13 +36,17 @@ Snapshot WindowsMachine::snapshot() const {
 
 void WindowsMachine::change_settings(const SettingsTree& settings) { registry_.change_settings(settings); }
 
+bool WindowsMachine::tray(const Act& act) {
+    screen_.expect_menu(menu_choice(act));
+    if (!tray_.send(icon_message(act))) return false;
+    check_choice(user_, act, screen_.choice());
+    tray_.record.menu = screen_.menu();
+    return true;
+}
+
 void WindowsMachine::hold(TextView path) {
     held_.emplace_back(CreateFileW(win32::wide(path).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-}
-
-Json WindowsMachine::tray_outcome() const {
-    return {{"shown", false}, {"tip", ""}, {"times shown", 0}, {"times removed", 0}, {"menu", Json::array()}};
 }
 
 } // namespace ornavel::rehearsal

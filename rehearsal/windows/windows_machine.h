@@ -4,6 +4,7 @@
 #include "rehearsal/windows/launch_recorder.h"
 #include "rehearsal/windows/registry_world.h"
 #include "rehearsal/windows/screen_user.h"
+#include "rehearsal/windows/tray_watch.h"
 #include "win32/handle.h"
 #include "win32/windows_files.h"
 
@@ -25,18 +26,27 @@ public:
     void let_go() override { held_.clear(); }
     void change_settings(const SettingsTree& settings) override;
     void set_clock(const LocalTime&) override { throw Unusable("clock: native only"); }
-    bool tray(const Act&) override { return false; }
+    bool tray(const Act& act) override;
     std::optional<Text> prompt(TextView) override { throw Unusable("prompt: native only"); }
     std::optional<std::string> complaint() const override { return user_.complaint(); }
     Json launched() const override { return launches_.launched(); }
     Json windows() const override { return screen_.windows(); }
-    Json tray_outcome() const override;
+    Json tray_outcome() const override { return to_json(tray_.record); }
+
+    /// Keeps nothing of what was started and shown so far.
+    void forget() {
+        launches_.forget();
+        screen_.forget();
+    }
 
     /// All that can be done when the add-in takes the process along.
     void put_back_registry() { registry_.put_back(); }
 
-    /// What this module starts is recorded from now on.
-    void watch(HMODULE module) { launches_.watch(module); }
+    /// What this module starts, and its icon, are recorded from now on.
+    void watch(HMODULE module) {
+        launches_.watch(module);
+        tray_.watch(module);
+    }
 
 private:
     ScriptedUser user_;
@@ -45,6 +55,7 @@ private:
     win32::WindowsFiles files_;
     std::vector<win32::Handle> held_;
     LaunchRecorder launches_;
+    TrayWatch tray_;
     ScreenUser screen_;
 };
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "connect/connect.h"
-#include "forms/string_table.h"
-#include "tests/rehearsal/stage.h"
+#include "tests/connect/staged_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -68,18 +67,16 @@ protected:
         "do": []})"};
     ChangingStore store{stage.machine.addin_settings()};
     std::vector<Text> passed;
-    Connect addin{Platform{.settings = store,
-                           .files = stage.machine.addin_files(),
-                           .clock = stage.machine.addin_clock(),
-                           .launcher = stage.machine.addin_launcher(),
-                           .objects = stage.client,
-                           .windows = stage.machine.addin_windows(),
-                           .strings = forms::built_in_strings(),
-                           .machine = stage.machine.addin_machine(),
-                           .addin_folder = u"C:\\app",
-                           .on_gate = [this](TextView gate, Verdict verdict) {
-                               if (verdict != Verdict::leave) passed.emplace_back(gate);
-                           }}};
+    Connect addin{platform()};
+
+private:
+    Platform platform() {
+        Platform platform = platform_of(stage, {.settings = &store});
+        platform.on_gate = [this](TextView gate, Verdict verdict) {
+            if (verdict != Verdict::leave) passed.emplace_back(gate);
+        };
+        return platform;
+    }
 };
 
 } // namespace ornavel::connect

@@ -19,6 +19,7 @@ public:
     std::map<Text, std::string, NameOrder> contents;
     std::set<Text, NameOrder> folders;
     std::set<Text, NameOrder> refused;
+    std::set<Text, NameOrder> links; ///< folders that lead elsewhere
 
     bool file_exists(TextView path) const override { return contents.count(Text(path)) != 0; }
     bool folder_exists(TextView path) const override { return folders.count(Text(path)) != 0; }
@@ -60,6 +61,11 @@ public:
         require_access(path);
         if (contents.erase(Text(path)) == 0) throw Failure(u"File not found");
     }
+    void move(TextView from, TextView to) override {
+        require_access(to);
+        write(to, read(from));
+        remove(from);
+    }
     void create_folder(TextView path) override {
         require_access(path);
         folders.insert(Text(path));
@@ -70,6 +76,7 @@ public:
         const Text prefix = Text(path) + u"\\";
         std::erase_if(contents, [&](const auto& file) { return file.first.starts_with(prefix); });
     }
+    bool leads_elsewhere(TextView folder) const override { return links.count(Text(folder)) != 0; }
     const CodePage& ansi() const override { return windows_1252(); }
 
 private:

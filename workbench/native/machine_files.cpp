@@ -85,6 +85,15 @@ public:
         fs::remove_all(native_path(path), error);
         if (error) fail(path, error.message());
     }
+    void move(TextView from, TextView to) override {
+        std::error_code error;
+        fs::rename(native_path(from), native_path(to), error);
+        if (error) fail(from, error.message());
+    }
+    bool leads_elsewhere(TextView folder) const override {
+        std::error_code error;
+        return fs::is_symlink(native_path(folder), error);
+    }
     const CodePage& ansi() const override { return windows_1252(); }
 
 private:
