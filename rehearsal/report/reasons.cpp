@@ -20,8 +20,8 @@ std::string shown_by(const connect::Reason& reason, const Story& story, const Se
     if (reason.shows == message_class) return to_utf8(item_of(story, send).message_class);
     if (reason.shows == folder) return quoted(to_utf8(item_of(story, send).parent));
     if (reason.shows == nothing) return {};
-    const Text setting = Text(reason.setting->section) + u" / " + Text(reason.setting->name);
-    return quoted(to_utf8(value_read(story, send, setting)));
+    const Text read = Text(reason.setting->section) + u" / " + Text(reason.setting->name);
+    return quoted(to_utf8(value_read(story, send, read)));
 }
 
 std::string reason(const Story& story, const Send& send, const std::string& gate) {
