@@ -68,10 +68,11 @@ private:
         const auto for_machine = text_in(HKEY_LOCAL_MACHINE, class_key, u"");
         if (!for_user && !for_machine)
             return say(State::broken, u"registration", u"Ornavel.dll is not registered", register_it);
-        if (for_user && for_machine)
-            say(State::look, u"registration",
-                u"registered twice: for this user as " + *for_user + u", and for the machine as " +
-                    *for_machine,
+        // Each registration brings its own entry among Outlook's add-ins.
+        const bool twice = number_in(HKEY_CURRENT_USER, add_in_key, u"LoadBehavior") &&
+                           number_in(HKEY_LOCAL_MACHINE, add_in_key, u"LoadBehavior");
+        if (twice)
+            say(State::look, u"registration", u"registered twice: for this user, and for the machine",
                 u"The user's one is loaded. Remove it with regsvr32 /u, or uninstall the package");
         else
             say(State::fine, u"registration", for_user ? u"for this user" : u"for the machine");
