@@ -76,12 +76,8 @@ void Connect::start_up() noexcept {
     Session& session = *session_;
     session.started = true;
     prepare_environment(session);
-    // Behind the imports, which may set them. No catalogue can know where the add-in lies.
-    attempt([&] {
-        session.start_up.application_path =
-            read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
-        session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);
-    });
+    // Behind the imports, which may set them.
+    attempt([&] { read_working_folders(session); });
     add_buttons(session);
     watch_message_windows(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");

@@ -1,5 +1,6 @@
 #include "connect/gates.h"
 #include "connect/send_options.h"
+#include "connect/send_pipeline.h"
 #include "connect/toolbar.h"
 #include "settings/modes.h"
 
@@ -21,7 +22,7 @@ Verdict refuse_without_default(Send& send, TextView prompt_mode) {
 Verdict non_auto_branch(Send& send) {
     // Absent only when it vanished since the entry gate: then the user is asked, as in the mode "on".
     if (read(send.settings(), user::SettingButtonBar, modes::on) == modes::automatic) return Verdict::off;
-    record_gate(send, u"Auto process end check OK");
+    record_gate(send, other_mode_began);
     // The item is the current one already, so a send-options form would find it.
     record_gate(send, u"Ornavel Dialog check OK");
     send.session.host.MyMessItem.release();

@@ -1,4 +1,5 @@
 #include "connect/gates.h"
+#include "connect/send_pipeline.h"
 
 #include "compose/insertions.h"
 #include "compose/plain_text.h"
@@ -54,7 +55,7 @@ compose::Composed composed_body(Send& send, bool plain_text, TextView boilerplat
 Verdict compose_body(Send& send) {
     send.session.processed = true;
     if (send.preview.send_plain) return Verdict::off;
-    record_gate(send, u"Auto Preview Send Plain check OK");
+    record_gate(send, composition_began);
     attach_vcard(send);
     const compose::Outcome outcome = dress(send);
     if (outcome == compose::Outcome::composed) return Verdict::next;

@@ -1,4 +1,5 @@
 #include "connect/gates.h"
+#include "connect/send_pipeline.h"
 
 #include "compose/signatures.h"
 
@@ -83,7 +84,7 @@ Verdict internal_mail(Send& send) {
     if (is_on(send.settings(), admin::TestSkipInternal)) send.session.internal = true;
     if (wrapped) {
         if (reply_test(send) == Verdict::leave) return Verdict::leave;
-        record_gate(send, u"Reply check OK");
+        record_gate(send, reply_was_tested);
     }
     return send.session.internal ? sign_and_leave(send, editor) : Verdict::next;
 }

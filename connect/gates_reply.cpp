@@ -1,5 +1,6 @@
 #include "connect/gates.h"
 #include "connect/replies.h"
+#include "connect/send_pipeline.h"
 
 namespace ornavel::connect {
 
@@ -9,7 +10,7 @@ Verdict load_reply_marker(Send& send) {
     const bool older_host = host_is_older(send.session);
     trace(send, u"Just before MyMessItem is called- line 1001");
     Text marker = reply_marker(send.session, send.item(), older_host);
-    trace(send, u"Just after MyMessItem is called- line 1002");
+    trace(send, marker_was_loaded);
     send.reply.marker = std::move(marker);
     return Verdict::next;
 }

@@ -27,7 +27,7 @@ constexpr Gate gates[] = {
     {u"message class", message_class, {}},
     {u"resend from the Outbox", resend_from_outbox, {}},
     {u"resend from Sent Items", resend_from_sent_items, {}},
-    {u"system check switch", system_check_switch, {u"Fired OK"}}, // from here on the gates leave records
+    {u"system check switch", system_check_switch, {pipeline_began}}, // from here on the gates leave records
     {u"message class again", message_class, {u"Message Class - IPM.Note", u"HTML Body check OK"}},
     {u"quote", next_quote, {u"Quote check OK"}},
     {u"subject", copy_subject, {u"Subject OK"}},
@@ -39,7 +39,7 @@ constexpr Gate gates[] = {
     {u"mode off", mode_off, {u"Mode off check OK"}}, // read again: a gate or a box may have changed it
     {u"preview stamp", preview_stamp, {u"Preview check OK"}},
     {u"preview send stamp", preview_send_stamp, {u"Preview send check OK"}},
-    {u"reply test", reply_test, {u"Reply check OK"}},
+    {u"reply test", reply_test, {reply_was_tested}},
     {u"other modes", non_auto_branch, {}},
     {u"default template", default_template, {u"Auto mode check OK"}},
     {u"default signature", default_signature, {u"Signature check OK", u"Delivery and Receipt check OK"}},
@@ -71,6 +71,12 @@ void ol_ItemSend(Session& session, const host::MailItem& item, bool& cancel) noe
     Send send{.session = session, .sent = item, .cancel = cancel};
     for (const Gate& gate : gates)
         if (!passes(gate, send)) return;
+}
+
+std::vector<GateRecords> gate_records() {
+    std::vector<GateRecords> all;
+    for (const Gate& gate : gates) all.push_back({gate.name, gate.passed});
+    return all;
 }
 
 std::vector<TextView> gate_names() {

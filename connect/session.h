@@ -75,6 +75,9 @@ struct Session {
     std::shared_ptr<forms::frmSysTray> tray_form; ///< while the administrator's icon is shown
 };
 
+/// What the start-up reads of the folders that the add-in works in.
+void read_working_folders(Session& session);
+
 /// A system-check record; written only while the setting "SystemCheck" is on.
 void record(Session& session, TextView label, TextView detail, TextView handler) noexcept;
 
