@@ -3,6 +3,7 @@
 #include "rehearsal/windows/menu_hand.h"
 #include "rehearsal/windows/tray_watch.h"
 #include "tests/win32/form_stage.h"
+#include "win32/message_box.h"
 
 namespace ornavel::win32 {
 namespace {
@@ -114,13 +115,13 @@ TEST_F(Icon, TheMenuClosesWhenTheUserClicksElsewhere) {
 
 TEST_F(Icon, ItsUnseenWindowOwnsNoBox) {
     show();
-    SetForegroundWindow(watch.icon().hWnd);
-    play({[this](HWND box) {
-             EXPECT_NE(GetWindow(box, GW_OWNER), watch.icon().hWnd);
-             EXPECT_TRUE(is_topmost(box));
-             PostMessageW(box, WM_CLOSE, 0, 0);
-         }},
-         [] { DesktopWindows().inform(u"About", u"Text"); });
+    SetActiveWindow(watch.icon().hWnd);
+    EXPECT_EQ(GetActiveWindow(), watch.icon().hWnd);
+    EXPECT_EQ(owner_of_boxes(), nullptr);
+    const HWND seen = make_window(L"Inbox");
+    SetActiveWindow(seen);
+    EXPECT_EQ(owner_of_boxes(), seen);
+    DestroyWindow(seen);
 }
 
 } // namespace
