@@ -102,4 +102,6 @@ Text to_text(long long number) {
     return {digits.begin(), digits.end()};
 }
 
+Text two_digits(int number) { return (number < 10 ? u"0" : u"") + to_text(number); }
+
 } // namespace ornavel

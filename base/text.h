@@ -49,5 +49,7 @@ int numeric_value(TextView text);
 int signed_value(TextView text);
 
 Text to_text(long long number);
+/// With a zero in front of a single digit.
+Text two_digits(int number);
 
 } // namespace ornavel

@@ -1,25 +1,46 @@
 #include "bench/harness.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <string>
 
 namespace ornavel::bench {
 namespace {
 
 int short_rows = 0;
 
-} // namespace
-
-std::vector<double> medians(std::span<const Run> contenders, int rounds) {
+/// The times of each contender in ascending order.
+std::vector<std::vector<double>> turns(std::span<const Run> contenders, int rounds) {
     std::vector<std::vector<double>> times(contenders.size());
     for (int round = 0; round < rounds; ++round)
         for (std::size_t i = 0; i < contenders.size(); ++i) times[i].push_back(contenders[i]());
+    for (auto& of_one : times) std::ranges::sort(of_one);
+    return times;
+}
+
+} // namespace
+
+std::vector<double> medians(std::span<const Run> contenders, int rounds) {
     std::vector<double> middle;
-    for (auto& of_one : times) {
-        std::ranges::sort(of_one);
-        middle.push_back(of_one[of_one.size() / 2]);
-    }
+    for (const auto& times : turns(contenders, rounds)) middle.push_back(times[times.size() / 2]);
     return middle;
+}
+
+std::vector<double> fastest(std::span<const Run> contenders, int rounds) {
+    std::vector<double> first;
+    for (const auto& times : turns(contenders, rounds)) first.push_back(times.front());
+    return first;
+}
+
+double hashing() {
+    static const std::string bytes(10'000, 'x');
+    [[maybe_unused]] static volatile std::uint32_t result;
+    return seconds([] {
+        std::uint32_t hash = 2166136261u;
+        for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619u;
+        result = hash;
+    });
 }
 
 void print_row(const char* what, double figure, const char* unit, double goal, bool at_least) {

@@ -20,6 +20,12 @@ double seconds(const std::function<void()>& body);
 
 /// The median seconds of each contender over that many rounds, in which they take turns.
 std::vector<double> medians(std::span<const Run> contenders, int rounds);
+/// The same with each contender's fastest turn: what the work takes when nothing else is in its way.
+std::vector<double> fastest(std::span<const Run> contenders, int rounds);
+
+/// The measure of everything too short to be set against a copy of a body: hashing 10,000 bytes, one by one.
+/// It takes a machine about as much longer as anything else does.
+double hashing();
 
 /// As long as one of these lives, freed memory stays with the process. Growth is measured so: a fresh large
 /// block costs the system far more for each byte than a small one that is used again, and that is not the

@@ -17,7 +17,6 @@ TextView entry(const std::array<TextView, size>& names, int number) {
     return number >= 1 && index < size ? names[index] : TextView();
 }
 
-Text two_digits(int number) { return (number < 10 ? u"0" : u"") + to_text(number); }
 int hour_of_half(const LocalTime& time) { return (time.hour + 11) % 12 + 1; }
 Text half(const LocalTime& time) { return time.hour < 12 ? u" AM" : u" PM"; }
 

@@ -15,7 +15,8 @@ host::Appointments appointments_of(const host::Application& application, const L
     return all.restrict(u"[Start] >= '" + today + u"' and [Start] < '" + today + u" 11:59 pm'");
 }
 
-/// Both comparisons must hold. The one of texts puts "01:00 PM" in front of "11:00 AM": kept deliberately.
+/// Both comparisons must hold. The one of texts puts "01:00 PM" in front of "11:00 AM". It stays, so that one
+/// version of the add-in names the same appointment as another that a colleague still runs.
 bool is_later(const LocalTime& start, const LocalTime& now) {
     return start > now && sortable_moment(start) > sortable_moment(now);
 }
@@ -54,7 +55,8 @@ void GetNextQuote(Store& settings, const Files& files, ErrorSink& errors) noexce
             std::max<long long>(read_number(settings, system::LastTipNumber), first_quote);
         const auto lines = lines_of(read_text(files, read(settings, admin::TipsFileLocation)));
         const bool wraps = number > static_cast<long long>(lines.size()) - 1;
-        // A wrap-around carries no quote and goes on with 16, not 15: deliberate.
+        // A wrap-around carries no quote and goes on with 16, not 15. The number is kept in the store, where
+        // every version that the user has run counts on alike.
         save(settings, system::LastTipNumber, to_text(wraps ? first_quote + 1 : number + 1));
         save(settings, user::SendQuoteString, wraps ? Text() : quote_numbered(lines, number));
     });
@@ -64,7 +66,8 @@ Text boilerplate_text(const Store& settings, const Files& files, TextView name, 
     Text text;
     if (name.empty() || name == u"None") return text;
     trap(errors, boilerplate_trap, [&] {
-        // The forward slash is deliberate.
+        // Windows takes the forward slash as well. An error's description has it in its path, and a list of
+        // errors to ignore names descriptions as they are logged.
         const Text path = read(settings, admin::HTMFilesPath) + u"/" + Text(name);
         text = u"<BR>" + read_lines(files, path, u"<BR>") + u"<BR>";
     });

@@ -32,11 +32,11 @@ Text closing(const Services& services) {
 } // namespace
 
 Text plain_text_as_html(const Services& services, const Text& body, TextView reply_marker) {
+    constexpr TextView begin = u"<span> <font face='Courier new' size=2>", end = u"</font></span>";
     const auto marker = reply_marker.empty() ? Text::npos : body.find(reply_marker);
-    const auto own_length = std::min(marker, body.size());
-    return u"<span> <font face='Courier new' size=2>" +
-           with_html_breaks(TextView(body).substr(0, own_length)) + closing(services) +
-           with_html_breaks(TextView(body).substr(own_length)) + u"</font></span>";
+    if (marker == Text::npos) return Text(begin) + with_html_breaks(body) + Text(end) + closing(services);
+    return Text(begin) + with_html_breaks(TextView(body).substr(0, marker)) + closing(services) +
+           with_html_breaks(TextView(body).substr(marker)) + Text(end);
 }
 
 } // namespace ornavel::compose

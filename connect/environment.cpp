@@ -42,15 +42,14 @@ constexpr Change spelling_on[] = {
 
 struct Switch {
     const SwitchKey& setting;
-    TextView
-        recorded; ///< the first is spelled in another way than its setting; those who read logs know it so
+    TextView recorded; ///< the first one is known to those who read logs by another spelling than its setting
     std::span<const Change> changes;
 };
 
 constexpr Switch switches[] = {
     {admin::WipeoutRichTextToHTML, u"WipeoutRichTexttoHTML", to_html},
-    {admin::WipeoutWordRTFtoWordHTML, u"WipeoutWordRTFtoWordHTML", word_to_html},
-    {admin::WipeoutSetSpellCheckOn, u"WipeoutSetSpellCheckOn", spelling_on},
+    {admin::WipeoutWordRTFtoWordHTML, admin::WipeoutWordRTFtoWordHTML.name, word_to_html},
+    {admin::WipeoutSetSpellCheckOn, admin::WipeoutSetSpellCheckOn.name, spelling_on},
 };
 
 constexpr TextView stationery_folders[] = {u"C:\\Program Files\\Common Files\\Microsoft Shared\\Stationery",
@@ -102,8 +101,9 @@ void flip(Session& session, const Switch& a_switch) {
 }
 
 void remove_stationery(Session& session) {
-    if (!is_on(session.platform.settings, admin::WipeoutPersonalStationeryAlways)) return;
-    record(session, u"True", u"WipeoutPersonalStationeryAlways", handler);
+    constexpr const SwitchKey& always = admin::WipeoutPersonalStationeryAlways;
+    if (!is_on(session.platform.settings, always)) return;
+    record(session, u"True", always.name, handler);
     attempt([&] {
         const host::FileSystem disk = host::FileSystem::create(session.platform.objects);
         for (const TextView folder : stationery_folders)

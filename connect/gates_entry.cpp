@@ -56,8 +56,8 @@ Verdict system_check_switch(Send& send) {
 }
 
 Verdict next_quote(Send& send) {
-    if (!is_on(send.settings(), user::SendQuote)) return Verdict::off;
-    compose::GetNextQuote(send.settings(), send.session.platform.files, send.session.errors);
+    if (is_on(send.settings(), user::SendQuote))
+        compose::GetNextQuote(send.settings(), send.session.platform.files, send.session.errors);
     return Verdict::next;
 }
 

@@ -17,7 +17,8 @@ void walk_recipients(const Send& send, Visit stays) {
         if (!stays(recipients.item(index).address())) return;
 }
 
-/// Without the wrapper the walk only ever clears the flag that an earlier send left; that is deliberate.
+/// Without the wrapper the walk only clears the flag that an earlier send left. If it set the flag, messages
+/// would leave undressed where they are dressed today: in companies with SkipInternal on and no wrapper.
 void walk_unwrapped(Send& send) {
     bool& internal = send.session.internal;
     walk_recipients(send, [&](const Text& address) {

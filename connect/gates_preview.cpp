@@ -31,7 +31,7 @@ void show_attachments(const host::Attachments& attachments, Form& form) {
 }
 
 void place_window(const Store& store, Form& form) {
-    const auto twips = [&](const NumberKey& key) { return read_number(store, key); };
+    const auto twips = [&](const NumberKey& key) { return read_coordinate(store, key); };
     form.take_place({twips(user::BrowserLeft), twips(user::BrowserTop), twips(user::BrowserWidth),
                      twips(user::BrowserHeight)});
 }

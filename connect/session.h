@@ -28,7 +28,7 @@ struct HostReferences {
     host::Subscription setup_button_events;
 };
 
-/// What lives as long as the add-in is loaded. The processed and internal flags outlive a send on purpose.
+/// What lives as long as the add-in is loaded.
 struct Session {
     explicit Session(Platform machine)
         : platform(std::move(machine)),
@@ -51,6 +51,8 @@ struct Session {
     compose::Services composing{platform.settings, platform.files, platform.clock, platform.windows,
                                 platform.objects,  errors,         host.oHostApp,  start_up};
     bool started = false; ///< the start-up's work is done in this connection
+    // Both outlive a send, because the next one may read what this one left: a walk over recipients without
+    // the wrapper never sets the internal flag, and a gate that refuses a send clears the processed one.
     bool processed = false;
     bool internal = false;
     bool dialog_answer = true; ///< the send-options form's answer

@@ -1,13 +1,8 @@
 #include "diagnostics/error_log.h"
 
 namespace ornavel::diagnostics {
-namespace {
 
 using namespace settings;
-
-Text two_digits(int number) { return (number < 10 ? u"0" : u"") + to_text(number); }
-
-} // namespace
 
 Text log_date(const LocalTime& time) {
     return two_digits(time.month) + u"-" + two_digits(time.day) + u"-" + to_text(time.year) + u" " +

@@ -1,32 +1,18 @@
 #include "rehearsal/comparison.h"
 
 #include "rehearsal/comparable_text.h"
+#include "rehearsal/excerpt.h"
 
 #include <algorithm>
 
 namespace ornavel::rehearsal {
 namespace {
 
-constexpr std::size_t shown_before = 40, shown_behind = 120;
-
 std::string text_of(const Json* value) {
     if (!value) return "nothing";
     const Json shown =
         value->is_string() ? Json(comparable_text(value->get_ref<const std::string&>())) : *value;
     return shown.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
-bool is_inside_character(const std::string& text, std::size_t position) {
-    return position < text.size() && (static_cast<unsigned char>(text[position]) & 0xC0) == 0x80;
-}
-
-/// The part of the text around a position.
-std::string around(const std::string& text, std::size_t position) {
-    std::size_t begin = position > shown_before ? position - shown_before : 0;
-    std::size_t end = std::min(text.size(), position + shown_behind);
-    while (is_inside_character(text, begin)) --begin;
-    while (is_inside_character(text, end)) ++end;
-    return (begin > 0 ? "…" : "") + text.substr(begin, end - begin) + (end < text.size() ? "…" : "");
 }
 
 bool is_same_text(const Json& native, const Json& dll) {

@@ -1,5 +1,7 @@
 #include "rehearsal/expectation.h"
 
+#include "rehearsal/excerpt.h"
+
 #include <regex>
 
 namespace ornavel::rehearsal {
@@ -7,19 +9,26 @@ namespace {
 
 std::string one_line(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
 
+/// As it stands in one line within a text that contains it.
+std::string inside(const Json& part) {
+    const std::string line = one_line(part);
+    return part.is_string() ? line.substr(1, line.size() - 2) : line;
+}
+
 class Comparison {
 public:
     std::vector<std::string> lines;
 
     void compare(const Json& expected, const Json* actual, const std::string& path) {
         if (const auto* test = find_test(expected)) return apply(*test, expected, actual, path);
-        if (!actual) return report(path, expected, "nothing is there");
+        if (!actual) return report(path, expected, nothing, {});
         if (expected.is_object() && actual->is_object()) return compare_objects(expected, *actual, path);
         if (expected.is_array() && actual->is_array()) return compare_arrays(expected, *actual, path);
-        if (expected != *actual) report(path, expected, one_line(*actual));
+        if (expected != *actual) report(path, expected, one_line(*actual), one_line(expected));
     }
 
 private:
+    static constexpr const char* nothing = "nothing is there";
     using Passes = bool (*)(const Json& argument, const Json* actual);
     struct Test {
         const char* name;
@@ -30,8 +39,9 @@ private:
 
     static const Test* find_test(const Json& expected);
     void apply(const Test& test, const Json& expected, const Json* actual, const std::string& path) {
-        if (!test.passes(expected.begin().value(), actual))
-            report(path, expected, actual ? one_line(*actual) : "nothing is there");
+        const Json& argument = expected.begin().value();
+        if (!test.passes(argument, actual))
+            report(path, expected, actual ? one_line(*actual) : nothing, inside(argument));
     }
 
     void compare_objects(const Json& expected, const Json& actual, const std::string& path) {
@@ -45,14 +55,19 @@ private:
     void compare_arrays(const Json& expected, const Json& actual, const std::string& path) {
         if (expected.size() != actual.size())
             lines.push_back(path + ": expected " + std::to_string(expected.size()) + " elements, got " +
-                            std::to_string(actual.size()) + ": " + one_line(actual));
+                            std::to_string(actual.size()) + ": " + around(one_line(actual), 0));
         for (std::size_t index = 0; index < expected.size() && index < actual.size(); ++index)
             compare(expected[index], &actual[index], path + "[" + std::to_string(index) + "]");
     }
 
-    void report(const std::string& path, const Json& expected, const std::string& actual) {
-        lines.push_back((path.empty() ? "outcome" : path) + ": expected " + one_line(expected) + ", got " +
-                        actual);
+    /// Both may be long: what is told lies around the end of the longest beginning of a part of what is
+    /// expected that the actual text holds.
+    void report(const std::string& path, const Json& expected, const std::string& actual,
+                const std::string& part) {
+        const auto [place, length] = longest_beginning(part, actual);
+        const std::string line = one_line(expected);
+        lines.push_back((path.empty() ? "outcome" : path) + ": expected " +
+                        around(line, line.find(part) + length) + ", got " + around(actual, place + length));
     }
 };
 

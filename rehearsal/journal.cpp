@@ -5,16 +5,25 @@
 namespace ornavel::rehearsal {
 namespace {
 
-constexpr std::size_t longest_value = 80;
+constexpr std::size_t longest_value = 400;
 
 bool uses_host(Deed deed) { return deed == Deed::get || deed == Deed::put || deed == Deed::call; }
 
 } // namespace
 
 void Journal::note(Deed deed, Text what, TextView value, bool found) {
+    entries_.push_back({act_, deed, std::move(what), shortened(value), found});
+}
+
+Text Journal::shortened(TextView value) {
     Text shown(value.substr(0, longest_value));
     if (value.size() > longest_value) shown += u"…";
-    entries_.push_back({act_, deed, std::move(what), std::move(shown), found});
+    return shown;
+}
+
+void Journal::fail(std::size_t place, Text words) {
+    entries_[place].failed = true;
+    entries_[place].failure = std::move(words);
 }
 
 std::size_t Journal::host_uses(std::size_t act) const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/text.h"
+#include "base/errors.h"
 
 #include <vector>
 
@@ -30,6 +30,8 @@ struct JournalEntry {
     Text what;         ///< "MailItem.HTMLBody", a section and key, a path, a program, a window's title
     Text value{};      ///< what went in or came out, shortened
     bool found = true; ///< false where what was read isn't there
+    bool failed = false;
+    Text failure{}; ///< the words of a use that failed; it may have none
 };
 
 /// Everything that happened in a rehearsal, in order.
@@ -37,6 +39,20 @@ class Journal {
 public:
     void begin_act(std::size_t act) { act_ = act; }
     void note(Deed deed, Text what, TextView value = {}, bool found = true);
+    /// What a use gave, for one that was noted before.
+    void tell_value(std::size_t place, TextView value) { entries_[place].value = shortened(value); }
+    /// Notes a use, makes it, and gives back what it gives. Where it throws, that is noted too.
+    template <class Use>
+    decltype(auto) note_use(Deed deed, Text what, TextView value, Use&& use) {
+        note(deed, std::move(what), value);
+        const std::size_t place = entries_.size() - 1;
+        try {
+            return use();
+        } catch (...) {
+            fail(place, current_description());
+            throw;
+        }
+    }
     const std::vector<JournalEntry>& entries() const { return entries_; }
     /// Keeps nothing of what has happened.
     void forget() { entries_ = {}; }
@@ -44,6 +60,9 @@ public:
     std::size_t host_uses(std::size_t act) const;
 
 private:
+    static Text shortened(TextView value);
+    void fail(std::size_t place, Text words);
+
     std::size_t act_ = 0;
     std::vector<JournalEntry> entries_;
 };

@@ -4,6 +4,7 @@
 #include "rehearsal/native/native_play.h"
 #include "rehearsal/native/wine_play.h"
 #include "rehearsal/notes.h"
+#include "rehearsal/report/report.h"
 
 #include <fstream>
 #include <iostream>
@@ -68,6 +69,9 @@ int rehearse(const CommandLine& line) {
         good = is_good(all[i], outcomes[i], with_dll.empty() ? nullptr : &with_dll[i]) && good;
     const bool single = line.scenarios.size() == 1 && all.size() == 1 && !all[0].is_of_suite();
     write_out(line.out, single ? outcomes[0] : Json(outcomes));
+    if (!line.report.empty())
+        report::write_report(line.report, all, line.binding == Binding::wine ? outcomes : with_dll,
+                             line.out.empty() ? std::cerr : std::cout);
     return good ? exit_played : exit_failed;
 }
 

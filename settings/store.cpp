@@ -11,6 +11,11 @@ Text value_of(const Store& store, const Key& key, TextView fallback) {
 
 Text value_of(const Store& store, const Key& key) { return value_of(store, key, key.default_value); }
 
+int number_in(const Store& store, const Key& key, int (*value_of)(TextView)) noexcept {
+    const auto value = store.find(key.section, key.name);
+    return value_of(value ? TextView(*value) : key.default_value);
+}
+
 /// Compares without building a text, for which there may be no memory.
 bool is(const Store& store, const Key& key, TextView wanted) noexcept {
     const auto value = store.find(key.section, key.name);
@@ -32,13 +37,13 @@ bool is_on(const Store& store, const SwitchKey& key) noexcept { return is(store,
 bool is_off(const Store& store, const SwitchKey& key) noexcept { return is(store, key, off); }
 bool is_ticked(const Store& store, const TickKey& key) noexcept { return is(store, key, u"1"); }
 int read_number(const Store& store, const NumberKey& key) noexcept {
-    const auto value = store.find(key.section, key.name);
-    return numeric_value(value ? TextView(*value) : key.default_value);
+    return number_in(store, key, numeric_value);
+}
+int read_coordinate(const Store& store, const NumberKey& key) noexcept {
+    return number_in(store, key, signed_value);
 }
 
-void save(Store& store, const Key& key, TextView value) noexcept {
-    store.save(key.section, key.name, value);
-}
+void save(Store& store, const Key& key, TextView value) noexcept { store.save(key.section, key.name, value); }
 
 std::optional<Text> MemoryStore::find(TextView section, TextView key) const noexcept {
     std::optional<Text> value;

@@ -37,6 +37,9 @@ bool is_ticked(const Store& store, const TickKey& key) noexcept;
 /// The digits that the value begins with, as numeric_value takes them.
 int read_number(const Store& store, const NumberKey& key) noexcept;
 
+/// The same with the minus in front that a coordinate may have.
+int read_coordinate(const Store& store, const NumberKey& key) noexcept;
+
 void save(Store& store, const Key& key, TextView value) noexcept;
 
 /// A store that lives as long as the program.

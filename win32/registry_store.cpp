@@ -9,17 +9,17 @@ Text path_of(TextView section) { return u"Software\\VB and VBA Program Settings\
 
 } // namespace
 
-const std::optional<RegistryKey>& RegistryStore::key_of(TextView section) const {
+const RegistryKey* RegistryStore::key_of(TextView section) const {
     if (watch_.has_something_changed()) keys_.clear();
-    const auto known = keys_.find(section);
-    if (known != keys_.end()) return known->second;
-    return keys_.emplace(Text(section), RegistryKey::open(path_of(section))).first->second;
+    if (const auto known = keys_.find(section); known != keys_.end()) return &known->second;
+    auto key = RegistryKey::open(path_of(section));
+    return key ? &keys_.emplace(Text(section), std::move(*key)).first->second : nullptr;
 }
 
 std::optional<Text> RegistryStore::find(TextView section, TextView key) const noexcept {
     std::optional<RegistryKey::StoredText> stored;
     const auto look = [&] {
-        if (const auto& values = key_of(section)) stored = values->stored_text(key);
+        if (const auto* values = key_of(section)) stored = values->stored_text(key);
     };
     std::optional<Text> value;
     attempt([&] {

@@ -10,7 +10,7 @@ namespace ornavel::win32 {
 /// The user's settings in the registry, where the add-in's other programs and administrators find them. Only
 /// values of the type "string" count; for a setting that is a path also those of the type "expandable
 /// string", with the environment's values in them. The keys of the sections stay open from one reading to the
-/// next: a key that is removed meanwhile is noticed at once, one that was made or renamed at the clock's next
+/// next: a key that is made or removed meanwhile is noticed at once, one that is renamed at the clock's next
 /// tick.
 class RegistryStore final : public settings::Store {
 public:
@@ -22,10 +22,10 @@ private:
         using is_transparent = void;
         bool operator()(TextView left, TextView right) const { return name_before(left, right); }
     };
-    /// Where a section has no key there is none.
-    using Keys = std::map<Text, std::optional<RegistryKey>, NameOrder>;
+    using Keys = std::map<Text, RegistryKey, NameOrder>;
 
-    const std::optional<RegistryKey>& key_of(TextView section) const;
+    /// Nothing where the section has no key.
+    const RegistryKey* key_of(TextView section) const;
 
     mutable KeyWatch watch_{u"Software\\VB and VBA Program Settings"};
     mutable Keys keys_;

@@ -63,32 +63,45 @@ Handle::Target Handle::find(TextView member) const {
     if (!row) throw host::Error(u"Object doesn't support this property or method");
     used += row->name;
     client_.count_use(used);
-    return {*node, *row, used};
+    return {*node, *row};
+}
+
+Text Handle::full_name(TextView member) const {
+    for (Node* node = node_.get(); node; node = node->behind())
+        if (const MemberRow* row = find_row(node->what(), member))
+            return Text(node->what().name) + u'.' + Text(row->name);
+    return Text(node_->what().name) + u'.' + Text(member);
 }
 
 Value Handle::get(host::Member member, const Arguments& arguments) {
     const MachinesTurn turn;
-    const Target target = find(member.name);
-    check_count(target.row, arguments);
-    Value value = client_.given(target.row.read({client_, target.node, arguments, *node_}));
-    client_.journal().note(Deed::get, target.name, shown(value));
-    return value;
+    Journal& journal = client_.journal();
+    return journal.note_use(Deed::get, full_name(member.name), {}, [&] {
+        const std::size_t place = journal.entries().size() - 1;
+        const Target target = find(member.name);
+        check_count(target.row, arguments);
+        Value value = client_.given(target.row.read({client_, target.node, arguments, *node_}));
+        journal.tell_value(place, shown(value));
+        return value;
+    });
 }
 
 void Handle::put(host::Member member, const Value& value) {
     const MachinesTurn turn;
-    const Target target = find(member.name);
-    if (!target.row.write) throw host::Error(u"Object doesn't support this property or method");
-    client_.journal().note(Deed::put, target.name, shown(value));
-    target.row.write({client_, target.node, no_arguments, *node_}, value);
+    client_.journal().note_use(Deed::put, full_name(member.name), shown(value), [&] {
+        const Target target = find(member.name);
+        if (!target.row.write) throw host::Error(u"Object doesn't support this property or method");
+        target.row.write({client_, target.node, no_arguments, *node_}, value);
+    });
 }
 
 Value Handle::call(host::Member member, const Arguments& arguments) {
     const MachinesTurn turn;
-    const Target target = find(member.name);
-    check_count(target.row, arguments);
-    client_.journal().note(Deed::call, target.name, shown(arguments));
-    return client_.given(target.row.read({client_, target.node, arguments, *node_}));
+    return client_.journal().note_use(Deed::call, full_name(member.name), shown(arguments), [&] {
+        const Target target = find(member.name);
+        check_count(target.row, arguments);
+        return client_.given(target.row.read({client_, target.node, arguments, *node_}));
+    });
 }
 
 host::Subscription Handle::advise(host::EventSource source, host::EventHandler handler) {

@@ -23,9 +23,10 @@ private:
     struct Target {
         Node& node;
         const MemberRow& row;
-        Text name;
     };
     Target find(TextView member) const;
+    /// "MailItem.Subject": as the class spells it that has the member, also behind a wrapper.
+    Text full_name(TextView member) const;
 
     MailClient& client_;
     NodePtr node_;

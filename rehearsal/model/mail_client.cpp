@@ -53,25 +53,27 @@ MailClient::MailClient(const Scenario& scenario, Machine& machine, Failures& fai
 
 host::ObjectPtr MailClient::create(TextView prog_id) {
     const MachinesTurn turn;
-    journal_.note(Deed::call, u"CreateObject", prog_id);
-    failures_.use(Failing::Kind::creation, prog_id);
-    const auto entry =
-        std::find_if(std::begin(creatables), std::end(creatables),
-                     [&](const Creatable& candidate) { return same_name(candidate.prog_id, prog_id); });
-    if (entry == std::end(creatables) || !is_there(host(), prog_id))
-        throw host::Error(u"ActiveX component can't create object");
-    return hand_out(entry->make());
+    return journal_.note_use(Deed::call, u"CreateObject", prog_id, [&] {
+        failures_.use(Failing::Kind::creation, prog_id);
+        const auto entry =
+            std::find_if(std::begin(creatables), std::end(creatables),
+                         [&](const Creatable& candidate) { return same_name(candidate.prog_id, prog_id); });
+        if (entry == std::end(creatables) || !is_there(host(), prog_id))
+            throw host::Error(u"ActiveX component can't create object");
+        return hand_out(entry->make());
+    });
 }
 
 host::ObjectPtr MailClient::get(TextView moniker) {
     const MachinesTurn turn;
-    journal_.note(Deed::call, u"GetObject", moniker);
-    failures_.use(Failing::Kind::creation, moniker);
-    const bool provider =
-        moniker.starts_with(u"winmgmts:") && moniker.ends_with(u"\\root\\default:StdRegProv");
-    if (!provider || !is_there(host(), u"winmgmts"))
-        throw host::Error(u"ActiveX component can't create object");
-    return hand_out(std::make_shared<RegistryProviderNode>());
+    return journal_.note_use(Deed::call, u"GetObject", moniker, [&] {
+        failures_.use(Failing::Kind::creation, moniker);
+        const bool provider =
+            moniker.starts_with(u"winmgmts:") && moniker.ends_with(u"\\root\\default:StdRegProv");
+        if (!provider || !is_there(host(), u"winmgmts"))
+            throw host::Error(u"ActiveX component can't create object");
+        return hand_out(std::make_shared<RegistryProviderNode>());
+    });
 }
 
 Value MailClient::given(Value value) {

@@ -6,7 +6,7 @@ namespace ornavel::rehearsal {
 namespace {
 
 constexpr const char* usage =
-    "usage: rehearse [--binding native|wine|both] [--out OUTCOME.json] SCENARIO.json...";
+    "usage: rehearse [--binding native|wine|both] [--out OUTCOME.json] [--report PAGE.html] SCENARIO.json...";
 
 Binding binding_of(const std::string& name) {
     if (name == "native") return Binding::native;
@@ -23,6 +23,7 @@ struct Option {
 constexpr Option options[] = {
     {"--binding", [](CommandLine& line, const std::string& value) { line.binding = binding_of(value); }},
     {"--out", [](CommandLine& line, const std::string& value) { line.out = value; }},
+    {"--report", [](CommandLine& line, const std::string& value) { line.report = value; }},
 };
 
 /// Takes the option at this place, with its value; gives back the place of its last word.
@@ -66,6 +67,7 @@ Plays each scenario, and each case of a suite, in a world of its own and writes 
   --binding wine     with the real DLL under Wine (this is the default)
   --binding both     one after the other; prints where the outcomes differ, and writes the native one
   --out FILE         writes the outcome there and not to the standard output
+  --report PAGE.html writes a page that shows what became of each message
   --help             prints this
 
 Exit code: 0 when everything was played and came out as expected, 1 when not, 2 for what can't be played.

@@ -8,7 +8,8 @@ namespace ornavel::rehearsal {
 struct CommandLine {
     bool help = false;
     Binding binding = Binding::wine;
-    std::string out; ///< the file that takes the outcome; empty for the standard output
+    std::string out;    ///< the file that takes the outcome; empty for the standard output
+    std::string report; ///< the file that takes the page; empty for none
     std::vector<std::string> scenarios;
 };
 

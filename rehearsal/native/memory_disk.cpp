@@ -1,8 +1,8 @@
 #include "rehearsal/native/memory_disk.h"
 
-#include "rehearsal/turn.h"
-
+#include "base/encoding.h"
 #include "base/errors.h"
+#include "rehearsal/turn.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -117,6 +117,13 @@ void MemoryDisk::remove_folder(TextView path) {
                   [&](const auto& other) { return same_name(other, folder) || is_below(other, folder); });
 }
 
+namespace {
+
+/// As much as the journal may show.
+Text beginning(std::string_view bytes) { return from_utf8(bytes.substr(0, 2000)); }
+
+} // namespace
+
 bool RehearsedDisk::file_exists(TextView path) const {
     const MachinesTurn turn;
     return disk_.file_exists(path);
@@ -144,30 +151,34 @@ void RehearsedDisk::create_folder(TextView path) {
 
 std::string RehearsedDisk::read(TextView path) const {
     const MachinesTurn turn;
-    journal_.note(Deed::read_file, Text(path));
-    failures_.use(Failing::Kind::read_file, plain_path(path));
-    return failures_.given(disk_.read(path));
+    return journal_.note_use(Deed::read_file, Text(path), {}, [&] {
+        failures_.use(Failing::Kind::read_file, plain_path(path));
+        return failures_.given(disk_.read(path));
+    });
 }
 
 void RehearsedDisk::write(TextView path, std::string_view bytes) {
     const MachinesTurn turn;
-    journal_.note(Deed::write_file, Text(path));
-    failures_.use(Failing::Kind::write_file, plain_path(path));
-    disk_.write(path, bytes);
+    journal_.note_use(Deed::write_file, Text(path), beginning(bytes), [&] {
+        failures_.use(Failing::Kind::write_file, plain_path(path));
+        disk_.write(path, bytes);
+    });
 }
 
 void RehearsedDisk::append(TextView path, std::string_view bytes) {
     const MachinesTurn turn;
-    journal_.note(Deed::write_file, Text(path));
-    failures_.use(Failing::Kind::write_file, plain_path(path));
-    disk_.append(path, bytes);
+    journal_.note_use(Deed::write_file, Text(path), beginning(bytes), [&] {
+        failures_.use(Failing::Kind::write_file, plain_path(path));
+        disk_.append(path, bytes);
+    });
 }
 
 void RehearsedDisk::remove(TextView path) {
     const MachinesTurn turn;
-    journal_.note(Deed::delete_file, Text(path));
-    failures_.use(Failing::Kind::delete_file, plain_path(path));
-    disk_.remove(path);
+    journal_.note_use(Deed::delete_file, Text(path), {}, [&] {
+        failures_.use(Failing::Kind::delete_file, plain_path(path));
+        disk_.remove(path);
+    });
 }
 
 /// What is put in place counts as a file that is written there.
@@ -180,9 +191,10 @@ void RehearsedDisk::move(TextView from, TextView to) {
 
 void RehearsedDisk::remove_folder(TextView path) {
     const MachinesTurn turn;
-    journal_.note(Deed::delete_file, Text(path));
-    failures_.use(Failing::Kind::delete_file, plain_path(path));
-    disk_.remove_folder(path);
+    journal_.note_use(Deed::delete_file, Text(path), {}, [&] {
+        failures_.use(Failing::Kind::delete_file, plain_path(path));
+        disk_.remove_folder(path);
+    });
 }
 
 } // namespace ornavel::rehearsal

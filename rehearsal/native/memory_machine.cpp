@@ -97,8 +97,8 @@ bool MemoryMachine::tray(const Act& act) {
 
 void MemoryMachine::launch(TextView program, TextView arguments, WindowState window) {
     const MachinesTurn turn;
-    journal_.note(Deed::launch, Text(program), arguments);
-    failures_.use(Failing::Kind::launch, file_name(program));
+    journal_.note_use(Deed::launch, Text(program), arguments,
+                      [&] { failures_.use(Failing::Kind::launch, file_name(program)); });
     launched_.push_back({{"program", to_json(recorded_program(program))},
                          {"arguments", to_json(arguments)},
                          {"window", state_name(window)}});
@@ -106,8 +106,7 @@ void MemoryMachine::launch(TextView program, TextView arguments, WindowState win
 
 Answer MemoryMachine::show(TextView title, TextView text, Buttons buttons) {
     const MachinesTurn turn;
-    journal_.note(Deed::window, Text(title), text);
-    failures_.use(Failing::Kind::window, title);
+    journal_.note_use(Deed::window, Text(title), text, [&] { failures_.use(Failing::Kind::window, title); });
     const auto& record = windows_.emplace_back(answer_message_box(user_, title, text, buttons));
     if (buttons == Buttons::ok) return Answer::ok;
     return record.at("answer") == "Yes" ? Answer::yes : Answer::no;

@@ -3,6 +3,7 @@
 #include "rehearsal/native/apart.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 
 #include <unistd.h>
@@ -21,8 +22,10 @@ fs::path checkout() {
     throw Unusable(program.string() + ": is not in a checkout; the wine binding needs its tools");
 }
 
-std::string part_of_checkout(const char* name) {
-    const fs::path path = checkout() / name;
+/// A part of the checkout, unless the environment names another.
+std::string part_of_checkout(const char* name, const char* variable) {
+    const char* const given = std::getenv(variable);
+    const fs::path path = given ? fs::path(given) : checkout() / name;
     if (!fs::exists(path)) throw Unusable(path.string() + ": is not there; the wine binding needs it");
     return path;
 }
@@ -44,8 +47,8 @@ constexpr std::size_t most_at_once = 200;
 class Windows {
 public:
     explicit Windows(const std::vector<Loaded>& scenarios)
-        : scenarios_(scenarios), runner_(part_of_checkout("tools/wine/run")),
-          player_(part_of_checkout("build/windows/rehearsal/rehearse.exe")) {
+        : scenarios_(scenarios), runner_(part_of_checkout("tools/wine/run", "ORNAVEL_WINE_RUN")),
+          player_(part_of_checkout("build/windows/rehearsal/rehearse.exe", "ORNAVEL_WINE_REHEARSE")) {
         for (std::size_t i = 0; i < scenarios.size(); ++i)
             std::ofstream(in(i), std::ios::binary)
                 << to_json_text(with_files_inside(scenarios[i].json, scenarios[i].scenario));

@@ -45,9 +45,10 @@ int count_of(TextView text, TextView part) {
     return count;
 }
 
-std::string frame(const std::string& document, int height) {
-    return "<iframe sandbox height=\"" + std::to_string(height) + "\" srcdoc=\"" + escape(document) +
-           "\"></iframe>\n";
+/// The page may measure what the frame shows; nothing in the frame may run.
+std::string frame(const std::string& title, const std::string& document, int height) {
+    return "<iframe sandbox=\"allow-same-origin\" title=\"" + escape(title) + "\" height=\"" +
+           std::to_string(height) + "\" srcdoc=\"" + escape(document) + "\"></iframe>\n";
 }
 
 } // namespace
@@ -65,14 +66,15 @@ int estimated_height(const std::string& html) {
     return std::clamp(margins + tags * height_of_tag + letters / letters_in_pixel, lowest, highest);
 }
 
-std::string message_frame(const std::string& html, const Named<std::string>& files, int height) {
-    return frame(closed_world + to_utf8(with_pictures(from_utf8(html), files)), height);
+std::string message_frame(const std::string& title, const std::string& html, const Named<std::string>& files,
+                          int height) {
+    return frame(title, closed_world + to_utf8(with_pictures(from_utf8(html), files)), height);
 }
 
-std::string plain_text_frame(const std::string& text, int height) {
-    return frame(std::string(closed_world) + "<pre style=\"white-space: pre-wrap\">" + escape(text) +
-                     "</pre>",
-                 height);
+std::string plain_text_frame(const std::string& title, const std::string& text, int height) {
+    return frame(
+        title, std::string(closed_world) + "<pre style=\"white-space: pre-wrap\">" + escape(text) + "</pre>",
+        height);
 }
 
 } // namespace ornavel::rehearsal::report

@@ -43,8 +43,8 @@ Story gather(Scenario scenario, const std::string& source, const std::optional<J
         dll_outcome && dll_outcome->value("acts", Json::array()).size() == story.scenario.acts.size();
     story.outcome = story.with_dll ? *dll_outcome : native;
     if (dll_outcome)
-        for (auto& [path, one, other] : differences(native, *dll_outcome))
-            story.differences.push_back(std::move(path));
+        for (const auto& difference : differences(native, *dll_outcome))
+            story.differences.push_back(to_line(difference));
     story.sends = sends_of(story.scenario, story.outcome, journal);
     if (story.scenario.expect) story.mismatches = mismatches(*story.scenario.expect, story.outcome);
     return story;

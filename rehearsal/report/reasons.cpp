@@ -1,6 +1,7 @@
 #include "rehearsal/report/reasons.h"
 
 #include "base/encoding.h"
+#include "rehearsal/report/findings.h"
 #include "rehearsal/report/words.h"
 
 #include <algorithm>
@@ -10,46 +11,43 @@ namespace {
 
 constexpr std::string_view last_gate = "stamping";
 
-/// A setting's value before the story began.
-std::string given(const Story& story, TextView section, TextView key) {
-    for (const auto& [name, values] : story.scenario.settings)
-        for (const auto& [other, value] : values)
-            if (same_name(name, section) && same_name(other, key)) return to_utf8(stored_text(value));
-    return {};
+/// What the send read of a setting.
+std::string read_of(const Story& story, const Send& send, TextView setting) {
+    return quoted(to_utf8(value_read(story, send, setting)));
 }
 
-std::string quoted(const std::string& text) { return "“" + text + "”"; }
+const Item& item_of(const Story& story, const Send& send) { return story.scenario.items.at(send.item); }
 
-using Reason = std::string (*)(const Story& story, const Item& item);
+using Reason = std::string (*)(const Story& story, const Send& send);
 
-std::string by_mode(const Story& story, const Item&) {
-    return "the mode (SettingButtonBar) is " + quoted(given(story, u"User Settings", u"SettingButtonBar")) +
+std::string by_mode(const Story& story, const Send& send) {
+    return "the mode (SettingButtonBar) is " + read_of(story, send, u"User Settings / SettingButtonBar") +
            ", and only “auto” dresses";
 }
 
-std::string by_class(const Story&, const Item& item) {
-    return "its class is " + to_utf8(item.message_class) + ", and only IPM.Note is dressed";
+std::string by_class(const Story& story, const Send& send) {
+    return "its class is " + to_utf8(item_of(story, send).message_class) + ", and only IPM.Note is dressed";
 }
 
-std::string by_folder(const Story&, const Item& item) {
-    return "it lies in the folder " + quoted(to_utf8(item.parent)) +
+std::string by_folder(const Story& story, const Send& send) {
+    return "it lies in the folder " + quoted(to_utf8(item_of(story, send).parent)) +
            " and carries the stamp of an earlier send";
 }
 
-std::string by_recipients(const Story& story, const Item& item) {
-    const std::string setting = "SkipInternal is " + quoted(given(story, u"Admin Settings", u"SkipInternal"));
-    if (item.editor_type == 3) return setting + ", and rich text is then left as it is";
+std::string by_recipients(const Story& story, const Send& send) {
+    const std::string setting = "SkipInternal is " + read_of(story, send, u"Admin Settings / SkipInternal");
+    if (item_of(story, send).editor_type == 3) return setting + ", and rich text is then left as it is";
     return setting + ", and every recipient counts as internal";
 }
 
-std::string by_template(const Story& story, const Item&) {
-    return "no default template is chosen (Template is " +
-           quoted(given(story, u"User Settings", u"Template")) + ")";
+std::string by_template(const Story& story, const Send& send) {
+    return "no default template is chosen (Template is " + read_of(story, send, u"User Settings / Template") +
+           ")";
 }
 
-std::string by_signature(const Story& story, const Item&) {
+std::string by_signature(const Story& story, const Send& send) {
     return "no default signature is chosen (Signature is " +
-           quoted(given(story, u"User Settings", u"Signature")) + ")";
+           read_of(story, send, u"User Settings / Signature") + ")";
 }
 
 /// A reason in fixed words, or one that shows what it looked at.
@@ -83,8 +81,7 @@ constexpr Row rows[] = {
 std::string reason(const Story& story, const Send& send, const std::string& gate) {
     const auto row = std::ranges::find(rows, gate, &Row::gate);
     if (row == std::end(rows)) return {};
-    return ": " +
-           (row->reason ? row->reason(story, story.scenario.items.at(send.item)) : std::string(row->words));
+    return ": " + (row->reason ? row->reason(story, send) : std::string(row->words));
 }
 
 } // namespace

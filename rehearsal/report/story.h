@@ -19,12 +19,17 @@ struct Send {
     std::vector<GateVisit> gates; ///< in the order in which the send reached them
 };
 
+/// Where a page comes from.
+struct Origin {
+    std::string date, commit, version; ///< today's; of the checkout, empty where unknown; of the add-in
+};
+
 /// A scenario that was played: what it gave, what came out, and how.
 struct Story {
     Scenario scenario;
     Json outcome;                         ///< with the real DLL where it was played so, else native
     bool with_dll = false;                ///< which of the two
-    std::vector<std::string> differences; ///< where the two outcomes differ
+    std::vector<std::string> differences; ///< between the two outcomes, a line each
     std::vector<std::string> mismatches;  ///< with what the scenario expects
     std::vector<JournalEntry> journal;    ///< of the native play
     std::vector<Send> sends;

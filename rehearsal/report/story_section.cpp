@@ -1,6 +1,7 @@
 #include "rehearsal/report/page.h"
 
 #include "base/encoding.h"
+#include "rehearsal/report/findings.h"
 #include "rehearsal/report/frame.h"
 #include "rehearsal/report/html.h"
 #include "rehearsal/report/reasons.h"
@@ -39,8 +40,10 @@ std::string letter(const char* caption, const Shown& shown, const Story& story, 
     const std::string envelope =
         text_element("strong", "", shown.subject) +
         text_element("span", "", to_utf8(story.scenario.host.user_name) + " to " + names_of(item));
-    const std::string frame = shown.html.empty() ? plain_text_frame(shown.plain, height)
-                                                 : message_frame(shown.html, story.scenario.files, height);
+    const std::string title = shown.subject + ", " + caption;
+    const std::string frame = shown.html.empty()
+                                  ? plain_text_frame(title, shown.plain, height)
+                                  : message_frame(title, shown.html, story.scenario.files, height);
     return element("figure", "",
                    text_element("figcaption", "", caption) +
                        element("div", "letter", element("div", "envelope", envelope) + frame));
@@ -66,13 +69,21 @@ std::string gate_rail(const Send& send) {
     std::string gates;
     for (const auto& gate : send.gates)
         gates += text_element("li", gate.passed ? "passed" : "left", gate.name);
+    if (ended_by_error(send)) gates += text_element("li", "ended", "an error");
     return element("ol", "gates", gates);
+}
+
+std::size_t calls_in_all(const Story& story) {
+    return static_cast<std::size_t>(std::ranges::count_if(story.journal, [](const JournalEntry& entry) {
+        return entry.deed == Deed::get || entry.deed == Deed::put || entry.deed == Deed::call;
+    }));
 }
 
 std::string sentence(const Story& story, const Send& send) {
     return capital(what_came_in(story, send)) + " " + what_happened(story, send) + ". " +
            way_through_the_gates(story, send) + " That took " + milliseconds(send.milliseconds) + " and " +
-           counted(send.calls, "call") + " into the mail client.";
+           counted(send.calls, "call") + " into the mail client during the send, " +
+           std::to_string(calls_in_all(story)) + " in all.";
 }
 
 std::string send_part(const Story& story, const Send& send) {
@@ -87,29 +98,16 @@ std::string send_part(const Story& story, const Send& send) {
            gate_rail(send);
 }
 
-/// What a form says: its visible labels.
-std::string labels_of(const Json& form) {
-    std::string words;
-    for (const auto& control : form.value("controls", Json::object()))
-        if (text_of(control, "kind") == "Label" && control.value("visible", false))
-            words += text_of(control, "caption") + '\n';
-    return words;
-}
-
-std::string window(const Json& shown) {
-    const std::string title =
-        text_of(shown, "message box") + text_of(shown, "input box") + text_of(shown, "caption");
-    const std::string words = text_of(shown, "text") + text_of(shown, "prompt") + labels_of(shown);
-    const std::string answer = text_of(shown, "answer");
-    return element("li", "",
-                   text_element("strong", "", title) + text_element("span", "", words) +
-                       (answer.empty() ? "" : text_element("em", "", "answered " + answer)));
-}
-
-std::string windows_shown(const Story& story) {
-    std::string windows;
-    for (const auto& shown : story.outcome.value("windows", Json::array())) windows += window(shown);
-    return windows.empty() ? windows : element("ul", "windows", windows);
+/// What the story's sends leave to be looked at.
+std::string look_at_this(const Story& story) {
+    std::string lines;
+    for (const auto& send : story.sends)
+        for (const auto& finding : findings_in(story, send)) lines += text_element("li", "", finding);
+    if (!story.outcome.at("error").is_null())
+        lines += text_element("li", "",
+                              "The mail client was left with an error: " + story.outcome.at("error").dump());
+    if (lines.empty()) return {};
+    return element("div", "notice", text_element("h3", "", "Look at this") + element("ul", "", lines));
 }
 
 std::string verdicts(const Story& story) {
@@ -119,8 +117,8 @@ std::string verdicts(const Story& story) {
         facts += text_element("li", "good", "same outcome in both plays");
     if (!story.with_dll && !story.differences.empty())
         facts += text_element("li", "bad", "the real DLL did not come to the end; shown is the other play");
-    for (const auto& part : story.differences)
-        facts += text_element("li", "bad", "the plays differ in “" + part + "”");
+    for (const auto& difference : story.differences)
+        facts += text_element("li", "bad", "the plays differ in " + difference);
     for (const auto& mismatch : story.mismatches) facts += text_element("li", "bad", mismatch);
     if (story.mismatches.empty() && story.scenario.expect)
         facts += text_element("li", "good", "as the story expects");
@@ -133,7 +131,7 @@ std::string story_section(const Story& story, std::size_t number) {
     std::string body = text_element("p", "eyebrow", "Story " + std::to_string(number)) +
                        text_element("h2", "", to_utf8(story.scenario.name));
     for (const auto& send : story.sends) body += send_part(story, send);
-    body += windows_shown(story);
+    body += look_at_this(story) + windows_section(story);
     for (const auto& send : story.sends) body += sources(story, send);
     body += journal_section(story) + verdicts(story);
     return "<section id=\"story-" + std::to_string(number) + "\">\n" + body + "</section>\n";

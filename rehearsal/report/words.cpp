@@ -2,6 +2,7 @@
 
 #include "base/encoding.h"
 #include "host/stamps.h"
+#include "rehearsal/report/findings.h"
 #include "rehearsal/report/reasons.h"
 
 #include <algorithm>
@@ -34,19 +35,13 @@ std::string kind(const Item& item) {
     return item.is_word_mail ? "a Word-written message" : "an HTML message";
 }
 
-std::string setting(const Story& story, const char* section, const char* key) {
-    const Json settings = story.outcome.value("settings", Json::object());
-    const Json keys = settings.value(section, Json::object());
-    return text_of(keys, key);
-}
-
-std::string dressing(const Story& story, const Item& item) {
-    if (item.editor_type == 1) return "went out turned into HTML, and stamped";
-    const std::string signature = setting(story, "User Settings", "Signature");
-    const std::string sheet = setting(story, "User Settings", "Template");
-    return "went out dressed in " + sheet +
-           (signature == "none" ? " without a signature" : " with the signature " + signature) +
-           ", and stamped";
+std::string dressing(const Story& story, const Send& send) {
+    if (story.scenario.items.at(send.item).editor_type == 1) return "went out turned into HTML, and stamped";
+    const std::string sheet = template_read(story, send), signature = signature_read(story, send);
+    const std::string signed_with =
+        signature.empty() ? "without a signature" : "with the signature " + signature;
+    if (sheet.empty()) return "went out stamped, without a template and " + signed_with;
+    return "went out dressed in " + sheet + ' ' + signed_with + ", and stamped";
 }
 
 bool same_body(const Item& before, const Json& after) {
@@ -61,13 +56,22 @@ std::string text_of(const Json& item, const char* member) {
     return found != item.end() && found->is_string() ? found->get<std::string>() : std::string();
 }
 
+bool is_stamped(const Story& story, const Send& send) {
+    const Json& after = story.outcome.at("items").at(send.item);
+    return text_of(after, "BillingInformation") == to_utf8(host::stamps::dressed) &&
+           story.scenario.items.at(send.item).billing_information != host::stamps::dressed;
+}
+
+bool is_as_expected(const Story& story) {
+    return story.outcome.at("error").is_null() && story.mismatches.empty() && story.differences.empty();
+}
+
 Fate fate_of(const Story& story, const Send& send) {
+    if (ended_by_error(send)) return Fate::failed;
     if (send.cancelled) return Fate::held_back;
+    if (is_stamped(story, send)) return findings_in(story, send).empty() ? Fate::dressed : Fate::dressed_but;
     const Item& before = story.scenario.items.at(send.item);
     const Json& after = story.outcome.at("items").at(send.item);
-    const bool stamped = text_of(after, "BillingInformation") == to_utf8(host::stamps::dressed) &&
-                         before.billing_information != host::stamps::dressed;
-    if (stamped) return Fate::dressed;
     const bool same_subject = to_utf8(before.subject) == text_of(after, "Subject");
     return same_body(before, after) && same_subject ? Fate::untouched : Fate::changed;
 }
@@ -76,12 +80,16 @@ std::string_view name_of(Fate fate) {
     switch (fate) {
     case Fate::dressed:
         return "dressed";
+    case Fate::dressed_but:
+        return "dressed, but…";
     case Fate::changed:
         return "changed otherwise";
     case Fate::untouched:
         return "left alone";
-    default:
+    case Fate::held_back:
         return "held back";
+    default:
+        return "failed";
     }
 }
 
@@ -97,7 +105,9 @@ std::string what_came_in(const Story& story, const Send& send) {
 std::string what_happened(const Story& story, const Send& send) {
     switch (fate_of(story, send)) {
     case Fate::dressed:
-        return dressing(story, story.scenario.items.at(send.item));
+        return dressing(story, send);
+    case Fate::dressed_but:
+        return dressing(story, send) + ", but there is something to look at";
     case Fate::changed:
         if (same_body(story.scenario.items.at(send.item), story.outcome.at("items").at(send.item)))
             return "went out as it was written, with a note in its subject";
@@ -105,10 +115,19 @@ std::string what_happened(const Story& story, const Send& send) {
                                                 : "went out changed, without the stamp";
     case Fate::untouched:
         return "went out exactly as it was written";
-    default:
+    case Fate::held_back:
         return "was held back";
+    default:
+        return send.cancelled ? "was held back by an error" : "went out as an error left it";
     }
 }
+
+std::string title_of_window(const Json& window) {
+    return text_of(window, "message box") + text_of(window, "input box") + text_of(window, "file dialog") +
+           text_of(window, "caption");
+}
+
+std::string quoted(const std::string& text) { return "“" + text + "”"; }
 
 std::string capital(std::string words) {
     if (!words.empty() && words[0] >= 'a' && words[0] <= 'z')

@@ -36,15 +36,7 @@ struct Lifecycle {
     std::size_t buttons() const { return stage.client.standard_bar->buttons.size(); }
 
     rehearsal::Stage stage;
-    Connect addin{Platform{.settings = stage.machine.addin_settings(),
-                           .files = stage.machine.addin_files(),
-                           .clock = stage.machine.addin_clock(),
-                           .launcher = stage.machine.addin_launcher(),
-                           .objects = stage.client,
-                           .windows = stage.machine.addin_windows(),
-                           .strings = forms::built_in_strings(),
-                           .machine = stage.machine.addin_machine(),
-                           .addin_folder = u"C:\\app"}};
+    Connect addin{platform_of(stage)};
 };
 
 TEST(Lifecycle, AnExplorerThatClosesIsNotHookedAgainThoughItIsStillTheActiveOne) {

@@ -1,5 +1,5 @@
 #include "connect/connect.h"
-#include "tests/rehearsal/stage.h"
+#include "tests/connect/staged_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -80,16 +80,9 @@ protected:
     }
 
     Platform platform() {
-        return {.settings = store,
-                .files = stage.machine.addin_files(),
-                .clock = clock,
-                .launcher = stage.machine.addin_launcher(),
-                .objects = stage.client,
-                .windows = windows,
-                .strings = forms::built_in_strings(),
-                .machine = stage.machine.addin_machine(),
-                .addin_folder = u"C:\\add-in",
-                .keep = [this] { return connect; }};
+        Platform platform = platform_of(stage, {.settings = &store, .clock = &clock, .windows = &windows});
+        platform.keep = [this] { return connect; };
+        return platform;
     }
 
     bool send(std::size_t item) { return stage.client.send(*stage.client.items[item]); }
@@ -98,7 +91,7 @@ protected:
         stage.machine.change_settings({{u"User Settings", {{u"Template", u""}}}});
     }
     Text mode() { return *stage.machine.addin_settings().find(u"User Settings", u"SettingButtonBar"); }
-    Text log() { return from_utf8(stage.machine.files().read(u"C:\\add-in\\Support\\SupportLog.txt")); }
+    Text log() { return from_utf8(stage.machine.files().read(u"C:\\app\\Support\\SupportLog.txt")); }
 
     Stage stage{two_messages};
     InterruptedWindows windows;

@@ -1,6 +1,7 @@
 #include "tests/connect/sending.h"
 
 #include "base/encoding.h"
+#include "connect/send_pipeline.h"
 
 #include <algorithm>
 
@@ -10,6 +11,34 @@ namespace {
 using namespace settings;
 
 const Text odd{u'a', char16_t{0}, char16_t{0xD800}, u'b', char16_t{0xDC00}, u'\x1', u'\x1F'};
+
+TEST(Gates, HaveTheirNamesAndTheirOrder) {
+    EXPECT_EQ(gate_names(), (std::vector<TextView>{u"entry mode",
+                                                   u"already tagged",
+                                                   u"wrapping",
+                                                   u"message class",
+                                                   u"resend from the Outbox",
+                                                   u"resend from Sent Items",
+                                                   u"system check switch",
+                                                   u"message class again",
+                                                   u"quote",
+                                                   u"subject",
+                                                   u"personal stationery",
+                                                   u"reply marker",
+                                                   u"internal mail",
+                                                   u"answers",
+                                                   u"send as is",
+                                                   u"mode off",
+                                                   u"preview stamp",
+                                                   u"preview send stamp",
+                                                   u"reply test",
+                                                   u"other modes",
+                                                   u"default template",
+                                                   u"default signature",
+                                                   u"auto preview",
+                                                   u"composition",
+                                                   u"stamping"}));
+}
 
 TEST_F(Sending, AModeThatIsSwitchedOffDuringASendLetsTheItemGoAsItIs) {
     store.change_after(1, user::SettingButtonBar, u"off");
@@ -27,9 +56,9 @@ TEST_F(Sending, AModeThatBecomesOnDuringASendLeavesTheItemToTheSendOptionsForm) 
     EXPECT_EQ(item().billing_information, u"");
     EXPECT_EQ(passed.back(), u"reply test");
     const std::string log = stage.machine.files().read(u"C:\\log.txt");
-    EXPECT_NE(log.find("Auto process end check OK, Check 11, Send Event\r\n"), std::string::npos);
-    EXPECT_NE(log.find("Ornavel Dialog check OK, Check 12, Send Event\r\n"), std::string::npos);
-    EXPECT_NE(log.find("vCard Attach check OK, Check 13, Send Event\r\n"), std::string::npos);
+    EXPECT_NE(log.find("Auto process end check OK, Check 12, Send Event\r\n"), std::string::npos);
+    EXPECT_NE(log.find("Ornavel Dialog check OK, Check 13, Send Event\r\n"), std::string::npos);
+    EXPECT_NE(log.find("vCard Attach check OK, Check 14, Send Event\r\n"), std::string::npos);
 }
 
 TEST_F(Sending, ATemplateThatIsUnsetDuringASendGivesWayToTheFirstOneOfItsFolder) {
@@ -107,8 +136,8 @@ TEST_F(Sending, ADisclaimerOfTenMegabytesGoesUnderAPlainText) {
     EXPECT_FALSE(send());
     const auto lines = disclaimer.size() / 53;
     EXPECT_EQ(item().html_body.size(),
-              lines * 55 + Text(u"<span> <font face='Courier new' size=2>Hello<P></font></span>").size());
-    EXPECT_TRUE(item().html_body.ends_with(u"and so is its length.<br></font></span>"));
+              lines * 55 + Text(u"<span> <font face='Courier new' size=2>Hello</font></span><P>").size());
+    EXPECT_TRUE(item().html_body.ends_with(u"and so is its length.<br>"));
     EXPECT_EQ(item().billing_information, u"Ornavel from Brevant");
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "connect/connect.h"
-#include "forms/string_table.h"
-#include "tests/rehearsal/stage.h"
+#include "tests/connect/staged_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +14,7 @@ class ChangingStore final : public settings::Store {
 public:
     explicit ChangingStore(settings::Store& stored) : stored_(stored) {}
 
-    /// From its read after so many more on, the key has the value.
+    /// The next so many reads of the key still find what is stored; all reads after them find this value.
     void change_after(int reads, const settings::Key& key, TextView value) {
         changes_[{Text(key.section), Text(key.name)}] = {reads, Text(value)};
     }
@@ -68,18 +67,16 @@ protected:
         "do": []})"};
     ChangingStore store{stage.machine.addin_settings()};
     std::vector<Text> passed;
-    Connect addin{Platform{.settings = store,
-                           .files = stage.machine.addin_files(),
-                           .clock = stage.machine.addin_clock(),
-                           .launcher = stage.machine.addin_launcher(),
-                           .objects = stage.client,
-                           .windows = stage.machine.addin_windows(),
-                           .strings = forms::built_in_strings(),
-                           .machine = stage.machine.addin_machine(),
-                           .addin_folder = u"C:\\app",
-                           .on_gate = [this](TextView gate, Verdict verdict) {
-                               if (verdict != Verdict::leave) passed.emplace_back(gate);
-                           }}};
+    Connect addin{platform()};
+
+private:
+    Platform platform() {
+        Platform platform = platform_of(stage, {.settings = &store});
+        platform.on_gate = [this](TextView gate, Verdict verdict) {
+            if (verdict != Verdict::leave) passed.emplace_back(gate);
+        };
+        return platform;
+    }
 };
 
 } // namespace ornavel::connect

@@ -12,16 +12,9 @@ protected:
         rehearsal::Stage stage(R"({"settings": {"Admin Settings": {"SigEmail": "a", "SigWebsite": "b",
                                                                    "StartupSetupWiz": "False"}}, "do": []})");
         settings::save(stage.machine.addin_settings(), key, value);
-        Connect addin{Platform{.settings = stage.machine.addin_settings(),
-                               .files = stage.machine.addin_files(),
-                               .clock = stage.machine.addin_clock(),
-                               .launcher = stage.machine.addin_launcher(),
-                               .objects = stage.client,
-                               .windows = stage.machine.addin_windows(),
-                               .strings = forms::built_in_strings(),
-                               .machine = stage.machine.addin_machine(),
-                               .addin_folder = u"C:\\app",
-                               .user_folder = Text(user_folder)}};
+        Platform platform = platform_of(stage);
+        platform.user_folder = Text(user_folder);
+        Connect addin{std::move(platform)};
         addin.OnConnection(stage.application(), Connect::at_startup);
         addin.OnStartupComplete();
         addin.OnDisconnection(0);

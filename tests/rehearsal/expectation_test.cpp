@@ -49,5 +49,19 @@ TEST(Expectation, NamesThePathOfEachMismatch) {
     }
 }
 
+TEST(Expectation, TwoLongTextsAreShownAroundTheirParting) {
+    const std::string a(500, 'a'), b(500, 'b'), c(500, 'c');
+    const std::string before(39, 'a'), behind(119, 'b'), other(119, 'c');
+    const auto line = [&](const Json& expected, const std::string& actual) {
+        return mismatches({{"text", expected}}, {{"text", actual}}).at(0);
+    };
+    EXPECT_EQ(line(a + "." + b, a + "." + c),
+              "text: expected …" + before + "." + behind + "b…, got …" + before + "." + other + "c…");
+    EXPECT_EQ(line({{"contains", a + "." + b}}, c + a + "." + c),
+              "text: expected …" + before + "." + behind + "b…, got …" + before + "." + other + "c…");
+    EXPECT_EQ(mismatches({{"text", Json::array()}}, {{"text", {a}}}).at(0),
+              "text: expected 0 elements, got 1: [\"" + std::string(118, 'a') + "…");
+}
+
 } // namespace
 } // namespace ornavel::rehearsal

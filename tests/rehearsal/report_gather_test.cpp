@@ -50,7 +50,8 @@ TEST(ReportGather, TheOutcomeOfTheDllIsToldAndCompared) {
     outcome["items"][0]["Subject"] = "another";
     const Story story = played(scenario, outcome);
     EXPECT_TRUE(story.with_dll);
-    EXPECT_EQ(story.differences, std::vector<std::string>{"items[0].Subject"});
+    EXPECT_EQ(story.differences,
+              std::vector<std::string>{"items[0].Subject: native \"\", real DLL \"another\""});
     EXPECT_EQ(text_of(story.outcome["items"][0], "Subject"), "another");
 }
 

@@ -30,14 +30,19 @@ TEST(ReportHtml, TextElementsEscapeTheirTextAndElementsDoNot) {
 }
 
 TEST(ReportFrame, AMessageCannotLeaveItsFrame) {
-    const auto frame = message_frame("\"></iframe><script>alert(1)</script>", {}, 100);
+    const auto frame = message_frame("A title", "\"></iframe><script>alert(1)</script>", {}, 100);
     EXPECT_EQ(frame.find("<script>"), std::string::npos);
     EXPECT_EQ(frame.find("</iframe>"), frame.rfind("</iframe>"));
-    EXPECT_TRUE(frame.starts_with("<iframe sandbox height=\"100\" srcdoc=\""));
+    EXPECT_TRUE(frame.starts_with(
+        "<iframe sandbox=\"allow-same-origin\" title=\"A title\" height=\"100\" srcdoc=\""));
+}
+
+TEST(ReportFrame, ATitleCannotLeaveItsFrameEither) {
+    EXPECT_TRUE(holds(plain_text_frame("a\"><b>", "", 100), "title=\"a&quot;&gt;&lt;b&gt;\""));
 }
 
 TEST(ReportFrame, TheMessageStandsBehindAPolicyThatLoadsNothing) {
-    const auto frame = message_frame("<IMG SRC=\"http://a.example/x.gif\">", {}, 100);
+    const auto frame = message_frame("A title", "<IMG SRC=\"http://a.example/x.gif\">", {}, 100);
     const auto policy = frame.find("default-src &#39;none&#39;; img-src data:;");
     ASSERT_NE(policy, std::string::npos);
     EXPECT_LT(policy, frame.find("a.example"));
@@ -46,14 +51,15 @@ TEST(ReportFrame, TheMessageStandsBehindAPolicyThatLoadsNothing) {
 TEST(ReportFrame, PicturesAmongTheFilesAreCarriedInThePage) {
     const Named<std::string> files = {{u"C:\\Pictures\\logo.gif", "GIF89a"}};
     for (const char* address : {"file:///C:/Pictures/logo.gif", "C:\\Pictures\\logo.gif"}) {
-        const auto frame = message_frame("<IMG SRC=\"" + std::string(address) + "\">", files, 100);
+        const auto frame = message_frame("A title", "<IMG SRC=\"" + std::string(address) + "\">", files, 100);
         EXPECT_TRUE(holds(frame, "SRC=&quot;data:image/gif;base64,R0lGODlh&quot;")) << address;
     }
 }
 
 TEST(ReportFrame, FilesThatAreNoPicturesStayOutOfThePage) {
     const Named<std::string> files = {{u"C:\\Pictures\\letter.htm", "secret"}};
-    EXPECT_TRUE(holds(message_frame("C:\\Pictures\\letter.htm", files, 100), "C:\\Pictures\\letter.htm"));
+    EXPECT_TRUE(
+        holds(message_frame("A title", "C:\\Pictures\\letter.htm", files, 100), "C:\\Pictures\\letter.htm"));
 }
 
 TEST(ReportFrame, ALongerMessageGetsAHigherFrameWithinBounds) {
@@ -66,5 +72,5 @@ TEST(ReportFrame, ALongerMessageGetsAHigherFrameWithinBounds) {
 }
 
 TEST(ReportFrame, PlainTextIsShownAsItStands) {
-    EXPECT_TRUE(holds(plain_text_frame("a < b", 100), "&gt;a &amp;lt; b&lt;/pre&gt;"));
+    EXPECT_TRUE(holds(plain_text_frame("A title", "a < b", 100), "&gt;a &amp;lt; b&lt;/pre&gt;"));
 }

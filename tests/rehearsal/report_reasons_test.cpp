@@ -10,9 +10,11 @@ namespace {
 
 Send send_through(std::vector<GateVisit> gates) { return {0, 0, false, 1.5, 0, std::move(gates)}; }
 
-Story story_with(SettingsTree settings, Item item = {}) {
+/// A story whose send read these settings, "Section / Key".
+Story story_with(Named<Text> read, Item item = {}) {
     Story story;
-    story.scenario.settings = std::move(settings);
+    for (const auto& [setting, value] : read)
+        story.journal.push_back({0, Deed::read_setting, setting, value});
     story.scenario.items = {std::move(item)};
     return story;
 }
@@ -46,7 +48,7 @@ TEST(ReportReasons, ASendThatMetNoGateMetNoAddIn) {
 }
 
 TEST(ReportReasons, TheSettingThatDecidedIsShownWithItsValueWithoutRegardToCase) {
-    const auto story = story_with({{u"user settings", {{u"settingbuttonbar", u"off"}}}});
+    const auto story = story_with({{u"user settings / settingbuttonbar", u"off"}});
     EXPECT_EQ(
         way(story, {{"entry mode", false}}),
         "It left at the first gate, “entry mode”: the mode (SettingButtonBar) is “off”, and only “auto” "
@@ -65,7 +67,7 @@ TEST(ReportReasons, ThePropertyThatDecidedIsShown) {
 }
 
 TEST(ReportReasons, InternalMailSaysWhetherRichTextOrTheRecipientsDecided) {
-    const SettingsTree skip = {{u"Admin Settings", {{u"SkipInternal", u"1"}}}};
+    const Named<Text> skip = {{u"Admin Settings / SkipInternal", u"1"}};
     EXPECT_TRUE(
         way(story_with(skip), {{"internal mail", false}}).ends_with("every recipient counts as internal."));
     EXPECT_TRUE(way(story_with(skip, {.editor_type = 3}), {{"internal mail", false}})

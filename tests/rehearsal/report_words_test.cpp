@@ -18,10 +18,29 @@ Story story_of(Json item_after, Item before = {}) {
     story.scenario.items = {before};
     story.outcome = {{"items", Json::array({std::move(item_after)})},
                      {"settings", {{"User Settings", {{"Template", "a.htm"}, {"Signature", "b.htm"}}}}},
+                     {"error", nullptr},
                      {"references", {{"held", 0}}}};
-    story.sends = {{0, 0, false, 1.5, 0, {{"entry mode", true}, {"message class", true}}}};
+    story.sends = {{0, 0, false, 1.5, 0, {{"entry mode", true}, {"stamping", true}}}};
     return story;
 }
+
+/// The same, stamped.
+Story dressed_story(const char* html) {
+    return story_of({{"HTMLBody", html}, {"BillingInformation", "Ornavel from Brevant"}});
+}
+
+void read_template(Story& story, bool failed = false) {
+    story.journal.push_back({0, Deed::read_setting, u"Admin Settings / HTM Files Path", u"C:\\t\\"});
+    story.journal.push_back(
+        {0, Deed::read_file, u"C:\\t\\a.htm", {}, true, failed, failed ? u"File not found" : u""});
+}
+
+void read_signature(Story& story) {
+    story.journal.push_back({0, Deed::read_setting, u"Admin Settings / Signatures Path", u"C:\\s"});
+    story.journal.push_back({0, Deed::read_file, u"c:\\S\\b.htm"});
+}
+
+const Origin today{"2003-11-20 14:05", "1a2b3c4", "3.9.9"};
 
 Json unchanged() { return {{"HTMLBody", "<P>Hello"}, {"Body", ""}, {"Subject", ""}}; }
 
@@ -32,12 +51,20 @@ Json with(Json item, const char* member, const char* value) {
 
 } // namespace
 
-TEST(ReportWords, AStampedItemIsDressed) {
-    const auto story = story_of(
-        with(with(unchanged(), "HTMLBody", "<TABLE>"), "BillingInformation", "Ornavel from Brevant"));
+TEST(ReportWords, AStampedItemIsDressedInWhatWasRead) {
+    auto story = dressed_story("<TABLE><P>Hello");
+    read_template(story);
+    read_signature(story);
     EXPECT_EQ(fate_of(story, story.sends[0]), Fate::dressed);
     EXPECT_EQ(what_happened(story, story.sends[0]),
               "went out dressed in a.htm with the signature b.htm, and stamped");
+}
+
+TEST(ReportWords, ATemplateOrSignatureThatIsSetAndWasNotReadIsNotSaidToBeThere) {
+    auto story = dressed_story("<TABLE><P>Hello");
+    read_template(story, true);
+    EXPECT_EQ(what_happened(story, story.sends[0]),
+              "went out stamped, without a template and without a signature");
 }
 
 TEST(ReportWords, AnItemThatWasStampedBeforeIsNotDressedAgain) {
@@ -83,13 +110,19 @@ TEST(ReportWords, WhatCameInNamesTheKindAndTheMailClient) {
 }
 
 TEST(ReportPage, NamesOfStoriesAreText) {
-    const auto html = page({story_of(unchanged())});
+    const auto html = page({story_of(unchanged())}, today);
     EXPECT_NE(html.find("R&amp;D &lt;writes&gt;"), std::string::npos);
     EXPECT_EQ(html.find("<writes>"), std::string::npos);
 }
 
 TEST(ReportPage, NeedsNothingOutsideItself) {
-    const auto html = page({story_of(with(unchanged(), "HTMLBody", "<IMG src='http://a.example/'>"))});
-    for (const char* outside : {"<script", "<link", "src=\"http", "url(", "@import"})
+    const auto html = page({story_of(with(unchanged(), "HTMLBody", "<IMG src='http://a.example/'>"))}, today);
+    for (const char* outside : {"<script ", "<link", "src=\"http", "url(", "@import"})
         EXPECT_EQ(html.find(outside), std::string::npos) << outside;
+}
+
+TEST(ReportPage, TellsWhenOfWhatAndOfWhichVersionItIs) {
+    EXPECT_NE(page({}, today).find("Ornavel 3.9.9, commit 1a2b3c4, 2003-11-20 14:05"), std::string::npos);
+    EXPECT_NE(page({}, {"2003-11-20 14:05", "", "3.9.9"}).find("Ornavel 3.9.9, 2003-11-20 14:05"),
+              std::string::npos);
 }

@@ -3,7 +3,6 @@
 #include "rehearsal/windows/menu_hand.h"
 #include "rehearsal/windows/tray_watch.h"
 #include "tests/win32/form_stage.h"
-#include "win32/message_box.h"
 
 namespace ornavel::win32 {
 namespace {
@@ -115,13 +114,12 @@ TEST_F(Icon, TheMenuClosesWhenTheUserClicksElsewhere) {
 
 TEST_F(Icon, ItsUnseenWindowOwnsNoBox) {
     show();
-    SetActiveWindow(watch.icon().hWnd);
-    EXPECT_EQ(GetActiveWindow(), watch.icon().hWnd);
-    EXPECT_EQ(owner_of_boxes(), nullptr);
-    const HWND seen = make_window(L"Inbox");
-    SetActiveWindow(seen);
-    EXPECT_EQ(owner_of_boxes(), seen);
-    DestroyWindow(seen);
+    SetForegroundWindow(watch.icon().hWnd);
+    play({[this](HWND box) {
+             EXPECT_NE(GetWindow(box, GW_OWNER), watch.icon().hWnd);
+             PostMessageW(box, WM_CLOSE, 0, 0);
+         }},
+         [] { DesktopWindows().inform(u"About", u"Text"); });
 }
 
 } // namespace
