@@ -84,8 +84,13 @@ void WindowsFiles::write(TextView path, std::string_view bytes) {
 }
 
 void WindowsFiles::append(TextView path, std::string_view bytes) {
-    // Opened for nothing but appending, so that each line goes behind what another session has just written.
-    write_all(open(path, FILE_APPEND_DATA, OPEN_ALWAYS), path, bytes);
+    // Opened for nothing but appending, so that each line goes behind what another session has just written;
+    // and one at a time, because a share may look for the end before it writes there.
+    const Handle file = open(path, FILE_APPEND_DATA | FILE_READ_DATA, OPEN_ALWAYS);
+    OVERLAPPED far_behind_the_end{};
+    far_behind_the_end.OffsetHigh = 0x7FFFFFFF;
+    LockFileEx(file.get(), LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &far_behind_the_end);
+    write_all(file, path, bytes);
 }
 
 void WindowsFiles::remove(TextView path) {

@@ -10,6 +10,14 @@ TEST(Text, LowerCasingKeepsLengthsAndTouchesAsciiOnly) {
     EXPECT_EQ(lower_case(u"<BODY \u00C4\u0130>"), u"<body \u00C4\u0130>");
 }
 
+TEST(Text, EveryAsciiLetterHasItsOtherCase) {
+    constexpr TextView large = u"@ABCDEFGHIJKLMNOPQRSTUVWXYZ[", small = u"@abcdefghijklmnopqrstuvwxyz[";
+    EXPECT_EQ(lower_case(large), small);
+    EXPECT_EQ(upper_case(small), large);
+    EXPECT_EQ(upper_case(u"`{"), u"`{");
+    EXPECT_TRUE(same_name(large, small));
+}
+
 TEST(Text, NamesCompareWithoutCase) {
     EXPECT_TRUE(same_name(u"SigFax", u"Sigfax"));
     EXPECT_FALSE(same_name(u"SigFax", u"SigFax2"));

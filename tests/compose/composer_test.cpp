@@ -12,6 +12,40 @@ TEST_F(Composer, PoursTheMessageIntoTheTemplateAtTheMarker) {
     EXPECT_TRUE(reports.entries.empty());
 }
 
+TEST(ComposerSteps, HaveTheirNamesAndTheirOrder) {
+    const TextView names[] = {u"find the template",
+                              u"write the text before",
+                              u"stamp the date",
+                              u"wipe out HTML",
+                              u"break fonts",
+                              u"remove divisions",
+                              u"end divisions",
+                              u"break block quotes",
+                              u"write the text after",
+                              u"break rules",
+                              u"look at the item",
+                              u"read Word's document",
+                              u"link addresses",
+                              u"wrap lines",
+                              u"replace tabs",
+                              u"cut the reply",
+                              u"choose the signature",
+                              u"append the signature",
+                              u"read the template",
+                              u"ask about a script",
+                              u"find the marker",
+                              u"insert the message",
+                              u"break the reply's tags",
+                              u"shrink the reply's font",
+                              u"insert the reply",
+                              u"fill contact fields",
+                              u"log usage",
+                              u"merge fields"};
+    const auto all = traps();
+    ASSERT_GE(all.size(), std::size(names));
+    for (std::size_t i = 0; i < std::size(names); ++i) EXPECT_EQ(all[i].place, names[i]);
+}
+
 TEST_F(Composer, TakesTheFirstHtmlFileOfTheFolderForAMissingTemplate) {
     path = u"C:\\stationery\\gone.htm";
     set(admin::HTMFilesPath, u"C:\\stationery");

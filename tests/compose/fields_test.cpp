@@ -178,10 +178,12 @@ TEST(UsageLog, IsConfiguredByOneSetting) {
 }
 
 TEST(Dates, NamesHaveTheirNumbers) {
-    EXPECT_EQ(day_name(1), u"Sunday");
-    EXPECT_EQ(day_name(7), u"Saturday");
-    EXPECT_EQ(month_name(1), u"January");
-    EXPECT_EQ(month_name(12), u"December");
+    const TextView days[] = {u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
+                             u"Thursday", u"Friday", u"Saturday"};
+    const TextView months[] = {u"January", u"February", u"March",     u"April",   u"May",      u"June",
+                               u"July",    u"August",   u"September", u"October", u"November", u"December"};
+    for (int number = 0; const TextView day : days) EXPECT_EQ(day_name(++number), day);
+    for (int number = 0; const TextView month : months) EXPECT_EQ(month_name(++number), month);
     for (const int outside : {-1, 0, 8}) EXPECT_EQ(day_name(outside), u"");
     for (const int outside : {-1, 0, 13}) EXPECT_EQ(month_name(outside), u"");
 }
@@ -192,6 +194,25 @@ TEST(Dates, WeekdaysFollowTheCalendar) {
     EXPECT_EQ(day_name(weekday_of({2001, 1, 1})), u"Monday");
     EXPECT_EQ(day_name(weekday_of({1999, 12, 31})), u"Friday");
     EXPECT_EQ(day_name(weekday_of({2004, 2, 29})), u"Sunday");
+}
+
+int days_of(int month, int year) {
+    if (month == 2) return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0) ? 29 : 28;
+    return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
+}
+
+LocalTime day_after(LocalTime day) {
+    if (++day.day <= days_of(day.month, day.year)) return day;
+    return day.month == 12 ? LocalTime{day.year + 1, 1, 1} : LocalTime{day.year, day.month + 1, 1};
+}
+
+TEST(Dates, EveryDayOfEightHundredYearsFollowsTheOneBefore) {
+    LocalTime day{1600, 1, 1};
+    for (int number = -109571, weekday = 7; day.year < 2400; ++number, weekday = weekday % 7 + 1) {
+        ASSERT_EQ(host::local_time({static_cast<double>(number)}), day);
+        ASSERT_EQ(weekday_of(day), weekday);
+        day = day_after(day);
+    }
 }
 
 TEST(Dates, HoursGoFromTwelveToEleven) {

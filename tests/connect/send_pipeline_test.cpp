@@ -1,6 +1,7 @@
 #include "tests/connect/sending.h"
 
 #include "base/encoding.h"
+#include "connect/send_pipeline.h"
 
 #include <algorithm>
 
@@ -10,6 +11,34 @@ namespace {
 using namespace settings;
 
 const Text odd{u'a', char16_t{0}, char16_t{0xD800}, u'b', char16_t{0xDC00}, u'\x1', u'\x1F'};
+
+TEST(Gates, HaveTheirNamesAndTheirOrder) {
+    EXPECT_EQ(gate_names(), (std::vector<TextView>{u"entry mode",
+                                                   u"already tagged",
+                                                   u"wrapping",
+                                                   u"message class",
+                                                   u"resend from the Outbox",
+                                                   u"resend from Sent Items",
+                                                   u"system check switch",
+                                                   u"message class again",
+                                                   u"quote",
+                                                   u"subject",
+                                                   u"personal stationery",
+                                                   u"reply marker",
+                                                   u"internal mail",
+                                                   u"answers",
+                                                   u"send as is",
+                                                   u"mode off",
+                                                   u"preview stamp",
+                                                   u"preview send stamp",
+                                                   u"reply test",
+                                                   u"other modes",
+                                                   u"default template",
+                                                   u"default signature",
+                                                   u"auto preview",
+                                                   u"composition",
+                                                   u"stamping"}));
+}
 
 TEST_F(Sending, AModeThatIsSwitchedOffDuringASendLetsTheItemGoAsItIs) {
     store.change_after(1, user::SettingButtonBar, u"off");

@@ -69,8 +69,8 @@ Known known() {
     for (const TextView gate : connect::gate_names())
         for (const auto verdict : {connect::Verdict::next, connect::Verdict::off, connect::Verdict::leave})
             all.verdicts.push_back(verdict_of(gate, rehearsal::name_of(verdict)));
-    for (const auto& traps :
-         {connect::traps(), compose::traps(), std::vector{forms::preview_trap, forms::tray_trap}})
+    for (const auto& traps : {connect::traps(), compose::traps(),
+                              std::vector{forms::preview_trap, forms::tray_trap, forms::support_request}})
         for (const TrapName& trap : traps) all.traps.push_back(rehearsal::name_of(trap));
     for (const auto& key : settings::catalogue()) all.settings.push_back(setting_of(key.section, key.name));
     return all;

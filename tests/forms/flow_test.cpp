@@ -39,6 +39,14 @@ TEST_F(Flow, AGroupThatHasNoRoomBeginsTheNextRow) {
     EXPECT_EQ(place(u"cboThree").top, 630);
 }
 
+TEST_F(Flow, AGroupThatJustFitsStaysInItsRow) {
+    const Group two[] = {{u"cmdOne"}, {u"chkTwo"}};
+    form.take_place({0, 0, 90 + 165 + 1500 + 105 + 1500 + 165, 3000});
+    EXPECT_EQ(flow(form, two), 165 + 345);
+    form.take_place({0, 0, 90 + 165 + 1500 + 105 + 1499 + 165, 3000});
+    EXPECT_EQ(flow(form, two), 165 + 345 + 105 + 345);
+}
+
 TEST_F(Flow, AGroupThatBeginsARowDoesSoUnlessItIsTheFirst) {
     const Group apart[] = {{u"cmdOne"}, {u"chkTwo", {}, true}};
     flow(form, apart);

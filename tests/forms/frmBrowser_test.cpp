@@ -58,6 +58,30 @@ TEST_F(PreviewWindow, StaysAboveTheEditorThatTheMessageIsWrittenIn) {
     show([](Form& form, FormUser) { EXPECT_TRUE(form.topmost); });
 }
 
+TEST_F(PreviewWindow, CanBeSizedAndAnswersEnterWithSendAndEscapeWithClose) {
+    show([](Form& form, FormUser) {
+        EXPECT_TRUE(form.sizable);
+        for (const Control& control : form.controls()) {
+            EXPECT_EQ(control.is_default, control.name == u"command1") << to_utf8(control.name);
+            EXPECT_EQ(control.is_cancel, control.name == u"cmdClose") << to_utf8(control.name);
+        }
+    });
+}
+
+TEST_F(PreviewWindow, ASignatureIsTakenFromTheListAsATemplateIs) {
+    store.save(u"Admin Settings", u"Signatures Path", u"C:\\s");
+    files.contents = {{u"C:\\s\\ann.htm", ""}, {u"C:\\s\\bob.htm", ""}};
+    store.save(u"Admin Settings", u"PreviewOptionsShow", u"True");
+    show([&](Form& form, FormUser user) {
+        user.select(u"cboSignatures", 1);
+        EXPECT_EQ(form[u"cboSignatures"].items, (std::vector<Text>{u"ann", u"bob"}));
+        EXPECT_EQ(read(store, user::Signature), u"bob.htm");
+        user.set_text(u"cboSignatures", u"carol");
+        EXPECT_EQ(read(store, user::Signature), u"carol.htm");
+    });
+    EXPECT_EQ(composed, 3);
+}
+
 TEST_F(PreviewWindow, ThePageBeginsRightBelowTheControlsThatAreShown) {
     show([](Form& form, FormUser user) {
         for (const TextView hidden : {u"cmdSendPlain", u"cmdNext", u"cmdSignNext", u"chkvCard"})
@@ -188,6 +212,45 @@ TEST_F(PreviewWindow, ItsPlaceIsKeptAsTwips) {
     EXPECT_EQ(stored(user::BrowserTop), u"450");
     EXPECT_EQ(stored(user::BrowserWidth), u"10170");
     EXPECT_EQ(stored(user::BrowserHeight), u"6000");
+}
+
+struct Designed {
+    TextView name, caption, tool_tip;
+    int width;
+    bool visible;
+};
+
+TEST_F(PreviewWindow, HasItsControlsWithTheirWords) {
+    const Designed expected[] = {
+        {u"command1", u"&Send", u"", 1125, true},
+        {u"cmdSendPlain", u"Send &Plain", u"", 1350, true},
+        {u"cmdClose", u"&Close", u"", 1125, true},
+        {u"cmdNext", u"> &Template", u"Next template", 1350, true},
+        {u"cmdSignNext", u"> S&ignature", u"Next signature", 1350, true},
+        {u"cmdOptions", u"> &Options", u"", 1245, true},
+        {u"chkvCard", u"&vCard", u"", 900, true},
+        {u"chkShowPreview", u"&do not show Preview", u"", 2400, true},
+        {u"lblTemplates", u"Te&mplate", u"", 780, false},
+        {u"cboTemplates", u"", u"", 2100, false},
+        {u"cboListTemplates", u"", u"", 2100, false},
+        {u"lblSignatures", u"Si&gnature", u"", 840, false},
+        {u"cboSignatures", u"", u"", 2100, false},
+        {u"cboPrevSigs", u"", u"", 2100, false},
+        {u"lblAttachments", u"Attachments", u"", 1080, false},
+        {u"txtAttachments", u"", u"", 2400, false},
+    };
+    show([&](Form& form, FormUser) {
+        for (std::size_t i = 0; i < std::size(expected); ++i) {
+            const Control& control = form.controls().at(i);
+            EXPECT_EQ(control.name, expected[i].name);
+            EXPECT_EQ(control.caption, expected[i].caption);
+            EXPECT_EQ(control.tool_tip, expected[i].tool_tip);
+            EXPECT_EQ(control.place.width, expected[i].width) << to_utf8(control.name);
+            EXPECT_EQ(control.visible, expected[i].visible) << to_utf8(control.name);
+        }
+        EXPECT_EQ(form.properties.caption, u"Ornavel Preview");
+        EXPECT_EQ(form.properties.place, (Place{2595, 990, 10170, 6000}));
+    });
 }
 
 } // namespace

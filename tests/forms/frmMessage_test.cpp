@@ -57,6 +57,17 @@ TEST(PromptDialog, StaysAboveTheEditorThatTheMessageIsWrittenIn) {
     answer(u"Reply", [](Form& form, FormUser) { EXPECT_TRUE(form.topmost); });
 }
 
+TEST(PromptDialog, ItsAnswersEndWhereItsMessageEnds) {
+    answer(u"Reply", [](Form& form, FormUser) {
+        EXPECT_EQ(form[u"imgIcon"].place, (Place{165, 165, 480, 480}));
+        EXPECT_EQ(form[u"lblMessage"].place, (Place{810, 165, 5070, 780}));
+        EXPECT_EQ(form[u"cmdYes"].place, (Place{675, 1110, 2550, 345}));
+        EXPECT_EQ(form[u"cmdNo"].place, (Place{3330, 1110, 2550, 345}));
+        EXPECT_EQ(form[u"cmdOK"].place, (Place{4755, 1110, 1125, 345}));
+        EXPECT_EQ(form.room(), (Size{6045, 1620}));
+    });
+}
+
 TEST(PromptDialog, EachModeHasItsMessageItsTitleAndItsButtons) {
     for (const Expected& mode : expected_modes) {
         SCOPED_TRACE(to_utf8(mode.mode));

@@ -42,6 +42,34 @@ TEST(ScreenPlace, AWindowThatIsPartlyOutsideIsBroughtInWhole) {
     EXPECT_EQ(back({-14000, 9000, 10170, 6000}), (Place{-14000, 11520 - 6000, 10170, 6000}));
 }
 
+TEST(ScreenPlace, OneTwipOutsideIsOutside) {
+    EXPECT_EQ(back({9031, 0, 10170, 6000}, {first}), (Place{9030, 0, 10170, 6000}));
+    EXPECT_EQ(back({0, 8401, 10170, 6000}, {first}), (Place{0, 8400, 10170, 6000}));
+    EXPECT_EQ(back({-1, -1, 10170, 6000}, {first}), (Place{0, 0, 10170, 6000}));
+}
+
+TEST(ScreenPlace, TheNearestOfTwoScreensIsTheOneWithTheShortestWay) {
+    EXPECT_EQ(back({-1000, -7000, 10170, 6000}), (Place{0, 0, 10170, 6000}));
+    EXPECT_EQ(back({1500, 1500, 100, 100}, {{0, 0, 1000, 1000}, {2200, 1000, 1000, 1000}}),
+              (Place{2200, 1500, 100, 100}));
+}
+
+TEST(ScreenPlace, AFormIsCentredOnTheMainScreenOrBroughtBackFromWhereItWasLeft) {
+    const std::vector<Place> screens{first, left};
+    Form form({.name = u"frmOrder", .place = {30000, 100, 3000, 2000}}, {});
+    place_on_screen(form, left, screens);
+    EXPECT_EQ(form.properties.place, (Place{-15360 + 6180, 4755, 3000, 2000}));
+    int resized = 0;
+    form.on_resize = [&] { ++resized; };
+    form.centred = false;
+    place_on_screen(form, first, screens);
+    EXPECT_EQ(resized, 0);
+    form.properties.place.left = 30000;
+    place_on_screen(form, first, screens);
+    EXPECT_EQ(form.properties.place, (Place{16200, 4755, 3000, 2000}));
+    EXPECT_EQ(resized, 1);
+}
+
 TEST(ScreenPlace, AWindowThatIsLargerThanItsScreenIsMadeToFit) {
     EXPECT_EQ(back({1000, 1000, 30000, 20000}, {first}), first);
 }

@@ -53,6 +53,8 @@ TEST(Error, TellsADeveloperTheMemberAndTheCodeAndTheLogTheHostsOwnWords) {
     const Error error(u"The item is gone.", u"MailItem.HTMLBody", static_cast<std::int32_t>(0x8004010F));
     EXPECT_EQ(error.description(), u"The item is gone.");
     EXPECT_STREQ(error.what(), "MailItem.HTMLBody failed with 0x8004010F: The item is gone.");
+    EXPECT_STREQ(Error(u"Gone.", u"Item", 0x01234567).what(), "Item failed with 0x01234567: Gone.");
+    EXPECT_STREQ(Error(u"Gone.", u"Item", ~0x76543210).what(), "Item failed with 0x89ABCDEF: Gone.");
 }
 
 } // namespace
