@@ -83,7 +83,7 @@ void compose_for(connect::Send& send, bool plain_text, Dressed& dressed) {
         dressed.html = send.item().html_body();
         return;
     }
-    auto [outcome, html] = connect::composed_body(send, plain_text, compose::Purpose::send);
+    auto [outcome, html] = connect::composed_body(send, plain_text, {}, compose::Purpose::send);
     dressed.outcome = outcome;
     dressed.html = std::move(html);
 }
