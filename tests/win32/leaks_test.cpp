@@ -30,11 +30,14 @@ struct Counted {
     bool operator==(const Counted&) const = default;
 };
 
-/// The lowest number that is free; the system gives it to the next handle.
-int next_handle_number() {
-    const Handle fresh(CreateEventW(nullptr, FALSE, FALSE, nullptr));
-    constexpr int step_between_handles = 4;
-    return static_cast<int>(reinterpret_cast<INT_PTR>(fresh.get())) / step_between_handles;
+/// Asks for each number that a handle may have.
+int handles_in_use() {
+    constexpr INT_PTR step = 4, numbers = 2000;
+    int count = 0;
+    DWORD flags = 0;
+    for (INT_PTR number = 1; number <= numbers; ++number)
+        count += GetHandleInformation(reinterpret_cast<HANDLE>(number * step), &flags) ? 1 : 0;
+    return count;
 }
 
 class Leaks : public testing::Test {
@@ -50,7 +53,7 @@ protected:
     Counted count() const {
         Counted now;
         EnumThreadWindows(GetCurrentThreadId(), count_window, reinterpret_cast<LPARAM>(&now.windows));
-        now.kernel_handles = next_handle_number();
+        now.kernel_handles = handles_in_use();
         now.references = item_object.use_count();
         return now;
     }
