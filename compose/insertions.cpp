@@ -37,8 +37,8 @@ Text take_next_quote(Store& settings, const Files& files) {
     const long long number = std::max<long long>(read_number(settings, system::LastTipNumber), first_quote);
     const auto lines = lines_of(read_text(files, read(settings, admin::TipsFileLocation)));
     const bool wraps = number > static_cast<long long>(lines.size()) - 1;
-    // A wrap-around carries no quote and goes on with 16, not 15. The number is kept in the store, where every
-    // version that the user has run counts on alike.
+    // A wrap-around carries no quote and goes on with 16, not 15. The number is kept in the store, where
+    // every version that the user has run counts on alike.
     save(settings, system::LastTipNumber, to_text(wraps ? first_quote + 1 : number + 1));
     return wraps ? Text() : quote_numbered(lines, number);
 }
