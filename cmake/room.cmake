@@ -6,9 +6,9 @@ function(ornavel_room name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ROOM_KNOWS})
   ornavel_warnings(${name})
-  # The add-in has a limit on its size; only what works on whole texts is built for speed.
+  # The add-in has a limit on its size; only what works on whole texts is built for speed. A debugger wants neither.
   if(WIN32 AND NOT name MATCHES "^(base|compose)$")
-    target_compile_options(${name} PRIVATE -Os)
+    target_compile_options(${name} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-Os>)
   endif()
 endfunction()
 

@@ -30,7 +30,8 @@ constexpr MergeRow full_names[] = {
     value(u"[#SigFullnameFR#]", admin::SigFullnameFR),
 };
 
-// The French lines go with the English ones, also when the French value is set: deliberate.
+// The English value decides about the French lines as well, whatever the French one is: bilingual templates
+// set the two in pairs, and half a pair would be left alone.
 constexpr MergeRow without_position[] = {
     {u"[#SigPosition#]</FONT><BR>", u"</FONT>"},
     {u"[#SigPosition#]</font><br>", u"</font>"},
@@ -91,7 +92,8 @@ constexpr MergeRow with_telephone[] = {
     value(u"[#SigTelephoneLabel#]", admin::SigTelephoneLabel),
 };
 
-// "SigFaxlabel" with a small l is deliberate: a template that spells "SigFaxLabel" keeps its line break.
+// "SigFaxlabel" has a small l, and must: a template that spells "SigFaxLabel" keeps its line break, and those
+// in use are laid out with it.
 constexpr MergeRow without_fax[] = {
     {u"Fax:</FONT> [#SigFax#]<BR>", u"</FONT>"},
     {u"Fax:</font> [#SigFax#]<br>", u"</font>"},

@@ -57,13 +57,45 @@ constexpr Step steps[] = {
     {u"merge fields", merge_fields, any_step}, // has a trap for each of its groups
 };
 
+/// The texts as they stood before a step, kept only for somebody who watches.
+class Watch {
+public:
+    explicit Watch(const Composition& c) : c_(c) {
+        if (!c.services.on_change) return;
+        for (const auto& [name, text] : texts) before_.push_back(c.*text);
+    }
+
+    void tell(TextView step) const {
+        for (std::size_t i = 0; i < before_.size(); ++i) {
+            const Text& now = c_.*texts[i].text;
+            if (now != before_[i])
+                c_.services.on_change({step, texts[i].name, before_[i].size(), now.size()});
+        }
+    }
+
+private:
+    struct Named {
+        TextView name;
+        Text Composition::*text;
+    };
+    static constexpr Named texts[] = {{u"message", &Composition::message},
+                                      {u"new text", &Composition::new_text},
+                                      {u"quoted part", &Composition::quoted},
+                                      {u"letterhead", &Composition::template_text},
+                                      {u"result", &Composition::result}};
+    const Composition& c_;
+    std::vector<Text> before_;
+};
+
 Composed compose(const Services& services, Request request) {
     AskingErrors errors(services.errors, services.boxes);
     Composition composition{services, request, errors, std::move(request.source),
                             std::move(request.template_path)};
     composition.log_usage = services.start_up.usage_log.enabled;
     for (const Step& step : steps) {
+        const Watch watch(composition);
         const bool through = trap(errors, step.own_trap(), [&] { step.run(composition); });
+        watch.tell(step.name);
         if (!through && step.failing == Failing::loses_text) return {Outcome::failed};
         // A question that could not be put has refused nothing.
         if (composition.refused) return {Outcome::refused, std::move(composition.result)};
@@ -101,7 +133,7 @@ std::vector<TrapName> traps() {
     for (const TextView place : {reply_cut, merge_group})
         all.push_back({any_step.sub_function, any_step.section, place});
     for (const TrapName& other :
-         {next_appointment_trap, next_quote_trap, boilerplate_trap, signature_file_trap,
+         {next_appointment_trap, next_quote_trap, next_tip_trap, boilerplate_trap, signature_file_trap,
           signature_folder_trap, one_signature_trap, text_signature_trap})
         all.push_back(other);
     return all;

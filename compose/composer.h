@@ -8,6 +8,7 @@
 #include "host/application.h"
 #include "settings/store.h"
 
+#include <functional>
 #include <optional>
 
 namespace ornavel::compose {
@@ -17,6 +18,12 @@ struct StartUpValues {
     Text application_path; ///< the folder of scratch files and of the disclaimer
     Text browser_path;     ///< the folder of the preview's page; empty for the application path
     UsageLog usage_log;
+};
+
+/// What a step did to one of the texts that the composer works on. Lengths are in UTF-16 units.
+struct StepChange {
+    TextView step, text;
+    std::size_t before, after;
 };
 
 /// What the composer works with; all of it outlives the composer.
@@ -29,6 +36,9 @@ struct Services {
     diagnostics::ErrorReports& errors;
     const host::Application& application; ///< may hold nothing
     const StartUpValues& start_up;
+    /// Told each step that changed one of the texts that it works on: the step, the text, and its length
+    /// before and after; empty where nobody watches.
+    std::function<void(const StepChange&)> on_change = {};
 };
 
 /// What is known of a message that answers another one.

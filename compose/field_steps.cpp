@@ -1,5 +1,6 @@
 #include "base/splice.h"
 #include "compose/composition.h"
+#include "compose/contact_fields.h"
 #include "compose/dates.h"
 #include "compose/merge.h"
 
@@ -56,9 +57,9 @@ void fill_contact_fields(Composition& c) {
     const ContactValues values = contact_values(c);
     const Text address = c.read(admin::SigEmail);
     const Pass passes[] = {
-        {u"[#ContactName#]", values.name},          {u"[#ContactCompanyName#]", values.company},
-        {u"[#ContactFolder#]", values.folder},      {u"[#ContactID#]", values.id},
-        {u"[#ContactFolderID#]", values.folder_id}, {u"[#SigEmail#]", address},
+        {contact_name_field, values.name},           {contact_company_field, values.company},
+        {contact_folder_field, values.folder},       {contact_id_field, values.id},
+        {contact_folder_id_field, values.folder_id}, {u"[#SigEmail#]", address},
     };
     if (!Passes(passes).apply_all(c.result)) throw TextTooLarge();
 }

@@ -2,11 +2,11 @@
 #include "base/find.h"
 #include "compose/filters.h"
 
-// One pass for two filters that each begin anew at the start of the text. The first makes "<img" with
-// "id=rid" or "alt=" into "<xIMG>", and marks the others "<xxxIMG"; it ends at a tag that never closes. The
-// second makes every
-// "<xxximg" into "<IMG ". Neither can make a new beginning for the other out of what stands around it, so
-// that each place can be settled when it is passed.
+// Two filters in one pass. By the rule, the first goes through the whole text, and then the second does. The
+// first replaces each image whose tag holds "id=rid" or "alt=" by "<xIMG>", and marks every other one: its
+// "<img" becomes "<xxxIMG". It ends at a tag that never closes. The second turns every "<xxximg", whoever
+// wrote it, into "<IMG ". Nothing that one of them writes joins the text around it to something that either
+// looks for. So one pass can settle each place for good as it comes to it.
 
 namespace ornavel::compose {
 namespace {

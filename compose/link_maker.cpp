@@ -6,11 +6,14 @@
 #include <algorithm>
 #include <array>
 
-// Addresses in a plain text become links. By the rule, each distinct word (from a prefix up to a terminator)
-// is replaced throughout the text, in order of first appearance, inside links that were made before as well.
-// No word holds a terminator, so that a stretch between two terminators becomes what it becomes whatever
-// stands around it: the stretches are settled one by one, and nearly all hold one word that no other word
-// meddles with.
+// Addresses in a plain text become links. An address is a word here: it begins with a prefix, such as "www.",
+// and ends in front of the next terminator. By the rule each distinct word, in order of first appearance, is
+// replaced by its link wherever it stands: also as a part of a longer word, and in a link made before.
+//
+// One walk through the whole text for each word would take too long. It isn't needed: no word holds a
+// terminator, so what becomes of a stretch between two terminators depends on nothing outside of it. The
+// stretches are settled one by one. Nearly all are a single word that no other word is a part of, and its
+// link is written at once; the others follow the rule word by word.
 
 namespace ornavel::compose {
 namespace {

@@ -29,6 +29,9 @@ public:
         return wanted_;
     }
 
+    /// The setting that must be empty; nothing for another condition.
+    constexpr const settings::TextKey* emptied() const { return wanted_ ? text_ : nullptr; }
+
 private:
     constexpr When(const settings::TextKey* text, const settings::SwitchKey* a_switch, bool wanted)
         : text_(text), switch_(a_switch), wanted_(wanted) {}

@@ -4,15 +4,31 @@
 
 namespace ornavel::compose {
 
-/// Ordered passes in one scan of a text. Exactly what the passes do one after the other, by this argument:
+/// Ordered passes in one scan of a text. A match is a place where a search text stands. The scan finds every
+/// match that the text has from the beginning. Around each it opens a region: to either side as far as the
+/// next barrier (a unit that no search text holds), and at most twice the length of the longest search text.
+/// Regions that overlap become one. Then the passes run on each region alone; what stands between the regions
+/// stays.
 ///
-/// The scan finds every place where a search text occurs. Around each a region is opened, out to a barrier (a
-/// unit that occurs in no search text) or to twice the longest search text; regions that overlap are one. The
-/// passes then run on each region alone. A barrier is inside no occurrence, now or later, so that what stands
-/// on its two sides never meets. On a side without a barrier the passes must have left at least as much
-/// untouched as an occurrence across the border could cover: then such an occurrence would have stood in the
-/// text from the beginning, and inside one region. Where they left less, the region grows and is solved again
-/// from the original text. Everything between the regions stays as it is.
+/// A region's passes leave a trace: how much they never touched at its two ends. An end is safe at a barrier,
+/// at the end of the text, or where the longest search text less one unit was never touched. While an end is
+/// not safe, the region grows there, and is solved again from the original text.
+///
+/// The result is what the passes make of the whole text, because no match ever lies across the border of a
+/// region, not even where two regions touch. A barrier is in no match. At any other border a match across it
+/// would hold fewer units of either side than were never touched there. So it would have stood in the text
+/// from the beginning; but the scan found all of these, and put each whole into one region.
+///
+/// An example, with blanks for the eye only. "ab" is deleted, then "cd", then "cd" once more. So the longest
+/// search text has two units, a region opens four units to either side, and an end is safe where one unit was
+/// never touched.
+///
+///     cccccc ab dddddd                 the text; the scan finds "ab", and there is no barrier
+///       cccc ab dd                     the region
+///       cccc dd,     ccc d,    cc      after each pass; untouched: 2 at the left end, 0 at the right
+///       cccc ab dddddd                 it grows to the right
+///       cccc dddddd, ccc ddddd, cc dddd   untouched: 2 and 4, so both ends are safe
+///     cccc dddd                        what stood in front of the region, and its result
 class OneScan {
 public:
     explicit OneScan(const Passes& passes) : passes_(passes) {}

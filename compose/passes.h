@@ -36,18 +36,22 @@ public:
 private:
     friend class OneScan;
 
-    /// A set of kinds of fields, one bit each. Fields of one kind share a bit, and a few kinds may.
+    /// A set of kinds of fields, one bit each. Most search texts hold a field, and most fields are not in the
+    /// text: a pass whose kind is not there is skipped without a search. The bit follows from four letters of
+    /// the field's name, so that two names may share one; then a search is made in vain, and nothing else.
     using FieldKinds = std::uint64_t;
+    /// The kind of search texts without a field. It counts as there in every text.
     static constexpr FieldKinds no_field = FieldKinds{1} << 63;
 
     struct Row {
         TextView search;
         TextView replacement;
-        FieldKinds kind;
-        std::size_t other; ///< the next row of another kind
+        FieldKinds kind;   ///< one bit; none where the search text is empty
+        std::size_t other; ///< the next row of another kind: where to go on when this kind is not there
     };
 
-    /// What the passes left alone at both ends of a text, and how long it was at its longest.
+    /// What passes did to a text: how many units they never touched at its left and at its right end, and how
+    /// long it was at its longest. It tells whether what stands beside the text could take part in a match.
     struct Trace {
         std::size_t left, right, longest;
     };
@@ -62,8 +66,10 @@ private:
 
     std::vector<Row> rows_;
     std::vector<TextView> without_field_; ///< the search texts that are known by no field
-    std::vector<Pair> pairs_;
-    /// The units that occur in a search text. Another one is a barrier; beyond these none counts as one.
+    std::vector<Pair> pairs_;             ///< what every search text, or the field in it, begins with
+    /// For each of the first 256 units, whether it occurs in a search text. One that doesn't is a barrier: no
+    /// match holds it, so that none reaches from one side of it to the other. The units above have no place
+    /// in the table and count as no barriers; a region is then larger than it need be, and no less right.
     std::array<bool, 256> living_{};
     FieldKinds kinds_ = 0;
     std::size_t longest_ = 0;

@@ -1,6 +1,7 @@
 #include "connect/connect.h"
 
 #include "connect/environment.h"
+#include "connect/message_windows.h"
 #include "connect/scratch_files.h"
 #include "connect/send_pipeline.h"
 #include "connect/session.h"
@@ -75,13 +76,10 @@ void Connect::start_up() noexcept {
     Session& session = *session_;
     session.started = true;
     prepare_environment(session);
-    // Behind the imports, which may set them. No catalogue can know where the add-in lies.
-    attempt([&] {
-        session.start_up.application_path =
-            read(session.platform.settings, admin::ApplicationPath, session.platform.addin_folder);
-        session.start_up.browser_path = read(session.platform.settings, admin::BrowserPath);
-    });
+    // Behind the imports, which may set them.
+    attempt([&] { read_working_folders(session); });
     add_buttons(session);
+    watch_message_windows(session);
     record(session, u"Calling Get_Marketing_Info", u"", u"On StartupComplete");
     attempt([&] { session.start_up.usage_log = compose::Get_Marketing_Info(session.platform.settings); });
     session.dialog_answer = true;
@@ -178,6 +176,7 @@ void Connect::VarCleanup() noexcept {
     host.explorer_events.reset();
     host.mode_button_events.reset();
     host.setup_button_events.reset();
+    forget_message_windows(session);
     host.myActiveExplorer.release();
 
     const std::pair<TextView, host::View*> members[] = {

@@ -114,7 +114,14 @@ void remove_stationery(Session& session) {
     attempt([&] { registry_of(session).delete_class_key(stationery_component); });
 }
 
-/// The editors of older mail clients write two line breaks where the user made one.
+void write_reset_file(Session& session, const Text& path) {
+    std::string lines;
+    for (const TextView line : reset_lines) lines += to_utf8(Text(line) + Text(line_end));
+    write_whole(session.platform.files, path, lines);
+}
+
+} // namespace
+
 void choose_whether_breaks_are_converted(Session& session) {
     constexpr int first_without = 11;
     Store& store = session.platform.settings;
@@ -123,14 +130,6 @@ void choose_whether_breaks_are_converted(Session& session) {
     const Text version = session.host.oHostApp.version();
     if (!version.empty() && numeric_value(version) < first_without) save(store, key, on);
 }
-
-void write_reset_file(Session& session, const Text& path) {
-    std::string lines;
-    for (const TextView line : reset_lines) lines += to_utf8(Text(line) + Text(line_end));
-    write_whole(session.platform.files, path, lines);
-}
-
-} // namespace
 
 void prepare_environment(Session& session) noexcept {
     const bool for_this_user = import_when_there(session, u"NewUser.reg");

@@ -15,4 +15,8 @@ void reset_host_signatures(Session& session) noexcept;
 /// The mail client's own signatures, made of those in the folder of signatures.
 void write_signature_files(Session& session) noexcept;
 
+/// The editors of older mail clients write two line breaks where the user made one: unless somebody decided,
+/// the setting that makes one of them is switched on for these.
+void choose_whether_breaks_are_converted(Session& session);
+
 } // namespace ornavel::connect

@@ -23,6 +23,8 @@ struct Send {
     settings::Store& settings() const { return session.platform.settings; }
 };
 
+// gates_entry.cpp: what all gates share, and the short ones.
+
 /// Appends the rule of the outside signature product to the subject and saves, while the setting
 /// "UseExclaimer" is on.
 void tag_for_Exclaimer(Send& send);
@@ -33,7 +35,6 @@ void record_gate(Send& send, TextView label);
 /// A line that follows the send's progress; written only while the system check is on.
 void trace(Send& send, TextView text, TextView detail = {});
 
-// Modes and stamps.
 Verdict entry_mode(Send& send);
 Verdict already_stamped(Send& send);
 Verdict wrap_item(Send& send);
@@ -47,33 +48,33 @@ Verdict mode_off(Send& send);
 Verdict preview_stamp(Send& send);
 Verdict preview_send_stamp(Send& send);
 
-// Resends.
+// gates_resend.cpp
 Verdict resend_from_outbox(Send& send);
 Verdict resend_from_sent_items(Send& send);
 
-// Personal stationery of the mail client.
+// gates_stationery.cpp: the mail client's own stationery.
 Verdict personal_stationery(Send& send);
 
-// Replies.
-inline constexpr TrapName version_trap{
-    u"ol_ItemSend", u"Error establishing the Outlook Version, MyVersion_err in OL_itemsend"};
+// gates_reply.cpp
 Verdict load_reply_marker(Send& send);
 Verdict reply_test(Send& send);
 
-// Internal mail.
+// gates_internal.cpp
 Verdict internal_mail(Send& send);
 
-// Auto mode.
+// gates_auto.cpp: the defaults that the mode "auto" needs.
 Verdict non_auto_branch(Send& send);
 Verdict default_template(Send& send);
 Verdict default_signature(Send& send);
 
-// Preview.
+// gates_preview.cpp
 Verdict auto_preview(Send& send);
 
-// Composition and stamping.
-/// The body that the item goes out with. The item itself is not changed.
-compose::Composed composed_body(Send& send, bool plain_text, compose::Purpose purpose);
+// gates_compose.cpp: composition and stamping.
+
+/// The body that the item goes out with, the boilerplate of this name in front. The item itself is not
+/// changed.
+compose::Composed composed_body(Send& send, bool plain_text, TextView boilerplate, compose::Purpose purpose);
 Verdict compose_body(Send& send);
 Verdict stamp(Send& send);
 

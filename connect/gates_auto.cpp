@@ -1,4 +1,6 @@
 #include "connect/gates.h"
+#include "connect/send_options.h"
+#include "connect/send_pipeline.h"
 #include "connect/toolbar.h"
 #include "settings/modes.h"
 
@@ -15,23 +17,17 @@ Verdict refuse_without_default(Send& send, TextView prompt_mode) {
     return Verdict::leave;
 }
 
-void attach_selected_vcard(Send& send) {
-    const Text path = read(send.settings(), user::vCardPathSelected);
-    const bool wanted = send.session.dialog_answer && is_on(send.settings(), user::SendvCard) &&
-                        !path.empty() && send.preview.vcard_chosen;
-    if (wanted) send.sent.attachments().add(path);
-}
-
 } // namespace
 
 Verdict non_auto_branch(Send& send) {
     // Absent only when it vanished since the entry gate: then the user is asked, as in the mode "on".
     if (read(send.settings(), user::SettingButtonBar, modes::on) == modes::automatic) return Verdict::off;
-    record_gate(send, u"Auto process end check OK");
+    record_gate(send, other_mode_began);
     // The item is the current one already, so a send-options form would find it.
     record_gate(send, u"Ornavel Dialog check OK");
     send.session.host.MyMessItem.release();
-    attach_selected_vcard(send);
+    if (send.session.dialog_answer)
+        attach_selected_vcard(send.settings(), send.sent, send.preview.vcard_chosen);
     record_gate(send, u"vCard Attach check OK");
     send.cancel = !send.session.dialog_answer;
     return Verdict::leave;

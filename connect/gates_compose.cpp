@@ -1,5 +1,7 @@
 #include "connect/gates.h"
+#include "connect/send_pipeline.h"
 
+#include "compose/insertions.h"
 #include "compose/plain_text.h"
 #include "host/stamps.h"
 
@@ -28,7 +30,7 @@ compose::Composed composed_from(Send& send, Text source, compose::Purpose purpos
 compose::Outcome dress(Send& send) {
     const host::MailItem& item = send.item();
     const bool plain_text = item.inspector().editor_type() == host::plain_text_editor;
-    auto [outcome, html] = composed_body(send, plain_text, compose::Purpose::send);
+    auto [outcome, html] = composed_body(send, plain_text, send.preview.boilerplate, compose::Purpose::send);
     if (outcome != compose::Outcome::composed) return outcome;
     item.set_html_body(std::move(html));
     if (plain_text) item.save();
@@ -37,20 +39,23 @@ compose::Outcome dress(Send& send) {
 
 } // namespace
 
-compose::Composed composed_body(Send& send, bool plain_text, compose::Purpose purpose) {
+compose::Composed composed_body(Send& send, bool plain_text, TextView boilerplate, compose::Purpose purpose) {
     using compose::Outcome;
     const host::MailItem& item = send.item();
+    Text front = compose::boilerplate_text(send.settings(), send.session.platform.files, boilerplate,
+                                           send.session.errors);
     if (plain_text)
         return {Outcome::composed,
-                compose::plain_text_as_html(send.session.composing, item.body(), send.reply.marker)};
+                std::move(front) +
+                    compose::plain_text_as_html(send.session.composing, item.body(), send.reply.marker)};
     Text html = send.html.take(item);
-    return composed_from(send, html.empty() ? item.body() : std::move(html), purpose);
+    return composed_from(send, std::move(front) + (html.empty() ? item.body() : std::move(html)), purpose);
 }
 
 Verdict compose_body(Send& send) {
     send.session.processed = true;
     if (send.preview.send_plain) return Verdict::off;
-    record_gate(send, u"Auto Preview Send Plain check OK");
+    record_gate(send, composition_began);
     attach_vcard(send);
     const compose::Outcome outcome = dress(send);
     if (outcome == compose::Outcome::composed) return Verdict::next;

@@ -1,4 +1,5 @@
 #include "connect/gates.h"
+#include "connect/send_pipeline.h"
 
 #include "compose/signatures.h"
 
@@ -17,7 +18,8 @@ void walk_recipients(const Send& send, Visit stays) {
         if (!stays(recipients.item(index).address())) return;
 }
 
-/// Without the wrapper the walk only ever clears the flag that an earlier send left; that is deliberate.
+/// Without the wrapper the walk only clears the flag that an earlier send left. If it set the flag, messages
+/// would leave undressed where they are dressed today: in companies with SkipInternal on and no wrapper.
 void walk_unwrapped(Send& send) {
     bool& internal = send.session.internal;
     walk_recipients(send, [&](const Text& address) {
@@ -82,7 +84,7 @@ Verdict internal_mail(Send& send) {
     if (is_on(send.settings(), admin::TestSkipInternal)) send.session.internal = true;
     if (wrapped) {
         if (reply_test(send) == Verdict::leave) return Verdict::leave;
-        record_gate(send, u"Reply check OK");
+        record_gate(send, reply_was_tested);
     }
     return send.session.internal ? sign_and_leave(send, editor) : Verdict::next;
 }

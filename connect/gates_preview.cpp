@@ -12,28 +12,7 @@ void show_what_settings_allow(const Store& store, Form& form) {
     Control& vcard = form[u"chkvCard"];
     vcard.visible = !read(store, user::vCard).empty();
     vcard.ticked = vcard.visible && is_on(store, admin::SendvCardAlways);
-    const bool select = is_on(store, admin::ShowPreviewSelectButton);
-    form[u"cmdNext"].visible = select;
-    form[u"cmdSignNext"].visible = select;
     form[u"cmdSendPlain"].visible = is_on(store, admin::ShowAutoSendPlain);
-    form[u"cmdOptions"].visible = is_on(store, admin::ShowPreviewOptionsButton);
-}
-
-void show_attachments(const host::Attachments& attachments, Form& form) {
-    const int count = attachments.count();
-    if (count == 0) return;
-    Control& names = form[u"txtAttachments"];
-    for (int index = 1; index <= count; ++index)
-        names.text += (index == 1 ? u"" : u"; ") + attachments.item(index).file_name();
-    names.tool_tip = names.text;
-    names.visible = form[u"lblAttachments"].visible = true;
-    names.enabled = false;
-}
-
-void place_window(const Store& store, Form& form) {
-    const auto twips = [&](const NumberKey& key) { return read_coordinate(store, key); };
-    form.take_place({twips(user::BrowserLeft), twips(user::BrowserTop), twips(user::BrowserWidth),
-                     twips(user::BrowserHeight)});
 }
 
 /// Plain text takes neither a template nor a signature file.
@@ -50,17 +29,21 @@ Verdict auto_preview(Send& send) {
     Session& session = send.session;
     const bool plain_text = send.item().inspector().editor_type() == host::plain_text_editor;
     forms::frmBrowser preview(
-        {session.platform.settings, session.platform.files, session.platform.windows, session.errors},
-        send.preview, preview_page(session),
-        [&] { return composed_body(send, plain_text, compose::Purpose::preview).html; });
+        {session.platform.settings, session.platform.files, session.platform.windows, session.errors,
+         session.platform.launcher, send.item(), session.platform.addin_folder},
+        send.preview, preview_page(session), [&](TextView boilerplate) {
+            return composed_body(send, plain_text, boilerplate, compose::Purpose::preview);
+        });
     Form& form = preview.form();
     form.load();
     show_what_settings_allow(send.settings(), form);
-    show_attachments(send.item().attachments(), form);
-    place_window(send.settings(), form);
+    preview.show_allowed_buttons();
+    preview.show_attachments();
+    preview.take_saved_place();
     if (plain_text) show_plain_text(form);
     preview.render();
     session.platform.windows.show_modal(form);
+    session.sent_to_many |= send.preview.sent_to_many;
     if (send.preview.send) return Verdict::next;
     send.cancel = true;
     return Verdict::leave;

@@ -21,7 +21,7 @@ Verdict resent(Send& send, TextView trace_line) {
 Verdict resend_from_outbox(Send& send) {
     if (!is_on(send.settings(), admin::SuppressResendsOutbox)) return Verdict::off;
     if (lies_in(send, u"OUTBOX")) return resent(send, u"Resend from the Outbox, Ol_ItemSend");
-    // Drafts belong to the test of the Outbox on purpose: the wrapper's own save moves an item there.
+    // Drafts belong to the test of the Outbox, because the wrapper's own save moves an item there.
     if (lies_in(send, u"DRAFTS")) return resent(send, u"Resend from drafts (redemption), Ol_ItemSend");
     return Verdict::next;
 }

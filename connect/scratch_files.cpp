@@ -20,7 +20,8 @@ Text preview_page(const Session& session) {
 
 void remove_scratch_files(Session& session) noexcept {
     attempt([&] {
-        if (is_on(session.platform.settings, settings::admin::WipeOutFileCompare)) return;
+        if (is_on(session.platform.settings, settings::admin::WipeOutFileCompare) || session.sent_to_many)
+            return;
         remove(session.platform.files, preview_page(session));
         for (const TextView name : {u"beforetext.txt", u"aftertext.txt"})
             remove(session.platform.files, session.start_up.application_path + u"\\" + Text(name));

@@ -1,9 +1,12 @@
 #include "connect/send_pipeline.h"
 
+#include "connect/current_item.h"
 #include "connect/gates.h"
+#include "connect/message_windows.h"
+#include "connect/replies.h"
+#include "connect/send_options.h"
 
 #include <array>
-#include <utility>
 
 namespace ornavel::connect {
 namespace {
@@ -24,7 +27,7 @@ constexpr Gate gates[] = {
     {u"message class", message_class, {}},
     {u"resend from the Outbox", resend_from_outbox, {}},
     {u"resend from Sent Items", resend_from_sent_items, {}},
-    {u"system check switch", system_check_switch, {u"Fired OK"}}, // from here on the gates leave records
+    {u"system check switch", system_check_switch, {pipeline_began}}, // from here on the gates leave records
     {u"message class again", message_class, {u"Message Class - IPM.Note", u"HTML Body check OK"}},
     {u"quote", next_quote, {u"Quote check OK"}},
     {u"subject", copy_subject, {u"Subject OK"}},
@@ -36,7 +39,7 @@ constexpr Gate gates[] = {
     {u"mode off", mode_off, {u"Mode off check OK"}}, // read again: a gate or a box may have changed it
     {u"preview stamp", preview_stamp, {u"Preview check OK"}},
     {u"preview send stamp", preview_send_stamp, {u"Preview send check OK"}},
-    {u"reply test", reply_test, {u"Reply check OK"}},
+    {u"reply test", reply_test, {reply_was_tested}},
     {u"other modes", non_auto_branch, {}},
     {u"default template", default_template, {u"Auto mode check OK"}},
     {u"default signature", default_signature, {u"Signature check OK", u"Delivery and Receipt check OK"}},
@@ -45,26 +48,6 @@ constexpr Gate gates[] = {
      {u"Auto Preview check OK"}}, // the body is composed; the item stays as it is
     {u"composition", compose_body, {u"vCard check OK"}},
     {u"stamping", stamp, {}},
-};
-
-/// Makes the item the current one. On every way out the outer send, where there is one, finds its own item
-/// again, and the processed flag that it left: a send inside it may have been refused.
-class CurrentItem {
-public:
-    CurrentItem(Session& session, const host::MailItem& item)
-        : session_(session), outer_(std::exchange(session.host.MyMessItem, item)),
-          processed_(session.processed) {}
-    ~CurrentItem() {
-        if (outer_) session_.processed = processed_;
-        session_.host.MyMessItem = std::move(outer_);
-    }
-    CurrentItem(const CurrentItem&) = delete;
-    CurrentItem& operator=(const CurrentItem&) = delete;
-
-private:
-    Session& session_;
-    host::MailItem outer_;
-    bool processed_;
 };
 
 constexpr TrapName trap_of(TextView gate) { return {u"ol_ItemSend", gate}; }
@@ -90,6 +73,12 @@ void ol_ItemSend(Session& session, const host::MailItem& item, bool& cancel) noe
         if (!passes(gate, send)) return;
 }
 
+std::vector<GateRecords> gate_records() {
+    std::vector<GateRecords> all;
+    for (const Gate& gate : gates) all.push_back({gate.name, gate.passed});
+    return all;
+}
+
 std::vector<TextView> gate_names() {
     std::vector<TextView> names;
     for (const Gate& gate : gates) names.push_back(gate.name);
@@ -97,7 +86,8 @@ std::vector<TextView> gate_names() {
 }
 
 std::vector<TrapName> traps() {
-    std::vector<TrapName> all{version_trap};
+    std::vector<TrapName> all{version_trap, message_windows_trap, window_button_trap, send_options_trap,
+                              vcard_trap,   send_by_hand_trap,    wrap_by_hand_trap};
     for (const Gate& gate : gates) all.push_back(trap_of(gate.name));
     return all;
 }

@@ -8,7 +8,17 @@
 #include "forms/frmSysTray.h"
 #include "host/application.h"
 
+#include <list>
+
 namespace ornavel::connect {
+
+/// A message's window, and the button that the add-in put on its toolbar.
+struct WatchedWindow {
+    host::MessageWindow window;
+    bool activated = false; ///< before that its toolbars may be missing
+    host::CommandBarButton button{};
+    host::Subscription window_events{}, button_events{};
+};
 
 /// Every reference to a host object, and the subscriptions to its events, in one place, so that VarCleanup
 /// can let all of them go.
@@ -21,14 +31,17 @@ struct HostReferences {
     host::CommandBarButton MyButtonConfigWiz;
     host::MailItem MyMessItem; ///< the current item: the one being sent, or its wrapper
 
+    std::list<WatchedWindow> message_windows;
+
     host::Subscription application_events;
     host::Subscription explorers_events;
     host::Subscription explorer_events;
+    host::Subscription message_windows_events;
     host::Subscription mode_button_events;
     host::Subscription setup_button_events;
 };
 
-/// What lives as long as the add-in is loaded. The processed and internal flags outlive a send on purpose.
+/// What lives as long as the add-in is loaded.
 struct Session {
     explicit Session(Platform machine)
         : platform(std::move(machine)),
@@ -51,12 +64,19 @@ struct Session {
     compose::Services composing{platform.settings, platform.files, platform.clock, platform.windows,
                                 platform.objects,  errors,         host.oHostApp,  start_up};
     bool started = false; ///< the start-up's work is done in this connection
+    // Both outlive a send, because the next one may read what this one left: a walk over recipients without
+    // the wrapper never sets the internal flag, and a gate that refuses a send clears the processed one.
     bool processed = false;
     bool internal = false;
     bool dialog_answer = true; ///< the send-options form's answer
+    bool sent_to_many = false; ///< another program reads the preview's page
+    bool button_failure_logged = false;
     Text language;
     std::shared_ptr<forms::frmSysTray> tray_form; ///< while the administrator's icon is shown
 };
+
+/// What the start-up reads of the folders that the add-in works in.
+void read_working_folders(Session& session);
 
 /// A system-check record; written only while the setting "SystemCheck" is on.
 void record(Session& session, TextView label, TextView detail, TextView handler) noexcept;

@@ -1,6 +1,7 @@
 #include "connect/toolbar.h"
 
 #include "connect/environment.h"
+#include "connect/message_windows.h"
 #include "connect/session.h"
 #include "connect/setup_program.h"
 #include "settings/modes.h"
@@ -83,6 +84,7 @@ void add_mode_button(Session& session) {
 void set_mode(Session& session, TextView mode) noexcept {
     attempt([&] { session.host.myButtonSetting.set_caption(caption_of_mode(session, mode)); });
     save(session.platform.settings, user::SettingButtonBar, mode);
+    follow_mode(session);
 }
 
 void add_buttons(Session& session) noexcept {

@@ -11,7 +11,7 @@ struct Session;
 /// none.
 void add_buttons(Session& session) noexcept;
 
-/// Saves the mode and shows it on the mode button, where there is one.
+/// Saves the mode, and shows it on the mode button, where there is one, and in the windows of messages.
 void set_mode(Session& session, TextView mode) noexcept;
 
 /// Takes the buttons off the toolbar: the user unloads the add-in.

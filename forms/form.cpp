@@ -52,7 +52,7 @@ void Form::take_frame(Size told) {
     if (told == frame()) return;
     const Size before = room_of(properties.place);
     frame_ = told;
-    if (sizable) return take_place(properties.place);
+    if (sizable || keeps_size) return take_place(properties.place);
     make_room(before);
 }
 

@@ -25,10 +25,12 @@ public:
     Form& operator=(const Form&) = delete;
 
     Control properties;
-    bool topmost = false; ///< stays above all other windows
-    bool sizable = false; ///< the user may resize it by its frame
-    bool centred = true;  ///< appears in the middle of the screen rather than at its place
-    Size least_room;      ///< the user can't make the room for the controls smaller
+    bool topmost = false;            ///< stays above all other windows
+    bool sizable = false;            ///< the user may resize it by its frame
+    bool centred = true;             ///< appears in the middle of the screen rather than at its place
+    bool keeps_size = false;         ///< its outer size stays, however thick the system's frame is
+    Place screen{0, 0, 12000, 9000}; ///< the main screen, once the form has appeared on one
+    Size least_room;                 ///< the user can't make the room for the controls smaller
 
     /// The room for the controls, within title bar and borders, in twips.
     Size room() const { return shown_room_.value_or(room_of(properties.place)); }
@@ -39,7 +41,7 @@ public:
     /// Stands at the place, or at one that is large enough for the least room, and runs on_resize.
     void take_place(const Place& place);
     /// Title bar and borders together, as the system has them here. A form that the user can't size keeps its
-    /// room, any other its place.
+    /// room, unless it keeps its size; any other keeps its place.
     void take_frame(Size frame);
     /// Shows itself in another room than that of its place: the window is maximised. Runs on_resize.
     void take_room(Size room);

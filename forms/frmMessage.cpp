@@ -45,7 +45,7 @@ constexpr Mode modes[] = {
      u"No. Send 'as is'."},
     {prompt_modes::auto_no_template, Icon::warning, no_default_template, u"Ornavel Template warning"},
     {prompt_modes::auto_no_signature, Icon::warning, no_default_template,
-     template_warning}, // tells of the template as well, deliberately
+     template_warning}, // speaks of the template as well: users know this window by these words
     {prompt_modes::security_warning, Icon::warning, script_question, security_warning,
      Choice::risky_yes_or_no, send_with_script, cancel_script},
     {prompt_modes::bad_template, Icon::warning, bad_template, template_failure},

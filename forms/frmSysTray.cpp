@@ -187,7 +187,7 @@ void frmSysTray::mnSupport_Click() {
     const auto note = ask_for_text(needs_.windows, u"Notify Brevant by Email",
                                    u"Add a note to describe your problem briefly", {});
     if (!note) return;
-    needs_.errors.take(u"Notified by user- " + *note, {u"Systray option", u"UserRequest"});
+    needs_.errors.take(u"Notified by user- " + *note, support_request);
     needs_.windows.inform(u"Brevant support request",
                           u"An email message has been sent to Brevant support." + Text(line_end) +
                               u"Brevant support will contact you as soon as possible.");

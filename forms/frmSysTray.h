@@ -14,6 +14,8 @@
 namespace ornavel::forms {
 
 inline constexpr TrapName tray_trap{u"frmSysTray", u"Error in the administrator menu"};
+/// A request of the user's own for help goes the way of an error.
+inline constexpr TrapName support_request{u"Systray option", u"UserRequest"};
 
 /// The administrator's icon in the notification area, and its menu: switches of the clean-up passes, default
 /// names, what the machine is, and a request to support. The icon is there while the form is loaded.

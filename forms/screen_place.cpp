@@ -72,6 +72,7 @@ Place reachable(const Place& window, std::span<const Place> screens) {
 }
 
 void place_on_screen(Form& form, const Place& main_screen, std::span<const Place> screens) {
+    form.screen = main_screen;
     Place& place = form.properties.place;
     if (form.centred)
         place = centred(place, main_screen);

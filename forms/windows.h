@@ -12,6 +12,8 @@ public:
     /// Throws Failure when there is no window to be had: the form is unloaded then, too, and nobody has
     /// answered.
     virtual void show_modal(Form& form) = 0;
+    /// Keeps another program's window above all others, where there is such a window.
+    virtual void keep_on_top(int) {}
 };
 
 } // namespace ornavel::forms

@@ -3,6 +3,8 @@
 #include "host/contact.h"
 #include "host/word.h"
 
+#include <optional>
+
 namespace ornavel::host {
 
 /// A named value that an add-in keeps with an item.
@@ -76,6 +78,7 @@ public:
     using ViewOf::ViewOf;
 
     Text message_class() const { return as_text(get({u"MessageClass"})); }
+    bool is_sent() const { return as_flag(get({u"Sent"})); }
     Folder parent() const { return Folder(as_object(get({u"Parent"}))); }
 
     Text subject() const { return as_text(get({u"Subject"})); }
@@ -88,6 +91,19 @@ public:
     Text billing_information() const { return as_text(get({u"BillingInformation"})); }
     void set_billing_information(TextView text) const { put({u"BillingInformation"}, Text(text)); }
 
+    // An importance or sensitivity of nothing reaches the mail client as the empty value, to take or to
+    // refuse.
+    int importance() const { return as_number(get({u"Importance"})); }
+    void set_importance(std::optional<int> number) const { put({u"Importance"}, number_or_empty(number)); }
+    int sensitivity() const { return as_number(get({u"Sensitivity"})); }
+    void set_sensitivity(std::optional<int> number) const { put({u"Sensitivity"}, number_or_empty(number)); }
+    bool read_receipt_requested() const { return as_flag(get({u"ReadReceiptRequested"})); }
+    void request_read_receipt(bool wanted) const { put({u"ReadReceiptRequested"}, wanted); }
+    bool delivery_report_requested() const { return as_flag(get({u"OriginatorDeliveryReportRequested"})); }
+    void request_delivery_report(bool wanted) const { put({u"OriginatorDeliveryReportRequested"}, wanted); }
+    void set_categories(TextView names) const { put({u"Categories"}, Text(names)); }
+    void set_flag_request(TextView note) const { put({u"FlagRequest"}, Text(note)); }
+
     void set_delete_after_submit(bool forget) const { put({u"DeleteAfterSubmit"}, forget); }
 
     UserProperties user_properties() const { return UserProperties(as_object(get({u"UserProperties"}))); }
@@ -98,6 +114,11 @@ public:
 
     void save() const { call({u"Save"}); }
     void send() const { call({u"Send"}); }
+
+private:
+    static Value number_or_empty(std::optional<int> number) {
+        return number ? Value(static_cast<std::int32_t>(*number)) : Value();
+    }
 };
 
 /// The outside wrapper that touches an item without the host's security prompts.

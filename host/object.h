@@ -21,7 +21,7 @@ struct Member {
 using Arguments = std::vector<Value>;
 
 /// The sets of events that the add-in listens to.
-enum class EventSource { application, explorers, explorer, button };
+enum class EventSource { application, explorers, explorer, inspectors, inspector, button };
 
 /// Called with the event's name and its arguments in their order. What the handler leaves in an argument that
 /// the host passed by reference goes back to the host. A handler never throws.

@@ -64,7 +64,7 @@ std::size_t length_of_system(std::string_view text) {
     constexpr std::string_view beginnings[] = {"\nWindows 32s ", "\nWindows 95 ", "\nWindows NT "};
     if (std::ranges::none_of(beginnings, [&](auto beginning) { return text.starts_with(beginning); }))
         return 0;
-    const auto end = text.rfind("K\r\n");
+    const auto end = text.ends_with('K') ? text.size() - 1 : text.rfind("K\r\n");
     return end == std::string_view::npos ? 0 : end + 1;
 }
 

@@ -31,7 +31,8 @@ public:
     virtual std::optional<RegistryValue> find(TextView key, TextView name) const = 0;
     /// Makes the key when it is missing.
     virtual void set(TextView key, TextView name, RegistryValue value) = 0;
-    /// Whether there was such a key, without keys below it, and it is gone.
+    /// Deletes the key with its values. False when there is no such key, or when keys stand below it; it then
+    /// stays.
     virtual bool remove_key(TextView key) = 0;
 };
 
@@ -45,7 +46,8 @@ public:
     virtual void prepare(const Scenario& scenario) = 0;
     virtual Snapshot snapshot() const = 0;
 
-    /// The mail client's own files: uses are not the add-in's.
+    /// The files as the mail client itself uses them: such a use can't fail and is in no journal, as the
+    /// add-in's can and is.
     virtual Files& files() = 0;
     virtual Registry& registry() = 0;
     /// With everything in it.
@@ -57,9 +59,11 @@ public:
     virtual void change_settings(const SettingsTree& settings) = 0;
     virtual void set_clock(const LocalTime& time) = 0;
 
-    /// An act of the user at the tray icon. Whether there is an icon, and the entry it asks for.
+    /// Does what the user does at the tray icon. False when no icon is shown, or when its menu lacks the
+    /// entry that the act names.
     virtual bool tray(const Act& act) = 0;
-    /// A caller shows the prompt form in that mode; the prompt answer. Nothing where there is no such form.
+    /// Shows the prompt form in that mode, as the add-in's own code would, and gives back what the user
+    /// answered; nothing where the machine has no way to show that form by itself.
     virtual std::optional<Text> prompt(TextView mode) = 0;
 
     /// Why the scripted user could not go on, when that is so.

@@ -1,7 +1,7 @@
 #include "rehearsal/notes.h"
 
 #include "base/encoding.h"
-#include "rehearsal/nearest.h"
+#include "base/nearest.h"
 #include "settings/catalogue.h"
 
 #include <algorithm>

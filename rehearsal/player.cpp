@@ -68,7 +68,7 @@ void Player::play_act(const Act& act, Json& record) {
     case Kind::clock:
         return machine_.set_clock(act.time);
     case Kind::dress:
-        refuse(act, "the add-in offers no form for this item");
+        return dress(act, record);
     case Kind::tray:
     case Kind::tray_entry:
     case Kind::tray_message:
@@ -90,6 +90,17 @@ void Player::send(int item, Json& record) {
         return;
     }
     record["cancel"] = client_.send(node);
+}
+
+/// The form's answer shows in what the add-in asks of the item: to be sent, or nothing.
+void Player::dress(const Act& act, Json& record) {
+    const auto& item = client_.items[static_cast<std::size_t>(act.number)];
+    client_.open_window(item);
+    const auto button = item->inspector_bar->find(u"SendOptions");
+    if (!button) refuse(act, "the add-in offers no form for this item");
+    const int before = item->send_requests;
+    client_.click(*button);
+    record["answer"] = item->send_requests > before;
 }
 
 void Player::click(const Act& act) {

@@ -1,5 +1,6 @@
 #include "win32/control_window.h"
 
+#include "win32/picture.h"
 #include "win32/wide.h"
 #include "win32/window_name.h"
 
@@ -104,6 +105,7 @@ void ControlWindow::show(const Control& control, const Control* frame, const Sca
     if (control.kind == Kind::web_browser) show_page(control);
     if (control.kind == Kind::check_box) send(BM_SETCHECK, control.ticked ? BST_CHECKED : BST_UNCHECKED);
     const bool moved = show_place(place_in_form(control, frame), scale);
+    if (control.kind == Kind::image && control.picture != shown_.picture) show_picture(control);
     const bool frame_is_hidden = frame && !frame->visible;
     if (control.visible && frame_is_hidden)
         SetPropW(window_, in_hidden_frame, window_);
@@ -157,6 +159,17 @@ bool ControlWindow::show_place(const forms::Place& place, const Scale& scale) {
 
 void ControlWindow::show_page(const Control& control) {
     if (browser_ && control.visits != shown_.visits) attempt([&] { browser_->show(control.page); });
+}
+
+/// A picture that can't be read leaves its room empty.
+void ControlWindow::show_picture(const Control& control) {
+    attempt([&] {
+        RECT room;
+        GetClientRect(window_, &room);
+        auto picture = load_picture(control.picture, {room.right, room.bottom});
+        send(STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(picture.get()));
+        picture_.emplace(std::move(picture));
+    });
 }
 
 void ControlWindow::show_state(bool visible, bool enabled) {

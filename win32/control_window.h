@@ -1,11 +1,13 @@
 #pragma once
 
 #include "forms/form.h"
+#include "win32/handle.h"
 #include "win32/tool_tips.h"
 #include "win32/twips.h"
 #include "win32/web_browser.h"
 
 #include <memory>
+#include <optional>
 
 namespace ornavel::win32 {
 
@@ -45,12 +47,14 @@ private:
 
     void make_browser(bool follows_links);
     void show_page(const forms::Control& control);
+    void show_picture(const forms::Control& control);
 
     HWND window_ = nullptr;
     std::unique_ptr<WebBrowser> browser_; ///< of a web browser, where the system has one
-    forms::Control shown_;                ///< the control as the window shows it
-    Text tip_for_place_;                  ///< what the form's window shows there
-    forms::Place place_;                  ///< within the form, also for a control that stands in a frame
+    std::optional<Owned<&DeleteObject>> picture_;
+    forms::Control shown_; ///< the control as the window shows it
+    Text tip_for_place_;   ///< what the form's window shows there
+    forms::Place place_;   ///< within the form, also for a control that stands in a frame
 };
 
 } // namespace ornavel::win32

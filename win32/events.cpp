@@ -9,11 +9,18 @@ struct Event {
     TextView name;
 };
 
+// As the mail client's type library has them since version 9, and the command bars' in Office's: Activate and
+// Close of a window are the numbers 0xF001 and 0xF008 of InspectorEvents, {0006307D-…}; NewInspector is
+// 0xF001 of InspectorsEvents, {00063079-…}. Version 10 added InspectorEvents_10, {0006302A-…}, which version
+// 9 does not have.
 constexpr Event events[] = {
     {host::EventSource::application, 0xF002, u"ItemSend"},
     {host::EventSource::application, 0xF005, u"OptionsPagesAdd"},
     {host::EventSource::explorers, 0xF001, u"NewExplorer"},
     {host::EventSource::explorer, 0xF008, u"Close"},
+    {host::EventSource::inspectors, 0xF001, u"NewInspector"},
+    {host::EventSource::inspector, 0xF001, u"Activate"},
+    {host::EventSource::inspector, 0xF008, u"Close"},
     {host::EventSource::button, 1, u"Click"},
 };
 
@@ -24,6 +31,8 @@ constexpr IID office_interface(unsigned long number) {
 constexpr IID application_events = office_interface(0x0006304E);
 constexpr IID explorers_events = office_interface(0x00063078);
 constexpr IID explorer_events = office_interface(0x0006304F);
+constexpr IID inspectors_events = office_interface(0x00063079);
+constexpr IID inspector_events = office_interface(0x0006307D);
 constexpr IID button_events = office_interface(0x000C0351);
 
 } // namespace
@@ -36,6 +45,10 @@ const IID& event_interface(host::EventSource source) {
         return explorers_events;
     case host::EventSource::explorer:
         return explorer_events;
+    case host::EventSource::inspectors:
+        return inspectors_events;
+    case host::EventSource::inspector:
+        return inspector_events;
     default:
         return button_events;
     }

@@ -8,7 +8,7 @@
 
 namespace ornavel::win32 {
 
-/// The event interface of a source: the host's application and explorer, the command bars' button.
+/// The event interface of a source: the host's application and windows, the command bars' button.
 const IID& event_interface(host::EventSource source);
 
 /// The name of an event by its number, and the other way round; nothing for one that the add-in doesn't know.

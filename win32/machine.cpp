@@ -104,6 +104,11 @@ void DesktopWindows::show_modal(forms::Form& form) {
     if (form.is_loaded()) show_form_modally(form);
 }
 
+void DesktopWindows::keep_on_top(int window) {
+    SetWindowPos(reinterpret_cast<HWND>(static_cast<INT_PTR>(window)), HWND_TOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE);
+}
+
 std::optional<Text> ResourceStrings::find(int id) const {
     // With no room for a copy, the system gives out where the text itself stands.
     const wchar_t* text = nullptr;

@@ -27,6 +27,7 @@ class DesktopWindows final : public forms::Windows {
 public:
     Answer show(TextView title, TextView text, Buttons buttons) override;
     void show_modal(forms::Form& form) override;
+    void keep_on_top(int window) override;
 };
 
 /// The numbered texts in a module's resources.

@@ -37,6 +37,8 @@ constexpr MemberRow application_members[] = {
     method(u"Version", [](const Call& call) -> Value { return call.client.host().version; }),
     method(u"Explorers",
            [](const Call& call) -> Value { return call.client.hand_out(call.client.explorers()); }),
+    method(u"Inspectors",
+           [](const Call& call) -> Value { return call.client.hand_out(call.client.inspectors()); }),
     method(u"ActiveExplorer", active_explorer),
     method(u"CreateItem", create_item, 1, 1),
     method(u"GetNamespace", name_space, 1, 1),
@@ -52,6 +54,20 @@ constexpr MemberRow explorers_members[] = {
         u"Item",
         [](const Call& call) -> Value {
             auto open = call.client.open_explorers();
+            return call.client.hand_out(entry_at(open, call.number(0)));
+        },
+        1, 1),
+};
+
+constexpr MemberRow inspectors_members[] = {
+    method(u"Count",
+           [](const Call& call) -> Value {
+               return static_cast<std::int32_t>(call.client.open_windows().size());
+           }),
+    method(
+        u"Item",
+        [](const Call& call) -> Value {
+            auto open = call.client.open_windows();
             return call.client.hand_out(entry_at(open, call.number(0)));
         },
         1, 1),
@@ -138,6 +154,10 @@ const Class& ApplicationNode::what() const {
 }
 const Class& ExplorersNode::what() const {
     static constexpr Class table{u"Explorers", explorers_members, host::EventSource::explorers};
+    return table;
+}
+const Class& InspectorsNode::what() const {
+    static constexpr Class table{u"Inspectors", inspectors_members, host::EventSource::inspectors};
     return table;
 }
 const Class& ExplorerNode::what() const {

@@ -15,6 +15,11 @@ struct ExplorersNode final : Node {
     const Class& what() const override;
 };
 
+/// The windows of items, as a collection that tells of new ones.
+struct InspectorsNode final : Node {
+    const Class& what() const override;
+};
+
 /// A window that shows folders. It keeps its number for the whole rehearsal.
 struct ExplorerNode final : Node {
     const Class& what() const override;

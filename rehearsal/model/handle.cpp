@@ -62,6 +62,7 @@ Handle::Target Handle::find(TextView member) const {
     }
     if (!row) throw host::Error(u"Object doesn't support this property or method");
     used += row->name;
+    node->asked(row->name);
     client_.count_use(used);
     return {*node, *row};
 }

@@ -28,13 +28,47 @@ Value save(const Call& call) {
 Value send(const Call& call) {
     auto& item = call.as<MailItemNode>();
     item.through = call.used.what().name;
-    if (call.client.host().own_mails_raise_item_send)
-        call.client.send(item);
-    else
+    if (item.made_by_addin && !call.client.host().own_mails_raise_item_send)
         call.client.send_silently(item);
+    else
+        call.client.send(item);
     if (item.made_by_addin)
         call.client.sent_mails.push_back(std::static_pointer_cast<MailItemNode>(item.shared_from_this()));
     return {};
+}
+
+Value inspector(const Call& call) {
+    auto item = std::static_pointer_cast<MailItemNode>(call.self.shared_from_this());
+    if (auto open = call.client.window_of(*item)) return call.client.hand_out(std::move(open));
+    return call.client.hand_out(std::make_shared<InspectorNode>(std::move(item)));
+}
+
+/// A property takes the numbers of its enumeration and nothing else, above all no empty value.
+template <auto field, int last>
+void put_choice(const Call& call, const Value& value) {
+    const auto* number = std::get_if<std::int32_t>(&value);
+    if (!number) throw host::Error(u"Type mismatch");
+    if (*number < 0 || *number > last) throw host::Error(u"One or more parameter values are not valid.");
+    call.as<MailItemNode>().*field = *number;
+}
+
+template <auto field>
+void put_flag(const Call& call, const Value& value) {
+    const auto* flag = std::get_if<bool>(&value);
+    if (!flag) throw host::Error(u"Type mismatch");
+    call.as<MailItemNode>().*field = *flag;
+}
+
+template <auto field>
+void put_text(const Call& call, const Value& value) {
+    const auto* text = std::get_if<Text>(&value);
+    if (!text) throw host::Error(u"Type mismatch");
+    call.as<MailItemNode>().*field = *text;
+}
+
+template <auto field>
+constexpr MemberRow option(TextView name, Write write) {
+    return {name, read_field<MailItemNode, field>, write};
 }
 
 constexpr MemberRow mail_item_members[] = {
@@ -43,19 +77,21 @@ constexpr MemberRow mail_item_members[] = {
     property<MailItemNode, &Item::body>(u"Body"),
     property<MailItemNode, &Item::html_body>(u"HTMLBody"),
     property<MailItemNode, &Item::billing_information>(u"BillingInformation"),
-    property<MailItemNode, &Item::importance>(u"Importance"),
-    property<MailItemNode, &Item::sensitivity>(u"Sensitivity"),
-    property<MailItemNode, &Item::read_receipt_requested>(u"ReadReceiptRequested"),
-    property<MailItemNode, &Item::delivery_report_requested>(u"OriginatorDeliveryReportRequested"),
-    property<MailItemNode, &Item::categories>(u"Categories"),
-    property<MailItemNode, &Item::flag_request>(u"FlagRequest"),
+    option<&Item::importance>(u"Importance", put_choice<&Item::importance, 2>),
+    option<&Item::sensitivity>(u"Sensitivity", put_choice<&Item::sensitivity, 3>),
+    option<&Item::read_receipt_requested>(u"ReadReceiptRequested", put_flag<&Item::read_receipt_requested>),
+    option<&Item::delivery_report_requested>(u"OriginatorDeliveryReportRequested",
+                                             put_flag<&Item::delivery_report_requested>),
+    option<&Item::categories>(u"Categories", put_text<&Item::categories>),
+    option<&Item::flag_request>(u"FlagRequest", put_text<&Item::flag_request>),
     property<MailItemNode, &MailItemNode::delete_after_submit>(u"DeleteAfterSubmit"),
+    read_only<MailItemNode, &MailItemNode::sent>(u"Sent"),
     method(u"Parent", parent_folder),
     method(u"Recipients", part<RecipientsNode>),
     method(u"Attachments", part<AttachmentsNode>),
     method(u"UserProperties", part<UserPropertiesNode>),
     method(u"Links", part<LinksNode>),
-    method(u"GetInspector", part<InspectorNode>),
+    method(u"GetInspector", inspector),
     method(u"Save", save),
     method(u"Send", send),
 };
@@ -81,16 +117,19 @@ Value word_editor(const Call& call) {
                               : host::ObjectPtr();
 }
 
+Value inspector_bars(const Call& call) {
+    if (!call.as<InspectorNode>().activated)
+        throw host::Error(u"Method 'CommandBars' of object '_Inspector' failed");
+    return call.client.hand_out(std::make_shared<BarsNode>(item_of(call).inspector_bar));
+}
+
 constexpr MemberRow inspector_members[] = {
     method(u"WordEditor", word_editor),
     method(u"EditorType", [](const Call& call) -> Value { return item_of(call).editor_type; }),
     method(u"CurrentItem",
            [](const Call& call) -> Value { return call.client.hand_out(call.as<InspectorNode>().item); }),
     method(u"IsWordMail", [](const Call& call) -> Value { return item_of(call).is_word_mail; }),
-    method(u"CommandBars",
-           [](const Call& call) -> Value {
-               return call.client.hand_out(std::make_shared<BarsNode>(item_of(call).inspector_bar));
-           }),
+    method(u"CommandBars", inspector_bars),
 };
 
 } // namespace
@@ -117,7 +156,7 @@ const Class& SafeMailItemNode::what() const {
 }
 
 const Class& InspectorNode::what() const {
-    static constexpr Class table{u"Inspector", inspector_members};
+    static constexpr Class table{u"Inspector", inspector_members, host::EventSource::inspector};
     return table;
 }
 

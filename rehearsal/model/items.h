@@ -50,6 +50,9 @@ struct MailItemNode final : Node, Item {
     bool sent = false, cancelled = false;
     bool made_by_addin = false, delete_after_submit = false;
     Text through = u"MailItem"; ///< the class by which the add-in sent it
+    int send_requests = 0;      ///< how often the add-in called Send, also where that failed
+
+    void asked(TextView member) override { send_requests += same_name(member, u"Send"); }
 };
 
 /// Something that belongs to an item and keeps it alive.
@@ -70,9 +73,11 @@ struct UserPropertiesNode final : PartOfItem {
     using PartOfItem::PartOfItem;
     const Class& what() const override;
 };
+/// The window of an item, with toolbars of its own.
 struct InspectorNode final : PartOfItem {
     using PartOfItem::PartOfItem;
     const Class& what() const override;
+    bool activated = false; ///< before that it has no toolbars
 };
 struct LinksNode final : PartOfItem {
     using PartOfItem::PartOfItem;

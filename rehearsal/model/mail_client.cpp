@@ -46,7 +46,8 @@ bool Call::given(std::size_t index) const {
 MailClient::MailClient(const Scenario& scenario, Machine& machine, Failures& failures, Journal& journal)
     : standard_bar(std::make_shared<BarNode>()), scenario_(scenario), machine_(machine), failures_(failures),
       journal_(journal), application_(std::make_shared<ApplicationNode>()),
-      explorers_node_(std::make_shared<ExplorersNode>()) {
+      explorers_node_(std::make_shared<ExplorersNode>()),
+      inspectors_node_(std::make_shared<InspectorsNode>()) {
     for (const auto& item : scenario.items) items.push_back(std::make_shared<MailItemNode>(item));
     add_explorers(scenario.host.explorers);
 }
@@ -92,6 +93,7 @@ bool MailClient::send(MailItemNode& item) {
     item.cancelled = host::as_flag(arguments[1]);
     item.sent = !item.cancelled;
     if (item.sent && open_document_ == &item) close_documents(); // the message's window goes with its editor
+    if (const auto window = item.sent ? window_of(item) : nullptr) close_window(window);
     return item.cancelled;
 }
 
@@ -117,6 +119,31 @@ void MailClient::send_silently(MailItemNode& item) {
 void MailClient::click(ButtonNode& button) {
     Value arguments[] = {hand_out(button.shared_from_this()), false};
     raise_event(*this, button, u"Click", arguments);
+}
+
+InspectorNode& MailClient::open_window(const std::shared_ptr<MailItemNode>& item) {
+    auto window = window_of(*item);
+    if (!window) {
+        window = windows_.emplace_back(std::make_shared<InspectorNode>(item));
+        Value arguments[] = {hand_out(window)};
+        raise_event(*this, *inspectors_node_, u"NewInspector", arguments);
+    }
+    window->activated = true;
+    raise_event(*this, *window, u"Activate");
+    return *window;
+}
+
+std::shared_ptr<InspectorNode> MailClient::window_of(const MailItemNode& item) const {
+    const auto found =
+        std::ranges::find_if(windows_, [&](const auto& window) { return window->item.get() == &item; });
+    return found == windows_.end() ? nullptr : *found;
+}
+
+/// It counts until its Close event has ended, as an explorer does.
+void MailClient::close_window(const std::shared_ptr<InspectorNode>& window) {
+    raise_event(*this, *window, u"Close");
+    window->gone = true;
+    std::erase(windows_, window);
 }
 
 void MailClient::ask_for_pages() {

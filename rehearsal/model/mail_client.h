@@ -11,6 +11,7 @@ namespace ornavel::rehearsal {
 
 struct ApplicationNode;
 struct ExplorersNode;
+struct InspectorsNode;
 struct ExplorerNode;
 struct ConnectionNode;
 
@@ -27,7 +28,8 @@ public:
     host::ObjectPtr hand_out(NodePtr node);
     host::ObjectPtr application();
 
-    /// Raises ItemSend for the item and lets it go unless it is cancelled. Returns whether it was.
+    /// Raises ItemSend for the item and lets it go unless it is cancelled; its window closes then. Returns
+    /// whether it was.
     bool send(MailItemNode& item);
     /// Sends without telling anyone.
     void send_silently(MailItemNode& item);
@@ -39,6 +41,14 @@ public:
     /// Raises Close while the window still counts among the explorers and, when it was the active one, still
     /// is; then it is gone.
     void close_explorer(int number);
+
+    /// Opens the item's window and tells the windows' listeners, then brings it to the front; one that is
+    /// open only comes to the front.
+    InspectorNode& open_window(const std::shared_ptr<MailItemNode>& item);
+    /// Null where the item has no window.
+    std::shared_ptr<InspectorNode> window_of(const MailItemNode& item) const;
+    const std::vector<std::shared_ptr<InspectorNode>>& open_windows() const { return windows_; }
+    const std::shared_ptr<InspectorsNode>& inspectors() const { return inspectors_node_; }
 
     std::vector<std::shared_ptr<ExplorerNode>> open_explorers() const;
     std::shared_ptr<ExplorerNode> active_explorer() const;
@@ -70,6 +80,8 @@ public:
     Json browser = Json::array();
 
 private:
+    void close_window(const std::shared_ptr<InspectorNode>& window);
+
     const Scenario& scenario_;
     Machine& machine_;
     const MailItemNode* open_document_ = nullptr; ///< the item whose document has a file open
@@ -79,6 +91,9 @@ private:
     std::shared_ptr<ApplicationNode> application_;
     std::shared_ptr<ExplorersNode> explorers_node_;
     std::vector<std::shared_ptr<ExplorerNode>> explorers_;
+    std::shared_ptr<InspectorsNode> inspectors_node_;
+    std::vector<std::shared_ptr<InspectorNode>>
+        windows_; ///< of items, in the order in which they were opened
     std::size_t active_ = 0;
 };
 

@@ -58,6 +58,8 @@ public:
     virtual const Class& what() const = 0;
     /// Another object that answers what this one's own table doesn't have.
     virtual Node* behind() { return nullptr; }
+    /// Told each member of the table that is used, before it fails where it is to fail.
+    virtual void asked(TextView) {}
 
     bool gone = false; ///< deleted, or its window closed
     struct Listener {

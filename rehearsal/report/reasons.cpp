@@ -1,6 +1,7 @@
 #include "rehearsal/report/reasons.h"
 
 #include "base/encoding.h"
+#include "connect/reasons.h"
 #include "rehearsal/report/findings.h"
 #include "rehearsal/report/words.h"
 
@@ -11,77 +12,27 @@ namespace {
 
 constexpr std::string_view last_gate = "stamping";
 
-/// What the send read of a setting.
-std::string read_of(const Story& story, const Send& send, TextView setting) {
-    return quoted(to_utf8(value_read(story, send, setting)));
-}
-
 const Item& item_of(const Story& story, const Send& send) { return story.scenario.items.at(send.item); }
 
-using Reason = std::string (*)(const Story& story, const Send& send);
-
-std::string by_mode(const Story& story, const Send& send) {
-    return "the mode (SettingButtonBar) is " + read_of(story, send, u"User Settings / SettingButtonBar") +
-           ", and only “auto” dresses";
+/// What the gate looked at.
+std::string shown_by(const connect::Reason& reason, const Story& story, const Send& send) {
+    using enum connect::Reason::Shows;
+    if (reason.shows == message_class) return to_utf8(item_of(story, send).message_class);
+    if (reason.shows == folder) return quoted(to_utf8(item_of(story, send).parent));
+    if (reason.shows == nothing) return {};
+    const Text read = Text(reason.setting->section) + u" / " + Text(reason.setting->name);
+    return quoted(to_utf8(value_read(story, send, read)));
 }
-
-std::string by_class(const Story& story, const Send& send) {
-    return "its class is " + to_utf8(item_of(story, send).message_class) + ", and only IPM.Note is dressed";
-}
-
-std::string by_folder(const Story& story, const Send& send) {
-    return "it lies in the folder " + quoted(to_utf8(item_of(story, send).parent)) +
-           " and carries the stamp of an earlier send";
-}
-
-std::string by_recipients(const Story& story, const Send& send) {
-    const std::string setting = "SkipInternal is " + read_of(story, send, u"Admin Settings / SkipInternal");
-    if (item_of(story, send).editor_type == 3) return setting + ", and rich text is then left as it is";
-    return setting + ", and every recipient counts as internal";
-}
-
-std::string by_template(const Story& story, const Send& send) {
-    return "no default template is chosen (Template is " + read_of(story, send, u"User Settings / Template") +
-           ")";
-}
-
-std::string by_signature(const Story& story, const Send& send) {
-    return "no default signature is chosen (Signature is " +
-           read_of(story, send, u"User Settings / Signature") + ")";
-}
-
-/// A reason in fixed words, or one that shows what it looked at.
-struct Row {
-    std::string_view gate;
-    std::string_view words;
-    Reason reason = nullptr;
-};
-
-constexpr Row rows[] = {
-    {"entry mode", {}, by_mode},
-    {"already tagged", "it carries a user property"},
-    {"message class", {}, by_class},
-    {"resend from the Outbox", {}, by_folder},
-    {"resend from Sent Items", {}, by_folder},
-    {"message class again", {}, by_class},
-    {"personal stationery", "WipeoutPersonalStationery is “True”, and the user has chosen stationery"},
-    {"internal mail", {}, by_recipients},
-    {"send as is", "SendAsIs was “True”, for this one message"},
-    {"mode off", {}, by_mode},
-    {"preview stamp", "its BillingInformation is “Preview”"},
-    {"preview send stamp", "the preview sends it, composed already"},
-    {"reply test", "Reply as is is “1”"},
-    {"other modes", {}, by_mode},
-    {"default template", {}, by_template},
-    {"default signature", {}, by_signature},
-    {"auto preview", "AutoPreview is “True”, and the user closed the preview without sending"},
-    {"composition", "the template was refused"},
-};
 
 std::string reason(const Story& story, const Send& send, const std::string& gate) {
-    const auto row = std::ranges::find(rows, gate, &Row::gate);
-    if (row == std::end(rows)) return {};
-    return ": " + (row->reason ? row->reason(story, send) : std::string(row->words));
+    const auto reason = std::ranges::find_if(connect::reasons(), [&](const connect::Reason& row) {
+        return row.gate == from_utf8(gate) && (!row.rich_text || item_of(story, send).editor_type == 3);
+    });
+    if (reason == connect::reasons().end()) return {};
+    std::string words = ": " + to_utf8(reason->words);
+    if (const auto at = words.find("{}"); at != words.npos)
+        words.replace(at, 2, shown_by(*reason, story, send));
+    return words;
 }
 
 } // namespace

@@ -89,8 +89,8 @@ public:
     HRESULT STDMETHODCALLTYPE EnumConnectionPoints(IEnumConnectionPoints**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE FindConnectionPoint(REFIID wanted, IConnectionPoint** point) override {
         using host::EventSource;
-        for (const auto source :
-             {EventSource::application, EventSource::explorers, EventSource::explorer, EventSource::button})
+        for (const auto source : {EventSource::application, EventSource::explorers, EventSource::explorer,
+                                  EventSource::inspectors, EventSource::inspector, EventSource::button})
             if (wanted == win32::event_interface(source)) {
                 *point = make_event_point(object_, source, subscriptions_).release();
                 return S_OK;

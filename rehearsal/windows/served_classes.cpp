@@ -11,7 +11,7 @@ namespace ornavel::rehearsal {
 namespace {
 
 constexpr TextView served[] = {u"Redemption.SafeMailItem", u"BrevantPage.PropPage", u"ADODB.Connection",
-                               u"winmgmts", u"Scripting.FileSystemObject"};
+                               u"winmgmts", u"Scripting.FileSystemObject", u"InternetExplorer.Application"};
 
 /// Makes one class of the stand-in mail client; "winmgmts" is asked by moniker instead.
 class Factory final : public win32::Counted<IClassFactory>, public IParseDisplayName {

@@ -14,7 +14,7 @@ class ChangingStore final : public settings::Store {
 public:
     explicit ChangingStore(settings::Store& stored) : stored_(stored) {}
 
-    /// From its read after so many more on, the key has the value.
+    /// The next so many reads of the key still find what is stored; all reads after them find this value.
     void change_after(int reads, const settings::Key& key, TextView value) {
         changes_[{Text(key.section), Text(key.name)}] = {reads, Text(value)};
     }

@@ -3,7 +3,7 @@
 #include "base/encoding.h"
 #include "compose/composer.h"
 #include "connect/send_pipeline.h"
-#include "forms/frmBrowser.h"
+#include "forms/BrevantUser.h"
 #include "forms/frmSysTray.h"
 #include "rehearsal/native/watching.h"
 #include "rehearsal/reader/place.h"
@@ -69,8 +69,9 @@ Known known() {
     for (const TextView gate : connect::gate_names())
         for (const auto verdict : {connect::Verdict::next, connect::Verdict::off, connect::Verdict::leave})
             all.verdicts.push_back(verdict_of(gate, rehearsal::name_of(verdict)));
-    for (const auto& traps :
-         {connect::traps(), compose::traps(), std::vector{forms::preview_trap, forms::tray_trap}})
+    for (const auto& traps : {connect::traps(), compose::traps(), forms::send_options_traps(),
+                              std::vector{forms::preview_trap, forms::send_to_many_trap, forms::tray_trap,
+                                          forms::support_request}})
         for (const TrapName& trap : traps) all.traps.push_back(rehearsal::name_of(trap));
     for (const auto& key : settings::catalogue()) all.settings.push_back(setting_of(key.section, key.name));
     return all;

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <utility>
+#include <vector>
 
 namespace ornavel {
 
@@ -15,7 +16,8 @@ public:
     explicit ScriptedWindows(std::function<void(forms::Form&, forms::FormUser)> script = {})
         : script_(std::move(script)) {}
 
-    Answer show(TextView, TextView, Buttons buttons) override {
+    Answer show(TextView title, TextView text, Buttons buttons) override {
+        boxes.push_back(Text(title) + u": " + Text(text));
         return buttons == Buttons::ok ? Answer::ok : Answer::no;
     }
 
@@ -27,6 +29,7 @@ public:
     }
 
     int forms_shown = 0;
+    std::vector<Text> boxes; ///< title and text of each message box
 
 private:
     std::function<void(forms::Form&, forms::FormUser)> script_;

@@ -2,6 +2,8 @@
 
 #include "base/encoding.h"
 #include "tests/fakes/memory_files.h"
+#include "tests/fakes/recording_launcher.h"
+#include "tests/fakes/recording_object.h"
 #include "tests/fakes/recording_reports.h"
 #include "tests/fakes/scripted_windows.h"
 
@@ -22,16 +24,24 @@ bool overlap(const Place& one, const Place& other) {
            !apart(one.top, one.height, other.top, other.height);
 }
 
+bool is_hidden_list(TextView name) {
+    return name == u"cboListTemplates" || name == u"cboPrevSigs" || name == u"cboListBplates" ||
+           name == u"cboBGColourCode";
+}
+
 class PreviewWindow : public ::testing::Test {
 protected:
     /// Shows the window to a user who acts on it, as the send pipeline does.
     void show(std::function<void(Form&, FormUser)> script) {
         ScriptedWindows windows(std::move(script));
-        frmBrowser preview({store, files, windows, errors}, answers, u"C:\\scratch\\page.html", [this] {
-            ++composed;
-            if (refuses_to_compose) throw Failure(u"no body");
-            return u"with " + read(store, user::Template);
-        });
+        frmBrowser preview({store, files, windows, errors, launcher, item, u"C:\\app"}, answers,
+                           u"C:\\scratch\\page.html", [this](TextView boilerplate) {
+                               ++composed;
+                               if (refuses_to_compose)
+                                   return compose::Composed{.outcome = compose::Outcome::failed};
+                               return compose::Composed{.html = Text(boilerplate) + u"with " +
+                                                                read(store, user::Template)};
+                           });
         preview.form().load();
         preview.render();
         windows.show_modal(preview.form());
@@ -42,6 +52,10 @@ protected:
     MemoryStore store;
     MemoryFiles files;
     RecordingReports errors;
+    RecordingLauncher launcher;
+    std::vector<Text> journal;
+    std::shared_ptr<RecordingObject> host_item = std::make_shared<RecordingObject>(journal, u"MailItem");
+    host::MailItem item{host_item};
     PreviewAnswers answers;
     int composed = 0;
     bool refuses_to_compose = false;
@@ -84,8 +98,9 @@ TEST_F(PreviewWindow, ASignatureIsTakenFromTheListAsATemplateIs) {
 
 TEST_F(PreviewWindow, ThePageBeginsRightBelowTheControlsThatAreShown) {
     show([](Form& form, FormUser user) {
-        for (const TextView hidden : {u"cmdSendPlain", u"cmdNext", u"cmdSignNext", u"chkvCard"})
-            form[hidden].visible = false;
+        for (Control& control : form.controls())
+            control.visible = control.name == u"command1" || control.name == u"cmdClose" ||
+                              control.name == u"cmdOptions" || control.name == u"brwWebBrowser";
         user.resize(10170, 6000);
         const auto top = [&] { return form[u"brwWebBrowser"].place.top; };
         EXPECT_EQ(top(), 165 + 345 + 105);
@@ -99,8 +114,7 @@ TEST_F(PreviewWindow, ThePageBeginsRightBelowTheControlsThatAreShown) {
 
 TEST_F(PreviewWindow, NothingOverlapsInTheSmallestWindow) {
     show([](Form& form, FormUser user) {
-        for (Control& control : form.controls())
-            if (control.name != u"cboListTemplates" && control.name != u"cboPrevSigs") control.visible = true;
+        for (Control& control : form.controls()) control.visible = !is_hidden_list(control.name);
         user.resize(0, 0);
         for (const Control& one : form.controls()) {
             EXPECT_LE(one.place.left + one.place.width, form.room().width) << to_utf8(one.name);
@@ -122,7 +136,7 @@ TEST_F(PreviewWindow, AccessKeysAreUnique) {
             if (mark == Text::npos) continue;
             EXPECT_TRUE(keys.insert(lower_case(control.caption)[mark + 1]).second) << to_utf8(control.name);
         }
-        EXPECT_EQ(keys.size(), 10u);
+        EXPECT_EQ(keys.size(), 15u);
     });
 }
 
@@ -187,8 +201,22 @@ TEST_F(PreviewWindow, APageThatIsWrittenAnewIsShownAnew) {
     });
 }
 
-TEST_F(PreviewWindow, AMessageThatCantBeComposedIsLoggedAndTheWindowStillAnswers) {
-    refuses_to_compose = true;
+TEST_F(PreviewWindow, AMessageThatCantBeComposedKeepsThePageThatIsShown) {
+    store.save(u"Admin Settings", u"HTM Files Path", u"C:\\t");
+    files.contents = {{u"C:\\t\\a.htm", ""}};
+    show([&](Form& form, FormUser user) {
+        const std::string before = files.contents[u"C:\\scratch\\page.html"];
+        refuses_to_compose = true;
+        user.click(u"cmdNext");
+        EXPECT_EQ(files.contents[u"C:\\scratch\\page.html"], before);
+        EXPECT_EQ(form[u"brwWebBrowser"].visits, 1);
+        user.click(u"command1");
+    });
+    EXPECT_TRUE(answers.send);
+}
+
+TEST_F(PreviewWindow, APageThatCantBeWrittenIsLoggedAndTheWindowStillAnswers) {
+    files.refused.insert(u"C:\\scratch\\page.html");
     show([](Form&, FormUser user) { user.click(u"command1"); });
     EXPECT_TRUE(answers.send);
     ASSERT_EQ(errors.entries.size(), 1u);
@@ -240,17 +268,138 @@ TEST_F(PreviewWindow, HasItsControlsWithTheirWords) {
         {u"txtAttachments", u"", u"", 2400, false},
     };
     show([&](Form& form, FormUser) {
-        for (std::size_t i = 0; i < std::size(expected); ++i) {
-            const Control& control = form.controls().at(i);
-            EXPECT_EQ(control.name, expected[i].name);
-            EXPECT_EQ(control.caption, expected[i].caption);
-            EXPECT_EQ(control.tool_tip, expected[i].tool_tip);
-            EXPECT_EQ(control.place.width, expected[i].width) << to_utf8(control.name);
-            EXPECT_EQ(control.visible, expected[i].visible) << to_utf8(control.name);
+        for (const auto& [name, caption, tool_tip, width, visible] : expected) {
+            const Control& control = form[name];
+            EXPECT_EQ(control.caption, caption);
+            EXPECT_EQ(control.tool_tip, tool_tip);
+            EXPECT_EQ(control.place.width, width) << to_utf8(name);
+            EXPECT_EQ(control.visible, visible) << to_utf8(name);
         }
         EXPECT_EQ(form.properties.caption, u"Ornavel Preview");
         EXPECT_EQ(form.properties.place, (Place{2595, 990, 10170, 6000}));
     });
+}
+
+TEST_F(PreviewWindow, TheColoursBeginWithNoneWhichIsWhite) {
+    show([&](Form& form, FormUser user) {
+        EXPECT_EQ(form[u"cboBGColourName"].items.front(), u"None");
+        EXPECT_EQ(form[u"cboBGColourName"].items.size(), form[u"cboBGColourCode"].items.size());
+        EXPECT_EQ(form[u"cboBGColourName"].text, u"None");
+        EXPECT_EQ(stored(admin::SigBGColor), std::nullopt);
+        user.select(u"cboBGColourName", 2);
+        EXPECT_EQ(stored(admin::SigBGColor), form[u"cboBGColourCode"].items[2]);
+        user.select(u"cboBGColourName", 0);
+        EXPECT_EQ(stored(admin::SigBGColor), u"#FFFFFF");
+    });
+    EXPECT_EQ(composed, 3);
+    EXPECT_TRUE(answers.selected);
+}
+
+TEST_F(PreviewWindow, WithoutBoilerplatesTheirListIsHiddenAndEmpty) {
+    store.save(u"Admin Settings", u"HTM Files Path", u"C:\\t");
+    store.save(u"Admin Settings", u"Show Boilerplates", u"true");
+    files.contents = {{u"C:\\t\\note.txt", ""}};
+    show([](Form& form, FormUser) {
+        EXPECT_FALSE(form[u"cboBplates"].visible);
+        EXPECT_TRUE(form[u"cboBplates"].items.empty());
+    });
+}
+
+TEST_F(PreviewWindow, AChosenBoilerplateIsInEveryRenderingUntilItIsTakenBack) {
+    store.save(u"Admin Settings", u"HTM Files Path", u"C:\\t");
+    files.contents = {{u"C:\\t\\Note.TXT", ""}, {u"C:\\t\\a.htm", ""}, {u"C:\\t\\b.txt", ""}};
+    const auto page = [&] { return files.contents[u"C:\\scratch\\page.html"]; };
+    show([&](Form& form, FormUser user) {
+        EXPECT_EQ(form[u"cboBplates"].items, (std::vector<Text>{u"b.txt", u"Note.TXT"}));
+        user.select(u"cboBplates", 1);
+        EXPECT_EQ(page(), "Note.TXTwith ");
+        user.click(u"cmdNext");
+        EXPECT_EQ(page(), "Note.TXTwith a.htm");
+        user.set_text(u"cboBplates", u"No");
+        EXPECT_EQ(page(), "Note.TXTwith a.htm");
+        user.set_text(u"cboBplates", u"");
+        EXPECT_EQ(page(), "with a.htm");
+        user.select(u"cboBplates", 0);
+        user.click(u"command1");
+    });
+    EXPECT_EQ(answers.boilerplate, u"b.txt");
+}
+
+TEST_F(PreviewWindow, OneThatIsClosedAnswersNoBoilerplate) {
+    store.save(u"Admin Settings", u"HTM Files Path", u"C:\\t");
+    files.contents = {{u"C:\\t\\b.txt", ""}};
+    show([](Form&, FormUser user) { user.select(u"cboBplates", 0); });
+    EXPECT_EQ(answers.boilerplate, u"");
+}
+
+TEST_F(PreviewWindow, AProfileIsCopiedOverTheUsersFieldsAndEmptiesThoseThatItLacks) {
+    store.save(u"Admin Settings", u"Multiple Signatures", u"True");
+    store.save(u"User Settings", u"SignatureList", u"Main signature;Sales");
+    store.save(u"Admin Settings", u"Current Signature", u"0");
+    store.save(u"Admin Settings", u"SigCell", u"old");
+    store.save(u"Admin Settings", u"SigBranch", u"kept");
+    store.save(u"Sales", u"SigFullname", u"Jo of Sales");
+    store.save(u"Sales", u"SigOrganizationNameFR", u"Ventes");
+    show([&](Form& form, FormUser user) {
+        EXPECT_EQ(form[u"cboSig"].text, u"Main signature");
+        user.select(u"cboSig", 1);
+    });
+    EXPECT_EQ(stored(admin::SigFullname), u"Jo of Sales");
+    EXPECT_EQ(stored(admin::SigOrganizationNameFR), u"Ventes");
+    EXPECT_EQ(stored(admin::SigCell), u"");
+    EXPECT_EQ(stored(admin::SigBranch), u"kept");
+    EXPECT_EQ(stored(admin::CurrentSignature), u"1");
+    EXPECT_EQ(composed, 2);
+}
+
+TEST_F(PreviewWindow, WithoutProfilesTheirListIsHidden) {
+    show([](Form& form, FormUser) { EXPECT_FALSE(form[u"cboSig"].visible); });
+}
+
+TEST_F(PreviewWindow, SendToManyHandsThePageOnAndCloses) {
+    store.save(u"Admin Settings", u"ShowSendToMany", u"True");
+    host_item->values[u"Subject"] = Text(u"Offer");
+    show([](Form& form, FormUser user) {
+        user.click(u"cmdSendToMany");
+        EXPECT_FALSE(form.is_loaded());
+    });
+    EXPECT_EQ(stored(admin::SendToManySubject), u"Offer");
+    EXPECT_EQ(launcher.programs, (std::vector<Text>{u"C:\\app\\MassMailer.exe"}));
+    EXPECT_TRUE(answers.sent_to_many);
+    EXPECT_FALSE(answers.send);
+}
+
+TEST_F(PreviewWindow, ASendToManyThatFailsIsLoggedAndTheWindowCloses) {
+    store.save(u"Admin Settings", u"ShowSendToMany", u"True");
+    launcher.fails = true;
+    show([](Form& form, FormUser user) {
+        user.click(u"cmdSendToMany");
+        EXPECT_FALSE(form.is_loaded());
+    });
+    EXPECT_FALSE(answers.sent_to_many);
+    ASSERT_EQ(errors.entries.size(), 1u);
+}
+
+TEST_F(PreviewWindow, LookingAtHelpLeavesTheSavedPlace) {
+    store.save(u"Admin Settings", u"Help", u"C:\\help\\index.htm");
+    store.save(u"User Settings", u"BrowserLeft", u"450");
+    int forms = 0;
+    show([&](Form& form, FormUser user) {
+        if (++forms == 1) {
+            user.click(u"cmdHelp");
+            EXPECT_EQ(stored(user::BrowserLeft), u"450");
+            return;
+        }
+        EXPECT_EQ(form.properties.caption, u"Ornavel Help");
+        EXPECT_EQ(form[u"brwWebBrowser"].page, u"C:\\help\\index.htm");
+        EXPECT_TRUE(form[u"brwWebBrowser"].follows_links);
+        for (const Control& control : form.controls())
+            EXPECT_EQ(control.visible, control.name == u"cmdClose" || control.name == u"brwWebBrowser");
+        user.move(30, 30);
+        user.click(u"cmdClose");
+        EXPECT_EQ(stored(user::BrowserLeft), u"30");
+    });
+    EXPECT_EQ(forms, 2);
 }
 
 } // namespace

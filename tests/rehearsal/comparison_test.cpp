@@ -39,7 +39,8 @@ constexpr Sample samples[] = {
     {"11/20/2003 2:05:09 XM", "11/20/2003 2:05:09 XM"},
     {"Nov-20-03 02:05 pm", "Nov-20-03 02:05 pm"},
     {"a\nWindows NT 5.1\r\nMemory: 1K\r\nFree: 2K\r\nend", "a(system)\r\nend"},
-    {"a\nWindows 95 4.0\r\nMemory: 1K", "a\nWindows 95 4.0\r\nMemory: 1K"},
+    {"a\nWindows 95 4.0\r\nMemory: 1K", "a(system)"},
+    {"a\nWindows 95 4.0\r\nMemory: 1", "a\nWindows 95 4.0\r\nMemory: 1"},
     {"Windows NT 5.1\r\n1K\r\n", "Windows NT 5.1\r\n1K\r\n"},
     {"\nWindows CE 3\r\n1K\r\n", "\nWindows CE 3\r\n1K\r\n"},
 };

@@ -1,6 +1,6 @@
 #include "rehearsal/notes.h"
 
-#include "rehearsal/nearest.h"
+#include "base/nearest.h"
 
 #include <gtest/gtest.h>
 

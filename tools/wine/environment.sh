@@ -18,7 +18,8 @@ for program in wine wineserver Xvfb i686-w64-mingw32-g++-win32; do
     command -v "$program" >/dev/null || fail "$program is missing: run tools/provision"
 done
 
-export WINEARCH=win32 WINEDEBUG=-all LC_ALL=C.UTF-8
+# WINE_TRACE: what Wine writes to the error stream, in the words of its WINEDEBUG; nothing unless set.
+export WINEARCH=win32 WINEDEBUG="${WINE_TRACE:--all}" LC_ALL=C.UTF-8
 # No prompts for a missing .NET or HTML engine, and no entries in the user's menus.
 export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 unset DISPLAY WAYLAND_DISPLAY XAUTHORITY

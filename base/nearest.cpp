@@ -1,10 +1,10 @@
-#include "rehearsal/nearest.h"
+#include "base/nearest.h"
 
 #include <algorithm>
 #include <numeric>
 #include <vector>
 
-namespace ornavel::rehearsal {
+namespace ornavel {
 namespace {
 
 /// How many letters must be put in, taken out or replaced to come from one word to the other.
@@ -38,4 +38,4 @@ std::optional<Text> nearest(TextView name, std::span<const Text> names) {
     return *best;
 }
 
-} // namespace ornavel::rehearsal
+} // namespace ornavel

@@ -5,10 +5,10 @@
 #include <optional>
 #include <span>
 
-namespace ornavel::rehearsal {
+namespace ornavel {
 
 /// The name that was probably meant: the one that the fewest changed letters lead to. The case of letters
 /// does not count. Nothing where even that one is another word.
 std::optional<Text> nearest(TextView name, std::span<const Text> names);
 
-} // namespace ornavel::rehearsal
+} // namespace ornavel

@@ -1,0 +1,61 @@
+#include "tests/gallery/stage.h"
+
+namespace ornavel::gallery {
+
+using namespace settings;
+
+Stage::Stage() {
+    for (const Text& file : files.list(folder.substr(0, folder.size() - 1))) files.remove(folder + file);
+    files.create_folder(folder);
+    for (const TextView name : {u"letter.htm", u"card.htm", u"invitation.htm"})
+        write(name, "<html><body>[#Input your message here#]</body></html>");
+    write(u"tips.txt",
+          std::string(20, '\n') +
+              "15 A double click on these words shows another tip; there are many of them, and each one "
+              "tells of something that saves a minute every day.\r\n");
+    const Text path = folder.substr(0, folder.size() - 1);
+    set(admin::HTMFilesPath, path);
+    set(admin::SignaturesPath, path);
+    set(admin::TipsFileLocation, folder + u"tips.txt");
+    set(user::Template, u"letter.htm");
+    set(user::Signature, u"none");
+    host_item->values = {{u"HTMLBody", Text(u"<p>Hello Ann</p>")}, {u"Importance", std::int32_t{1}}};
+}
+
+void Stage::show_options(std::function<void(forms::Form&)> change) {
+    const compose::Services composing{store, files, clock, windows, objects, errors, application, start_up};
+    bool answer = false;
+    forms::BrevantUser options({.composing = composing,
+                                .windows = windows,
+                                .launcher = launcher,
+                                .strings = forms::built_in_strings(),
+                                .item = item,
+                                .page = folder + u"page.html",
+                                .program_folder = folder,
+                                .language = language,
+                                .find_reply = [] { return compose::Reply(); }},
+                               answer);
+    options.form().load();
+    if (change) change(options.form());
+    windows.show_modal(options.form());
+}
+
+void Stage::show_preview(std::function<void(forms::frmBrowser&)> change) {
+    forms::PreviewAnswers answers;
+    forms::frmBrowser preview({store, files, windows, errors, launcher, item, folder}, answers,
+                              folder + u"page.html", [](TextView) {
+                                  return compose::Composed{
+                                      .html = u"<html><body><h1>Hello</h1>A message.</body></html>"};
+                              });
+    preview.form().load();
+    if (change) change(preview);
+    preview.take_saved_place();
+    preview.render();
+    windows.show_modal(preview.form());
+}
+
+void Stage::show_help() { forms::show_help({store, files, windows, errors, launcher, item, folder}); }
+
+void Stage::show_prompt(TextView mode) { forms::PromptDialog(windows, forms::built_in_strings()).ask(mode); }
+
+} // namespace ornavel::gallery

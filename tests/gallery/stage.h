@@ -1,0 +1,44 @@
+#pragma once
+
+#include "forms/BrevantUser.h"
+#include "forms/frmMessage.h"
+#include "tests/fakes/fixed_clock.h"
+#include "tests/fakes/prepared_objects.h"
+#include "tests/fakes/recording_object.h"
+#include "tests/fakes/recording_reports.h"
+#include "win32/machine.h"
+#include "win32/windows_files.h"
+
+#include <functional>
+
+namespace ornavel::gallery {
+
+/// What forms need, with an item and a folder of stationery; each state changes some of it.
+struct Stage {
+    Stage();
+
+    void set(const settings::Key& key, TextView value) { settings::save(store, key, value); }
+    void write(TextView name, std::string_view text) { files.write(folder + Text(name), text); }
+
+    void show_options(std::function<void(forms::Form&)> change = {});
+    void show_preview(std::function<void(forms::frmBrowser&)> change = {});
+    void show_help();
+    void show_prompt(TextView mode);
+
+    Text folder = u"C:\\windows\\temp\\gallery\\";
+    win32::WindowsFiles files;
+    win32::DesktopWindows windows;
+    win32::ShellLauncher launcher;
+    settings::MemoryStore store;
+    FixedClock clock;
+    PreparedObjects objects;
+    RecordingReports errors;
+    host::Application application;
+    compose::StartUpValues start_up;
+    std::vector<Text> journal;
+    std::shared_ptr<RecordingObject> host_item = std::make_shared<RecordingObject>(journal);
+    host::MailItem item{host_item};
+    Text language = u"English";
+};
+
+} // namespace ornavel::gallery
