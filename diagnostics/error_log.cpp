@@ -30,8 +30,9 @@ void ErrorLog::SystemCheck(TextView first, TextView second, TextView third) noex
 Text ErrorLog::Create_Error_Log_File() {
     const Text folder = addin_folder_ + u"\\Support";
     files_.create_folder(folder);
-    files_.write(folder + u"\\SupportLog.txt", {});
-    return folder + u"\\SupportLog.txt";
+    const Text path = folder + u"\\SupportLog.txt";
+    files_.write(path, {});
+    return path;
 }
 
 Text ErrorLog::location() {

@@ -27,6 +27,12 @@ TEST_F(ErrorLogTest, WithoutANamedLogTheDefaultOneIsCreatedInItsFolderAndNamed) 
               "Date: 11-20-2003 14:05:09, cmdOkToSend_Click, Send_Err, Disk full\r\n");
 }
 
+TEST_F(ErrorLogTest, ADefaultLogOfAnEarlierInstallationIsBegunAnew) {
+    files.contents[u"C:\\addin\\Support\\SupportLog.txt"] = "earlier\r\n";
+    log.write_note(u"a note");
+    EXPECT_EQ(files.contents[u"C:\\addin\\Support\\SupportLog.txt"], "Date: 11-20-2003 14:05:09, a note\r\n");
+}
+
 TEST_F(ErrorLogTest, LinesAreAppendedToTheNamedLog) {
     name_log(u"D:\\logs\\mine.txt");
     files.contents[u"D:\\logs\\mine.txt"] = "earlier\r\n";
