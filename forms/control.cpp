@@ -16,11 +16,6 @@ void Control::select(int wanted) {
     text = exists ? items[static_cast<std::size_t>(wanted)] : Text();
 }
 
-void Control::clear_items() {
-    items.clear();
-    select(-1);
-}
-
 void Control::visit(TextView address) {
     page = address;
     ++visits;

@@ -75,7 +75,6 @@ struct Control {
     void choose(TextView wanted);
     /// Makes a combo box show the entry at this index; an index that it does not have shows an empty text.
     void select(int wanted);
-    void clear_items();
     /// Makes a web browser show a file or address, anew when it shows it already.
     void visit(TextView address);
 };
