@@ -30,7 +30,8 @@ constexpr int vcard_room = box_height + control_gap;
 
 constexpr int option_row(int row) { return first_option + row * option_step; }
 
-Control designed(Kind kind, TextView name, Place place, int caption = 0, int tip = 0, TextView frame = {}) {
+Control designed(ControlKind kind, TextView name, Bounds place, int caption = 0, int tip = 0,
+                 TextView frame = {}) {
     Control control{.kind = kind, .name = Text(name), .place = place};
     if (caption != 0) control.tag = to_text(caption);
     if (tip != 0) control.tool_tip = to_text(tip);
@@ -39,30 +40,30 @@ Control designed(Kind kind, TextView name, Place place, int caption = 0, int tip
 }
 
 Control button(TextView name, int column, int caption, int tip) {
-    return designed(Kind::command_button, name,
+    return designed(ControlKind::command_button, name,
                     {left + column * (button_size.width + control_gap), button_top, button_size.width,
                      button_size.height},
                     caption, tip);
 }
 
 Control frame(TextView name, int top, int height, int caption = 0) {
-    return designed(Kind::frame, name, {left, top, whole, height}, caption);
+    return designed(ControlKind::frame, name, {left, top, whole, height}, caption);
 }
 
-Control label(TextView name, Place place, int caption, TextView in) {
-    return designed(Kind::label, name, place, caption, 0, in);
+Control label(TextView name, Bounds place, int caption, TextView in) {
+    return designed(ControlKind::label, name, place, caption, 0, in);
 }
 
-Control list(TextView name, Place place, int tip, TextView in) {
-    return designed(Kind::combo_box, name, place, 0, tip, in);
+Control list(TextView name, Bounds place, int tip, TextView in) {
+    return designed(ControlKind::combo_box, name, place, 0, tip, in);
 }
 
-Control check_box(TextView name, Place place, int caption, int tip, TextView in) {
-    return designed(Kind::check_box, name, place, caption, tip, in);
+Control check_box(TextView name, Bounds place, int caption, int tip, TextView in) {
+    return designed(ControlKind::check_box, name, place, caption, tip, in);
 }
 
-Control text_box(TextView name, Place place, int tip, TextView in) {
-    return designed(Kind::text_box, name, place, 0, tip, in);
+Control text_box(TextView name, Bounds place, int tip, TextView in) {
+    return designed(ControlKind::text_box, name, place, 0, tip, in);
 }
 
 Control hidden(Control control) {
@@ -120,7 +121,7 @@ void add_options(std::vector<Control>& all) {
     all.push_back(frame(options, options_top, options_height, outlook_options));
     add_levels(all);
     const auto beside = [](int column, int row) {
-        return Place{column, option_row(row), half, check_height};
+        return Bounds{column, option_row(row), half, check_height};
     };
     all.push_back(
         check_box(u"chkRequestDeliveryReceipt", beside(inner, 1), delivery_receipt, delivery_tip, options));
@@ -145,7 +146,7 @@ std::vector<Control> controls() {
     add_choices(all);
     add_buttons(all);
     add_options(all);
-    all.push_back(hidden(designed(Kind::image, u"imgLogo", {left, logo_top, whole, logo_height})));
+    all.push_back(hidden(designed(ControlKind::image, u"imgLogo", {left, logo_top, whole, logo_height})));
     all.push_back(text_box(u"txtHeader", {left, window_margin, right - left, tips_height}, tips_tip, {}));
     all.back().locked = all.back().several_lines = true;
     return all;

@@ -64,14 +64,14 @@ void replace(TextView source, Text& target, const StringTable& table) {
 void load_parts(Control& control, const StringTable& table) {
     for (Part& part : control.parts) {
         switch (control.kind) {
-        case Kind::tab_strip:
+        case ControlKind::tab_strip:
             replace(part.tag, part.caption, table);
             replace(part.tool_tip, part.tool_tip, table);
             break;
-        case Kind::toolbar:
+        case ControlKind::toolbar:
             replace(part.tag, part.tool_tip, table);
             break;
-        case Kind::list_view:
+        case ControlKind::list_view:
             replace(part.tag, part.text, table);
             break;
         default:
@@ -82,12 +82,12 @@ void load_parts(Control& control, const StringTable& table) {
 
 void load_control(Control& control, const StringTable& table) {
     switch (control.kind) {
-    case Kind::menu:
+    case ControlKind::menu:
         replace(control.caption, control.caption, table);
         return;
-    case Kind::tab_strip:
-    case Kind::toolbar:
-    case Kind::list_view:
+    case ControlKind::tab_strip:
+    case ControlKind::toolbar:
+    case ControlKind::list_view:
         load_parts(control, table);
         return;
     default:

@@ -21,14 +21,14 @@ void Control::visit(TextView address) {
     ++visits;
 }
 
-bool has_caption(Kind kind) {
+bool has_caption(ControlKind kind) {
     switch (kind) {
-    case Kind::form:
-    case Kind::command_button:
-    case Kind::check_box:
-    case Kind::label:
-    case Kind::frame:
-    case Kind::menu:
+    case ControlKind::form:
+    case ControlKind::command_button:
+    case ControlKind::check_box:
+    case ControlKind::label:
+    case ControlKind::frame:
+    case ControlKind::menu:
         return true;
     default:
         return false;
@@ -36,7 +36,7 @@ bool has_caption(Kind kind) {
 }
 
 Text readable_caption(const Control& control) {
-    if (control.kind == Kind::form) return control.caption;
+    if (control.kind == ControlKind::form) return control.caption;
     Text read;
     bool marked = false;
     for (const char16_t unit : control.caption) {

@@ -6,7 +6,7 @@
 
 namespace ornavel::forms {
 
-enum class Kind {
+enum class ControlKind {
     form,
     command_button,
     check_box,
@@ -27,9 +27,9 @@ enum class Icon { none, information, question, warning };
 
 /// Where something stands, in twips. A control counts from the inner corner of its form (or of its frame), a
 /// form from the corner of the screen, title bar and borders included.
-struct Place {
+struct Bounds {
     int left = 0, top = 0, width = 0, height = 0;
-    bool operator==(const Place&) const = default;
+    bool operator==(const Bounds&) const = default;
 };
 
 struct Size {
@@ -45,9 +45,9 @@ struct Part {
 
 /// What a user sees of a form's control. Code may change any member; that fires no handler.
 struct Control {
-    Kind kind = Kind::label;
+    ControlKind kind = ControlKind::label;
     Text name{};
-    Place place{};
+    Bounds place{};
     Text tag{};
     Text caption{};
     Text tool_tip{};
@@ -80,7 +80,7 @@ struct Control {
 };
 
 /// Controls of the other kinds have no caption.
-bool has_caption(Kind kind);
+bool has_caption(ControlKind kind);
 
 /// The caption as a reader sees it. In that of a control a "&" marks the access key, and two stand for one;
 /// in that of a form it is a sign like any other.

@@ -17,27 +17,27 @@ void run(const Form::Handler& handler) {
 
 Form::Form(Control own, std::vector<Control> controls)
     : properties(std::move(own)), controls_(std::move(controls)) {
-    properties.kind = Kind::form;
+    properties.kind = ControlKind::form;
 }
 
 Size Form::frame() const { return frame_.value_or(sizable ? usual_sizable_frame : usual_frame); }
 
-Size Form::room_of(const Place& place) const {
+Size Form::room_of(const Bounds& place) const {
     return {place.width - frame().width, place.height - frame().height};
 }
 
-Place Form::large_enough(Place place) const {
+Bounds Form::large_enough(Bounds place) const {
     place.width = std::max(place.width, least_size().width);
     place.height = std::max(place.height, least_size().height);
     return place;
 }
 
-void Form::take_place(const Place& place) {
+void Form::take_place(const Bounds& place) {
     shown_room_.reset();
     properties.place = large_enough(place);
     run(on_resize);
     // Arranging its controls may have shown the form that it needs more room than before.
-    const Place larger = large_enough(properties.place);
+    const Bounds larger = large_enough(properties.place);
     if (larger == properties.place) return;
     properties.place = larger;
     run(on_resize);

@@ -25,12 +25,12 @@ public:
     Form& operator=(const Form&) = delete;
 
     Control properties;
-    bool topmost = false;            ///< stays above all other windows
-    bool sizable = false;            ///< the user may resize it by its frame
-    bool centred = true;             ///< appears in the middle of the screen rather than at its place
-    bool keeps_size = false;         ///< its outer size stays, however thick the system's frame is
-    Place screen{0, 0, 12000, 9000}; ///< the main screen, once the form has appeared on one
-    Size least_room;                 ///< the user can't make the room for the controls smaller
+    bool topmost = false;             ///< stays above all other windows
+    bool sizable = false;             ///< the user may resize it by its frame
+    bool centred = true;              ///< appears in the middle of the screen rather than at its place
+    bool keeps_size = false;          ///< its outer size stays, however thick the system's frame is
+    Bounds screen{0, 0, 12000, 9000}; ///< the main screen, once the form has appeared on one
+    Size least_room;                  ///< the user can't make the room for the controls smaller
 
     /// The room for the controls, within title bar and borders, in twips.
     Size room() const { return shown_room_.value_or(room_of(properties.place)); }
@@ -39,7 +39,7 @@ public:
     /// What the form's place is at least as large as.
     Size least_size() const { return {least_room.width + frame().width, least_room.height + frame().height}; }
     /// Stands at the place, or at one that is large enough for the least room, and runs on_resize.
-    void take_place(const Place& place);
+    void take_place(const Bounds& place);
     /// Title bar and borders together, as the system has them here. A form that the user can't size keeps its
     /// room, unless it keeps its size; any other keeps its place.
     void take_frame(Size frame);
@@ -68,8 +68,8 @@ public:
 
 private:
     Size frame() const;
-    Size room_of(const Place& place) const;
-    Place large_enough(Place place) const;
+    Size room_of(const Bounds& place) const;
+    Bounds large_enough(Bounds place) const;
 
     std::optional<Size> frame_, shown_room_;
     std::vector<Control> controls_;

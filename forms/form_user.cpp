@@ -15,7 +15,7 @@ Control& FormUser::reach(TextView name) {
     return *control;
 }
 
-Control& FormUser::reach(TextView name, Kind kind) {
+Control& FormUser::reach(TextView name, ControlKind kind) {
     Control& control = reach(name);
     if (control.kind != kind) throw UnusableStep(control.name + u" is a control of another kind");
     return control;
@@ -23,7 +23,7 @@ Control& FormUser::reach(TextView name, Kind kind) {
 
 void FormUser::click(TextView name) {
     Control& control = reach(name);
-    if (control.kind == Kind::check_box) control.ticked = !control.ticked;
+    if (control.kind == ControlKind::check_box) control.ticked = !control.ticked;
     form_.fire(name, Event::click);
 }
 
@@ -33,26 +33,26 @@ void FormUser::double_click(TextView name) {
 }
 
 void FormUser::drop_down(TextView name) {
-    reach(name, Kind::combo_box);
+    reach(name, ControlKind::combo_box);
     form_.fire(name, Event::drop_down);
 }
 
 void FormUser::set_text(TextView name, TextView text) {
     Control& control = reach(name);
-    if (control.kind == Kind::combo_box) {
+    if (control.kind == ControlKind::combo_box) {
         // Lists that are filled only when the user opens them must be full before the entry is looked for.
         drop_down(name);
         control.choose(text);
         form_.fire(name, control.index < 0 ? Event::change : Event::click);
         return;
     }
-    if (reach(name, Kind::text_box).locked) throw UnusableStep(control.name + u" can't be changed");
+    if (reach(name, ControlKind::text_box).locked) throw UnusableStep(control.name + u" can't be changed");
     control.text = text;
     form_.fire(name, Event::change);
 }
 
 void FormUser::select(TextView name, int index) {
-    Control& control = reach(name, Kind::combo_box);
+    Control& control = reach(name, ControlKind::combo_box);
     drop_down(name);
     if (index < 0 || static_cast<std::size_t>(index) >= control.items.size())
         throw UnusableStep(control.name + u" has no entry " + to_text(index));
@@ -61,14 +61,14 @@ void FormUser::select(TextView name, int index) {
 }
 
 void FormUser::tick(TextView name, bool ticked) {
-    if (reach(name, Kind::check_box).ticked == ticked)
+    if (reach(name, ControlKind::check_box).ticked == ticked)
         throw UnusableStep(Text(name) + u" is " + (ticked ? u"ticked" : u"not ticked") + u" already");
     click(name);
 }
 
 void FormUser::resize(int width, int height) {
     require_open();
-    const Place& place = form_.properties.place;
+    const Bounds& place = form_.properties.place;
     form_.take_place({place.left, place.top, width, height});
 }
 

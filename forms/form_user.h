@@ -36,7 +36,7 @@ public:
 
 private:
     Control& reach(TextView control);
-    Control& reach(TextView control, Kind kind);
+    Control& reach(TextView control, ControlKind kind);
     void require_open() const;
 
     Form& form_;

@@ -106,7 +106,7 @@ void frmBrowser::Form_Resize() {
 }
 
 void frmBrowser::Form_Unload() {
-    const Place& window = form_.properties.place;
+    const Bounds& window = form_.properties.place;
     save(needs_.settings, user::BrowserTop, to_text(window.top));
     save(needs_.settings, user::BrowserLeft, to_text(window.left));
     save(needs_.settings, user::BrowserHeight, to_text(window.height));

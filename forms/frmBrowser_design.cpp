@@ -36,25 +36,25 @@ constexpr Colour all_colours[] = {
     {u"Silver", u"#EEEEEE"},
 };
 
-Control designed(Kind kind, TextView name, int width, int height, TextView caption = {}) {
+Control designed(ControlKind kind, TextView name, int width, int height, TextView caption = {}) {
     return {.kind = kind, .name = Text(name), .place = {0, 0, width, height}, .caption = Text(caption)};
 }
 
 Control button(TextView name, int width, TextView caption, TextView tool_tip = {}) {
-    Control control = designed(Kind::command_button, name, width, button_size.height, caption);
+    Control control = designed(ControlKind::command_button, name, width, button_size.height, caption);
     control.tool_tip = tool_tip;
     return control;
 }
 
 Control label(TextView name, int width, TextView caption) {
-    return designed(Kind::label, name, width, label_height, caption);
+    return designed(ControlKind::label, name, width, label_height, caption);
 }
 
 Control check_box(TextView name, int width, TextView caption) {
-    return designed(Kind::check_box, name, width, check_height, caption);
+    return designed(ControlKind::check_box, name, width, check_height, caption);
 }
 
-Control list(TextView name) { return designed(Kind::combo_box, name, 2100, box_height); }
+Control list(TextView name) { return designed(ControlKind::combo_box, name, 2100, box_height); }
 
 Control hidden(Control control) {
     control.visible = false;
@@ -94,10 +94,10 @@ std::vector<Control> controls() {
         hidden(list(u"cboBplates")),
         hidden(list(u"cboListBplates")),
         hidden(label(u"lblAttachments", 1080, u"Attachments")),
-        hidden(designed(Kind::text_box, u"txtAttachments", 2400, box_height)),
+        hidden(designed(ControlKind::text_box, u"txtAttachments", 2400, box_height)),
         label(u"lblPastedImages", 7200,
               u"Note: pasted images will not appear in this preview, but will be seen in the sent version."),
-        designed(Kind::web_browser, u"brwWebBrowser", 0, 0),
+        designed(ControlKind::web_browser, u"brwWebBrowser", 0, 0),
     };
 }
 

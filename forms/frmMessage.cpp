@@ -66,7 +66,7 @@ constexpr int answer_width = 2550;
 constexpr Size room{right + window_margin, button_top + button_size.height + window_margin};
 
 Control button(TextView name, int left, int width) {
-    return {.kind = Kind::command_button,
+    return {.kind = ControlKind::command_button,
             .name = Text(name),
             .place = {left, button_top, width, button_size.height}};
 }
@@ -79,11 +79,11 @@ std::vector<Control> designed_controls() {
     agree.tag = to_text(ok);
     agree.is_default = agree.is_cancel = no.is_cancel = true;
     return {
-        {.kind = Kind::image,
+        {.kind = ControlKind::image,
          .name = Text(imgIcon),
          .place = {window_margin, window_margin, icon_size, icon_size},
          .visible = false},
-        {.kind = Kind::label,
+        {.kind = ControlKind::label,
          .name = Text(lblMessage),
          .place = {message_left, window_margin, message.width, message.height}},
         std::move(yes),

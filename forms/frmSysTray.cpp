@@ -60,7 +60,7 @@ constexpr Entry last_entries[] = {
 };
 
 Control menu(TextView name, TextView caption) {
-    return {.kind = Kind::menu, .name = Text(name), .caption = Text(caption)};
+    return {.kind = ControlKind::menu, .name = Text(name), .caption = Text(caption)};
 }
 
 std::vector<Control> designed_controls() {

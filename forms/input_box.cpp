@@ -12,7 +12,7 @@ constexpr int right = window_margin + width;
 constexpr Size room{right + window_margin, button_top + button_size.height + window_margin};
 
 Control button(TextView name, TextView caption, int left) {
-    return {.kind = Kind::command_button,
+    return {.kind = ControlKind::command_button,
             .name = Text(name),
             .place = {left, button_top, button_size.width, button_size.height},
             .caption = Text(caption)};
@@ -23,11 +23,11 @@ std::vector<Control> designed_controls(TextView prompt, TextView prefilled) {
     Control cancel = button(u"cmdCancel", u"Cancel", right - button_size.width);
     ok.is_default = cancel.is_cancel = true;
     return {
-        {.kind = Kind::label,
+        {.kind = ControlKind::label,
          .name = Text(input_box_prompt),
          .place = {window_margin, window_margin, width, label_height},
          .caption = with_access_key(prompt, prompt.empty() ? u'\0' : prompt.front())},
-        {.kind = Kind::text_box,
+        {.kind = ControlKind::text_box,
          .name = Text(input_box_answer),
          .place = {window_margin, answer_top, width, box_height},
          .text = Text(prefilled)},

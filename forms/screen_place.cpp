@@ -13,17 +13,17 @@ struct Span {
     Wide begin, end;
 };
 
-Span across(const Place& place) { return {place.left, Wide{place.left} + place.width}; }
-Span down(const Place& place) { return {place.top, Wide{place.top} + place.height}; }
+Span across(const Bounds& place) { return {place.left, Wide{place.left} + place.width}; }
+Span down(const Bounds& place) { return {place.top, Wide{place.top} + place.height}; }
 
 bool holds(const Span& outer, Wide point) { return outer.begin <= point && point < outer.end; }
 
-bool is_on_a_screen(Wide x, Wide y, std::span<const Place> screens) {
+bool is_on_a_screen(Wide x, Wide y, std::span<const Bounds> screens) {
     return std::ranges::any_of(
-        screens, [&](const Place& screen) { return holds(across(screen), x) && holds(down(screen), y); });
+        screens, [&](const Bounds& screen) { return holds(across(screen), x) && holds(down(screen), y); });
 }
 
-bool is_whole(const Place& window, std::span<const Place> screens) {
+bool is_whole(const Bounds& window, std::span<const Bounds> screens) {
     const Span x = across(window), y = down(window);
     for (const Wide corner_x : {x.begin, x.end - 1})
         for (const Wide corner_y : {y.begin, y.end - 1})
@@ -38,7 +38,7 @@ Wide shared(const Span& one, const Span& other) {
 
 /// The screen that shows most of the window is nearest; of those that show none of it, the one with the
 /// shortest way.
-Wide distance(const Place& window, const Place& screen) {
+Wide distance(const Bounds& window, const Bounds& screen) {
     const Wide x = shared(across(window), across(screen)), y = shared(down(window), down(screen));
     if (x > 0 && y > 0) return -x * y;
     return std::max(-x, Wide{0}) + std::max(-y, Wide{0});
@@ -51,7 +51,7 @@ int inside(int place, int size, int screen_begin, int screen_size) {
 
 } // namespace
 
-Place centred(Place window, const Place& screen) {
+Bounds centred(Bounds window, const Bounds& screen) {
     constexpr int twips_per_pixel = 15;
     const auto middle = [](int room) { return room / 2 / twips_per_pixel * twips_per_pixel; };
     window.left = screen.left + middle(screen.width - window.width);
@@ -59,11 +59,11 @@ Place centred(Place window, const Place& screen) {
     return window;
 }
 
-Place reachable(const Place& window, std::span<const Place> screens) {
+Bounds reachable(const Bounds& window, std::span<const Bounds> screens) {
     if (screens.empty() || is_whole(window, screens)) return window;
-    const Place& screen =
-        *std::ranges::min_element(screens, {}, [&](const Place& each) { return distance(window, each); });
-    Place within = window;
+    const Bounds& screen =
+        *std::ranges::min_element(screens, {}, [&](const Bounds& each) { return distance(window, each); });
+    Bounds within = window;
     within.width = std::min(window.width, screen.width);
     within.height = std::min(window.height, screen.height);
     within.left = inside(window.left, within.width, screen.left, screen.width);
@@ -71,12 +71,12 @@ Place reachable(const Place& window, std::span<const Place> screens) {
     return within;
 }
 
-void place_on_screen(Form& form, const Place& main_screen, std::span<const Place> screens) {
+void place_on_screen(Form& form, const Bounds& main_screen, std::span<const Bounds> screens) {
     form.screen = main_screen;
-    Place& place = form.properties.place;
+    Bounds& place = form.properties.place;
     if (form.centred)
         place = centred(place, main_screen);
-    else if (const Place within = reachable(place, screens); within != place)
+    else if (const Bounds within = reachable(place, screens); within != place)
         form.take_place(within);
 }
 

@@ -6,7 +6,7 @@ namespace ornavel::rehearsal {
 namespace {
 
 using forms::Control;
-using forms::Kind;
+using forms::ControlKind;
 
 constexpr const char* kind_names[] = {"Form",     "CommandButton", "CheckBox", "ComboBox", "TextBox",
                                       "Label",    "Frame",         "Image",    "Menu",     "WebBrowser",
@@ -24,12 +24,12 @@ Json control_record(const Control& control) {
     json["tool tip"] = to_json(control.tool_tip);
     json["visible"] = control.visible;
     json["enabled"] = control.enabled;
-    if (control.kind == Kind::check_box) json["ticked"] = control.ticked;
-    if (control.kind == Kind::text_box || control.kind == Kind::combo_box)
+    if (control.kind == ControlKind::check_box) json["ticked"] = control.ticked;
+    if (control.kind == ControlKind::text_box || control.kind == ControlKind::combo_box)
         json["text"] = to_json(control.text);
-    if (control.kind == Kind::combo_box) json["items"] = items_of(control);
-    if (control.kind == Kind::combo_box) json["index"] = control.index;
-    if (control.kind == Kind::web_browser) json["page"] = to_json(control.page);
+    if (control.kind == ControlKind::combo_box) json["items"] = items_of(control);
+    if (control.kind == ControlKind::combo_box) json["index"] = control.index;
+    if (control.kind == ControlKind::web_browser) json["page"] = to_json(control.page);
     return json;
 }
 

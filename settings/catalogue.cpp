@@ -22,7 +22,7 @@ std::span<const Key> catalogue() { return every_key; }
 
 bool is_path(TextView section, TextView name) {
     return std::ranges::any_of(every_key, [&](const Key& key) {
-        return key.kind == Kind::path && same_name(key.section, section) && same_name(key.name, name);
+        return key.kind == SettingKind::path && same_name(key.section, section) && same_name(key.name, name);
     });
 }
 

@@ -10,8 +10,8 @@
 namespace ornavel::win32 {
 namespace {
 
-/// The places of an event's arguments; the last one comes first.
-enum Place : UINT {
+/// The indices of an event's arguments; the last one comes first.
+enum ArgumentIndex : UINT {
     address_of_navigation = 5,
     cancel_of_navigation = 0,
     arguments_of_navigation = 7,

@@ -8,7 +8,7 @@ namespace ornavel::win32 {
 namespace {
 
 using forms::Control;
-using forms::Kind;
+using forms::ControlKind;
 
 struct Look {
     const wchar_t* window_class;
@@ -29,21 +29,21 @@ DWORD picture_style(const Control& image) {
 /// What a control looks like; one without a window has no class.
 Look look_of(const Control& control) {
     switch (control.kind) {
-    case Kind::command_button:
+    case ControlKind::command_button:
         return {L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON, 0};
-    case Kind::check_box:
+    case ControlKind::check_box:
         return {L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX | BS_MULTILINE, 0};
-    case Kind::combo_box:
+    case ControlKind::combo_box:
         return {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL, 0};
-    case Kind::text_box:
+    case ControlKind::text_box:
         return text_box_look(control);
-    case Kind::label:
+    case ControlKind::label:
         return {L"STATIC", SS_LEFT | SS_NOTIFY, 0};
-    case Kind::frame:
+    case ControlKind::frame:
         return {L"BUTTON", BS_GROUPBOX, 0};
-    case Kind::image:
+    case ControlKind::image:
         return {L"STATIC", picture_style(control) | SS_CENTERIMAGE | SS_NOTIFY, 0};
-    case Kind::web_browser:
+    case ControlKind::web_browser:
         return {L"STATIC", SS_OWNERDRAW | WS_CLIPCHILDREN, WS_EX_CLIENTEDGE};
     default:
         return {};
@@ -51,8 +51,8 @@ Look look_of(const Control& control) {
 }
 
 /// Within the form, also for a control that stands in a frame.
-forms::Place place_in_form(const Control& control, const Control* frame) {
-    forms::Place place = control.place;
+forms::Bounds place_in_form(const Control& control, const Control* frame) {
+    forms::Bounds place = control.place;
     if (frame) {
         place.left += frame->place.left;
         place.top += frame->place.top;
@@ -80,7 +80,7 @@ ControlWindow::ControlWindow(const Control& control, HWND parent, int id, HFONT 
     give_name(window_, control.name);
     if (control.icon != forms::Icon::none)
         send(STM_SETICON, reinterpret_cast<WPARAM>(LoadIconW(nullptr, system_icon(control.icon))));
-    if (control.kind == Kind::web_browser) make_browser(control.follows_links);
+    if (control.kind == ControlKind::web_browser) make_browser(control.follows_links);
 }
 
 /// A page that can't be shown must not keep the form from the user.
@@ -102,10 +102,11 @@ LRESULT ControlWindow::send(UINT message, WPARAM word, LPARAM pointer) const {
 void ControlWindow::show(const Control& control, const Control* frame, const Scale& scale, ToolTips& tips) {
     if (!window_) return;
     show_text(control);
-    if (control.kind == Kind::web_browser) show_page(control);
-    if (control.kind == Kind::check_box) send(BM_SETCHECK, control.ticked ? BST_CHECKED : BST_UNCHECKED);
+    if (control.kind == ControlKind::web_browser) show_page(control);
+    if (control.kind == ControlKind::check_box)
+        send(BM_SETCHECK, control.ticked ? BST_CHECKED : BST_UNCHECKED);
     const bool moved = show_place(place_in_form(control, frame), scale);
-    if (control.kind == Kind::image && control.picture != shown_.picture) show_picture(control);
+    if (control.kind == ControlKind::image && control.picture != shown_.picture) show_picture(control);
     const bool frame_is_hidden = frame && !frame->visible;
     if (control.visible && frame_is_hidden)
         SetPropW(window_, in_hidden_frame, window_);
@@ -121,15 +122,15 @@ void ControlWindow::show(const Control& control, const Control* frame, const Sca
 }
 
 void ControlWindow::show_text(const Control& control) {
-    if (control.kind == Kind::combo_box) {
+    if (control.kind == ControlKind::combo_box) {
         show_list(control);
         return;
     }
     // The window's own text is asked, not the one last shown: what a user has just typed stays untouched.
-    const Text& wanted = control.kind == Kind::text_box      ? control.text
-                         : control.kind == Kind::web_browser ? control.page
-                                                             : control.caption;
-    if (control.kind != Kind::image && text() != wanted) SetWindowTextW(window_, wide(wanted).c_str());
+    const Text& wanted = control.kind == ControlKind::text_box      ? control.text
+                         : control.kind == ControlKind::web_browser ? control.page
+                                                                    : control.caption;
+    if (control.kind != ControlKind::image && text() != wanted) SetWindowTextW(window_, wide(wanted).c_str());
 }
 
 void ControlWindow::show_list(const Control& control) {
@@ -143,13 +144,13 @@ void ControlWindow::show_list(const Control& control) {
     if (control.index < 0) SetWindowTextW(window_, wide(control.text).c_str());
 }
 
-bool ControlWindow::show_place(const forms::Place& place, const Scale& scale) {
+bool ControlWindow::show_place(const forms::Bounds& place, const Scale& scale) {
     if (place == place_) return false;
     constexpr int entries_of_an_open_list = 8;
     place_ = place;
     RECT pixels = scale.pixels(place);
     // The height of a combo box is that of its open list; closed it is as high as its font wants.
-    if (shown_.kind == Kind::combo_box)
+    if (shown_.kind == ControlKind::combo_box)
         pixels.bottom += entries_of_an_open_list * static_cast<LONG>(send(CB_GETITEMHEIGHT));
     MoveWindow(window_, pixels.left, pixels.top, pixels.right - pixels.left, pixels.bottom - pixels.top,
                TRUE);

@@ -41,7 +41,7 @@ private:
     void show_text(const forms::Control& control);
     void show_list(const forms::Control& control);
     /// Whether it stood elsewhere before.
-    bool show_place(const forms::Place& place, const Scale& scale);
+    bool show_place(const forms::Bounds& place, const Scale& scale);
     void show_state(bool visible, bool enabled);
     LRESULT send(UINT message, WPARAM word = 0, LPARAM pointer = 0) const;
 
@@ -54,7 +54,7 @@ private:
     std::optional<Owned<&DeleteObject>> picture_;
     forms::Control shown_; ///< the control as the window shows it
     Text tip_for_place_;   ///< what the form's window shows there
-    forms::Place place_;   ///< within the form, also for a control that stands in a frame
+    forms::Bounds place_;  ///< within the form, also for a control that stands in a frame
 };
 
 } // namespace ornavel::win32

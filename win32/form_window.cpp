@@ -74,7 +74,7 @@ void FormWindow::find_place() {
     RECT frame{}, desk;
     AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
                        static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
-    const forms::Place borders = scale_.twips(frame);
+    const forms::Bounds borders = scale_.twips(frame);
     form_.take_frame({borders.width, borders.height});
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &desk, 0);
     forms::place_on_screen(form_, scale_.twips(desk), screens(scale_));
@@ -137,7 +137,7 @@ void FormWindow::fill_room() {
     const forms::Size room = form_.room();
     const RECT arranged = scale_.pixels({0, 0, room.width, room.height});
     if (EqualRect(&inside, &arranged)) return;
-    const forms::Place shown = scale_.twips(inside);
+    const forms::Bounds shown = scale_.twips(inside);
     form_.take_room({shown.width, shown.height});
 }
 

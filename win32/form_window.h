@@ -57,7 +57,7 @@ private:
     std::optional<SizeGrip> grip_;
     std::vector<ControlWindow> controls_; ///< in the order of the form's own
     Text caption_;                        ///< this and the next two: as the window shows them
-    forms::Place place_;
+    forms::Bounds place_;
     bool topmost_ = false;
     int default_id_ = 0;     ///< of the button that Enter presses
     bool refreshing_ = true; ///< what the windows tell now comes from the code, not from the user

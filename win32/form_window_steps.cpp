@@ -9,8 +9,8 @@
 namespace ornavel::win32 {
 
 using forms::Control;
+using forms::ControlKind;
 using forms::FormUser;
-using forms::Kind;
 
 /// The keys and clicks that dialogs would keep to themselves, or give to the wrong control.
 bool FormWindow::translate(const MSG& message) {
@@ -18,7 +18,7 @@ bool FormWindow::translate(const MSG& message) {
     for (const ControlWindow& control : controls_) {
         if (control.browser() && is_key && control.browser()->has_keyboard())
             return translate_in_page(control, message);
-        if (control.window() == message.hwnd && form_[control.name()].kind == Kind::text_box)
+        if (control.window() == message.hwnd && form_[control.name()].kind == ControlKind::text_box)
             return translate_in_text_box(control, message);
     }
     return false;
@@ -103,22 +103,24 @@ void FormWindow::on_command(int id, int notification) {
 
 void FormWindow::on_notification(const ControlWindow& control, int notification) {
     const Text& name = control.name();
-    const Kind kind = form_[name].kind;
+    const ControlKind kind = form_[name].kind;
     // Other notifications change nothing that the form knows, and some come before the change they tell of.
-    const auto told = [&](Kind sender, int wanted) { return kind == sender && notification == wanted; };
-    if (told(Kind::command_button, BN_CLICKED))
+    const auto told = [&](ControlKind sender, int wanted) {
+        return kind == sender && notification == wanted;
+    };
+    if (told(ControlKind::command_button, BN_CLICKED))
         step([&](FormUser user) { user.click(name); });
-    else if (told(Kind::check_box, BN_CLICKED))
+    else if (told(ControlKind::check_box, BN_CLICKED))
         step([&](FormUser user) { user.tick(name, control.is_ticked()); });
-    else if (told(Kind::text_box, EN_CHANGE) || told(Kind::combo_box, CBN_EDITCHANGE))
+    else if (told(ControlKind::text_box, EN_CHANGE) || told(ControlKind::combo_box, CBN_EDITCHANGE))
         step([&](FormUser user) { user.set_text(name, control.text()); });
-    else if (told(Kind::combo_box, CBN_DROPDOWN))
+    else if (told(ControlKind::combo_box, CBN_DROPDOWN))
         step([&](FormUser user) { user.drop_down(name); });
-    else if (told(Kind::combo_box, CBN_SELCHANGE))
+    else if (told(ControlKind::combo_box, CBN_SELCHANGE))
         step([&](FormUser user) { user.select(name, control.chosen_entry()); });
-    else if (told(Kind::label, STN_CLICKED) || told(Kind::image, STN_CLICKED))
+    else if (told(ControlKind::label, STN_CLICKED) || told(ControlKind::image, STN_CLICKED))
         step([&](FormUser user) { user.click(name); });
-    else if (told(Kind::label, STN_DBLCLK) || told(Kind::image, STN_DBLCLK))
+    else if (told(ControlKind::label, STN_DBLCLK) || told(ControlKind::image, STN_DBLCLK))
         step([&](FormUser user) { user.double_click(name); });
 }
 
@@ -145,7 +147,7 @@ void FormWindow::on_moved() {
         attempt([&] { refresh(); });
         return;
     }
-    const forms::Place before = std::exchange(place_, scale_.twips(frame));
+    const forms::Bounds before = std::exchange(place_, scale_.twips(frame));
     step([&](FormUser user) {
         user.move(place_.left, place_.top);
         if (place_.width != before.width || place_.height != before.height)

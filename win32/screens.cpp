@@ -7,7 +7,7 @@ namespace {
 
 struct Search {
     const Scale& scale;
-    std::vector<forms::Place> found;
+    std::vector<forms::Bounds> found;
 };
 
 BOOL CALLBACK note_screen(HMONITOR monitor, HDC, RECT*, LPARAM pointer) {
@@ -21,7 +21,7 @@ BOOL CALLBACK note_screen(HMONITOR monitor, HDC, RECT*, LPARAM pointer) {
 
 } // namespace
 
-std::vector<forms::Place> screens(const Scale& scale) {
+std::vector<forms::Bounds> screens(const Scale& scale) {
     Search search{scale, {}};
     EnumDisplayMonitors(nullptr, nullptr, note_screen, reinterpret_cast<LPARAM>(&search));
     return search.found;

@@ -7,6 +7,6 @@
 namespace ornavel::win32 {
 
 /// The screens of the desktop without their taskbars, in twips.
-std::vector<forms::Place> screens(const Scale& scale);
+std::vector<forms::Bounds> screens(const Scale& scale);
 
 } // namespace ornavel::win32

@@ -12,8 +12,8 @@ public:
     /// The scale of the screen.
     static Scale of_screen();
 
-    RECT pixels(const forms::Place& place) const;
-    forms::Place twips(const RECT& pixels) const;
+    RECT pixels(const forms::Bounds& place) const;
+    forms::Bounds twips(const RECT& pixels) const;
     /// The height of letters of this many points, as a font wants it.
     int font_height(int points) const { return -MulDiv(points, y_, 72); }
 

@@ -9,12 +9,12 @@
 namespace ornavel::win32 {
 namespace {
 
-enum class Kind { missing, file, folder };
+enum class PathKind { missing, file, folder };
 
-Kind kind_of(TextView path) {
+PathKind kind_of(TextView path) {
     const DWORD attributes = GetFileAttributesW(wide(path).c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES) return Kind::missing;
-    return attributes & FILE_ATTRIBUTE_DIRECTORY ? Kind::folder : Kind::file;
+    if (attributes == INVALID_FILE_ATTRIBUTES) return PathKind::missing;
+    return attributes & FILE_ATTRIBUTE_DIRECTORY ? PathKind::folder : PathKind::file;
 }
 
 Handle open(TextView path, DWORD access, DWORD disposition) {
@@ -36,7 +36,7 @@ void write_all(const Handle& file, TextView path, std::string_view bytes) {
 Text with_backslash(TextView folder) { return Text(folder) + (folder.ends_with(u'\\') ? u"" : u"\\"); }
 
 /// The entries of a folder that are of this kind, in order.
-std::vector<Text> names_in(TextView folder, Kind wanted) {
+std::vector<Text> names_in(TextView folder, PathKind wanted) {
     std::vector<Text> names;
     // Without this an empty name would list the root of the current drive.
     if (folder.empty()) return names;
@@ -46,7 +46,7 @@ std::vector<Text> names_in(TextView folder, Kind wanted) {
     do {
         const Text name = text_of(found.cFileName);
         const bool is_folder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
-        if (is_folder == (wanted == Kind::folder) && name != u"." && name != u"..") names.push_back(name);
+        if (is_folder == (wanted == PathKind::folder) && name != u"." && name != u"..") names.push_back(name);
     } while (FindNextFileW(search.get(), &found));
     std::ranges::sort(names, name_before);
     return names;
@@ -61,11 +61,13 @@ Text parent_of(TextView path) {
 
 } // namespace
 
-bool WindowsFiles::file_exists(TextView path) const { return kind_of(path) == Kind::file; }
-bool WindowsFiles::folder_exists(TextView path) const { return kind_of(path) == Kind::folder; }
+bool WindowsFiles::file_exists(TextView path) const { return kind_of(path) == PathKind::file; }
+bool WindowsFiles::folder_exists(TextView path) const { return kind_of(path) == PathKind::folder; }
 
-std::vector<Text> WindowsFiles::list(TextView folder) const { return names_in(folder, Kind::file); }
-std::vector<Text> WindowsFiles::list_folders(TextView folder) const { return names_in(folder, Kind::folder); }
+std::vector<Text> WindowsFiles::list(TextView folder) const { return names_in(folder, PathKind::file); }
+std::vector<Text> WindowsFiles::list_folders(TextView folder) const {
+    return names_in(folder, PathKind::folder);
+}
 
 std::string WindowsFiles::read(TextView path) const {
     const Handle file = open(path, GENERIC_READ, OPEN_EXISTING);

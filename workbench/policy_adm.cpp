@@ -24,7 +24,7 @@ std::string choice_part(const Policy& policy) {
 
 std::string text_part(const Policy& policy) {
     const Key& key = policy.setting.key;
-    const std::string kind = key.kind == Kind::path ? "EDITTEXT EXPANDABLETEXT" : "EDITTEXT";
+    const std::string kind = key.kind == SettingKind::path ? "EDITTEXT EXPANDABLETEXT" : "EDITTEXT";
     std::string lines =
         "      PART !!N_" + policy.id + " " + kind + "\r\n        VALUENAME " + in_quotes(key.name) + "\r\n";
     if (!key.default_value.empty()) lines += "        DEFAULT " + in_quotes(key.default_value) + "\r\n";
@@ -36,7 +36,7 @@ std::string policy_lines(const Policy& policy) {
     std::string lines = "    POLICY !!N_" + policy.id + "\r\n      KEYNAME " +
                         in_quotes(from_utf8(key_of(policy.setting))) + "\r\n      EXPLAIN !!E_" + policy.id +
                         "\r\n";
-    if (policy.setting.key.kind == Kind::switch_)
+    if (policy.setting.key.kind == SettingKind::switch_)
         lines += "      VALUENAME " + name + "\r\n      VALUEON \"True\"\r\n      VALUEOFF \"False\"\r\n";
     else
         lines += choices_of(policy.setting).empty() ? text_part(policy) : choice_part(policy);

@@ -53,8 +53,8 @@ std::string elements(const Policy& policy) {
     const std::string name = "id=\"" + policy.id + "\" valueName=\"" + xml(key.name) + "\"";
     const auto choices = choices_of(policy.setting);
     if (choices.empty())
-        return "      <elements><text " + name + (key.kind == Kind::path ? " expandable=\"true\"" : "") +
-               "/></elements>\n";
+        return "      <elements><text " + name +
+               (key.kind == SettingKind::path ? " expandable=\"true\"" : "") + "/></elements>\n";
     std::string lines = "      <elements><enum " + name + " required=\"true\">";
     for (std::size_t at = 0; at < choices.size(); ++at)
         lines += "<item displayName=\"$(string." + policy.id + "_" + std::to_string(at) + ")\"><value>" +
@@ -63,7 +63,7 @@ std::string elements(const Policy& policy) {
 }
 
 std::string definition(const Policy& policy) {
-    const bool is_switch = policy.setting.key.kind == Kind::switch_;
+    const bool is_switch = policy.setting.key.kind == SettingKind::switch_;
     std::string lines = "    <policy name=\"" + policy.id + "\" class=\"User\" displayName=\"$(string." +
                         policy.id + ")\" explainText=\"$(string." + policy.id + "_Help)\" key=\"" +
                         xml(from_utf8(key_of(policy.setting))) + "\"";
@@ -131,7 +131,7 @@ std::string adml_file(const std::vector<Policy>& policies) {
         "  <resources>\n" +
         strings(policies) + "    <presentationTable>\n";
     for (const Policy& policy : policies)
-        if (policy.setting.key.kind != Kind::switch_) lines += presentation(policy);
+        if (policy.setting.key.kind != SettingKind::switch_) lines += presentation(policy);
     return lines + "    </presentationTable>\n  </resources>\n</policyDefinitionResources>\n";
 }
 

@@ -44,7 +44,7 @@ std::vector<Policy> all_policies() {
 }
 
 std::vector<Text> choices_of(const Description& setting) {
-    if (setting.key.kind == Kind::switch_ || setting.allowed.empty()) return {};
+    if (setting.key.kind == SettingKind::switch_ || setting.allowed.empty()) return {};
     return split(setting.allowed, u"|");
 }
 

@@ -9,7 +9,7 @@ namespace ornavel::workbench {
 namespace {
 
 using settings::Description;
-using settings::Kind;
+using settings::SettingKind;
 
 constexpr const char* examples = "Examples:\n"
                                  "  ornavel settings --format markdown -o docs/settings.md\n"
@@ -26,13 +26,13 @@ constexpr const char* introduction = "# All settings\n\n"
                                      "when\n"
                                      "it is not set stands under \"default\".\n";
 
-const char* name_of(Kind kind) {
+const char* name_of(SettingKind kind) {
     constexpr const char* names[] = {"text", "switch", "tick", "number", "path"};
     return names[static_cast<std::size_t>(kind)];
 }
 
 std::string kind_of(const Description& description) {
-    const bool choice = description.key.kind == Kind::text && !description.allowed.empty();
+    const bool choice = description.key.kind == SettingKind::text && !description.allowed.empty();
     return choice ? "choice" : name_of(description.key.kind);
 }
 

@@ -14,7 +14,7 @@
 namespace ornavel::rehearsal {
 namespace {
 
-constexpr forms::Place screen{0, 0, 1280 * 15, 1024 * 15}; // that of the Wine binding
+constexpr forms::Bounds screen{0, 0, 1280 * 15, 1024 * 15}; // that of the Wine binding
 
 TextView file_name(TextView path) { return path.substr(path.find_last_of(u'\\') + 1); }
 

@@ -21,9 +21,10 @@ std::optional<std::size_t> MemoryTray::pop_up(std::span<const forms::MenuEntry> 
     const MachinesTurn turn;
     record_.menu.clear();
     for (const auto& entry : entries)
-        record_.menu.push_back(entry.caption.empty() ? u"-"
-                                                     : forms::readable_caption({.kind = forms::Kind::menu,
-                                                                                .caption = entry.caption}));
+        record_.menu.push_back(
+            entry.caption.empty()
+                ? u"-"
+                : forms::readable_caption({.kind = forms::ControlKind::menu, .caption = entry.caption}));
     return choice_.find(record_.menu);
 }
 

@@ -10,24 +10,24 @@ using Kind = Act::Kind;
 struct ActShape {
     const char* name;
     Kind kind;
-    void (*read)(Act&, const Place&); ///< null for an act that its name says whole
+    void (*read)(Act&, const JsonPlace&); ///< null for an act that its name says whole
 };
 
 /// Connecting without a mode is the start-up's.
-void read_start_up_mode(Act& act, const Place&) { act.number = 1; }
-void read_number(Act& act, const Place& at) { act.number = at.small_number(); }
-void read_index(Act& act, const Place& at) { act.number = at.small_number(0); }
-void read_text(Act& act, const Place& at) { act.text = at.text(); }
+void read_start_up_mode(Act& act, const JsonPlace&) { act.number = 1; }
+void read_number(Act& act, const JsonPlace& at) { act.number = at.small_number(); }
+void read_index(Act& act, const JsonPlace& at) { act.number = at.small_number(0); }
+void read_text(Act& act, const JsonPlace& at) { act.text = at.text(); }
 
-void read_tag(Act& act, const Place& at) {
+void read_tag(Act& act, const JsonPlace& at) {
     act.text = at.is_text() ? at.text() : to_text(static_cast<long long>(at.number()));
 }
 
-void read_tray(Act& act, const Place& at) {
+void read_tray(Act& act, const JsonPlace& at) {
     if (at.is_text()) return read_text(act, at);
     if (!at.is_object() || at.size() != 1) at.refuse("expected a caption or {\"entry\": …}");
     act.kind = Kind::tray_entry;
-    at.fields({{"entry", [&](const Place& key) { act.text = key.text(); }}});
+    at.fields({{"entry", [&](const JsonPlace& key) { act.text = key.text(); }}});
 }
 
 constexpr ActShape bare_acts[] = {
@@ -44,18 +44,18 @@ constexpr ActShape valued_acts[] = {
     {"click", Kind::click, read_tag},
     {"dress", Kind::dress, read_index},
     {"new explorer", Kind::new_explorer,
-     [](Act& act, const Place& at) { act.number = static_cast<int>(at.number(0, 1000)); }},
+     [](Act& act, const JsonPlace& at) { act.number = static_cast<int>(at.number(0, 1000)); }},
     {"close explorer", Kind::close_explorer, read_index},
     {"tray", Kind::tray, read_tray},
     {"tray message", Kind::tray_message, read_number},
     {"prompt", Kind::prompt, read_text},
     {"disconnect", Kind::disconnect, read_number},
-    {"set", Kind::set, [](Act& act, const Place& at) { act.settings = read_settings(at); }},
-    {"clock", Kind::clock, [](Act& act, const Place& at) { act.time = at.time(); }},
+    {"set", Kind::set, [](Act& act, const JsonPlace& at) { act.settings = read_settings(at); }},
+    {"clock", Kind::clock, [](Act& act, const JsonPlace& at) { act.time = at.time(); }},
 };
 
 template <std::size_t count>
-const ActShape& find_shape(const ActShape (&shapes)[count], const std::string& name, const Place& place) {
+const ActShape& find_shape(const ActShape (&shapes)[count], const std::string& name, const JsonPlace& place) {
     const auto shape = std::find_if(std::begin(shapes), std::end(shapes),
                                     [&](const ActShape& entry) { return entry.name == name; });
     if (shape == std::end(shapes)) place.refuse("unknown act \"" + name + "\"");
@@ -101,12 +101,12 @@ private:
 
 } // namespace
 
-Failing read_failing(const Place& place) {
+Failing read_failing(const JsonPlace& place) {
     Failing failing;
     int subjects = 0;
     place.must_be_object();
     for (const auto& [name, value] : place.json().items()) {
-        const Place at = place.member(name);
+        const JsonPlace at = place.member(name);
         const auto shape = std::find_if(std::begin(fail_shapes), std::end(fail_shapes),
                                         [&](const FailShape& entry) { return entry.name == name; });
         if (shape != std::end(fail_shapes)) {
@@ -127,7 +127,7 @@ Failing read_failing(const Place& place) {
     return failing;
 }
 
-Act read_act(const Place& place) {
+Act read_act(const JsonPlace& place) {
     Act act;
     act.given = place.json();
     act.path = place.path();
@@ -148,7 +148,7 @@ Act read_act(const Place& place) {
 void check_acts(const Scenario& scenario, const std::string& source) {
     OpenExplorers explorers(scenario.host.explorers);
     for (const Act& act : scenario.acts) {
-        const Place place(act.given, source, act.path);
+        const JsonPlace place(act.given, source, act.path);
         const bool of_an_item = act.kind == Kind::send || act.kind == Kind::dress;
         if (of_an_item && static_cast<std::size_t>(act.number) >= scenario.items.size())
             place.refuse("no such item");
@@ -159,16 +159,16 @@ void check_acts(const Scenario& scenario, const std::string& source) {
 }
 
 /// Under Wine drive C is the rehearsal's own; any other belongs to this machine.
-void check_addin_folder(const Place& scenario) {
+void check_addin_folder(const JsonPlace& scenario) {
     if (!scenario.json().contains("computer") || !scenario.json()["computer"].contains("addin folder"))
         return;
-    const Place folder = scenario.member("computer").member("addin folder");
+    const JsonPlace folder = scenario.member("computer").member("addin folder");
     if (!same_name(folder.text().substr(0, 3), u"C:\\"))
         folder.refuse("another drive than C works only with --binding native");
 }
 
-void check_native_only(const Place& scenario) {
-    const auto refuse = [](const Place& place) {
+void check_native_only(const JsonPlace& scenario) {
+    const auto refuse = [](const JsonPlace& place) {
         place.refuse("native only: works only with --binding native");
     };
     const Json& json = scenario.json();
@@ -178,10 +178,10 @@ void check_native_only(const Place& scenario) {
             if (name != "addin folder") refuse(scenario.member("computer").member(name));
     check_addin_folder(scenario);
     if (json.contains("fail"))
-        scenario.member("fail").each_element([&](const Place& entry) {
+        scenario.member("fail").each_element([&](const JsonPlace& entry) {
             if (!entry.json().contains("member")) refuse(entry);
         });
-    scenario.member("do").each_element([&](const Place& act) {
+    scenario.member("do").each_element([&](const JsonPlace& act) {
         if (act.is_object() && (act.json().contains("clock") || act.json().contains("prompt"))) refuse(act);
     });
 }

@@ -3,7 +3,7 @@
 namespace ornavel::rehearsal {
 namespace {
 
-RecipientEntry read_recipient(const Place& place) {
+RecipientEntry read_recipient(const JsonPlace& place) {
     RecipientEntry recipient;
     if (place.is_text()) {
         recipient.address = place.text();
@@ -11,56 +11,60 @@ RecipientEntry read_recipient(const Place& place) {
     }
     if (!place.is_object()) place.refuse("expected an address or an object");
     place.fields({
-        {"name", [&](const Place& at) { recipient.name = at.text(); }},
-        {"address", [&](const Place& at) { recipient.address = at.text(); }},
-        {"type", [&](const Place& at) { recipient.type = static_cast<int>(at.number(1, 3)); }},
+        {"name", [&](const JsonPlace& at) { recipient.name = at.text(); }},
+        {"address", [&](const JsonPlace& at) { recipient.address = at.text(); }},
+        {"type", [&](const JsonPlace& at) { recipient.type = static_cast<int>(at.number(1, 3)); }},
     });
     return recipient;
 }
 
-WordDocument read_word(const Place& place) {
+WordDocument read_word(const JsonPlace& place) {
     WordDocument word;
     place.fields({
-        {"Version", [&](const Place& at) { word.version = at.text(); }},
-        {"html", [&](const Place& at) { word.html = at.text(); }},
+        {"Version", [&](const JsonPlace& at) { word.version = at.text(); }},
+        {"html", [&](const JsonPlace& at) { word.html = at.text(); }},
     });
     return word;
 }
 
-Contact read_link(const Place& place) {
+Contact read_link(const JsonPlace& place) {
     Contact contact;
-    const auto read_folder = [&](const Place& folder) {
+    const auto read_folder = [&](const JsonPlace& folder) {
         folder.fields({
-            {"Name", [&](const Place& at) { contact.folder_name = at.text(); }},
-            {"EntryID", [&](const Place& at) { contact.folder_entry_id = at.text(); }},
+            {"Name", [&](const JsonPlace& at) { contact.folder_name = at.text(); }},
+            {"EntryID", [&](const JsonPlace& at) { contact.folder_entry_id = at.text(); }},
         });
     };
     place.fields({
-        {"FullName", [&](const Place& at) { contact.full_name = at.text(); }},
-        {"CompanyName", [&](const Place& at) { contact.company_name = at.text(); }},
-        {"EntryID", [&](const Place& at) { contact.entry_id = at.text(); }},
+        {"FullName", [&](const JsonPlace& at) { contact.full_name = at.text(); }},
+        {"CompanyName", [&](const JsonPlace& at) { contact.company_name = at.text(); }},
+        {"EntryID", [&](const JsonPlace& at) { contact.entry_id = at.text(); }},
         {"Folder", read_folder},
-        {"Body", [&](const Place& at) { contact.body = at.text(); }},
+        {"Body", [&](const JsonPlace& at) { contact.body = at.text(); }},
     });
     return contact;
 }
 
-void read_user_properties(Item& item, const Place& place) {
+void read_user_properties(Item& item, const JsonPlace& place) {
     place.each_member(
-        [&](const Text& name, const Place& at) { item.user_properties.emplace_back(name, at.text()); });
+        [&](const Text& name, const JsonPlace& at) { item.user_properties.emplace_back(name, at.text()); });
 }
 
 } // namespace
 
-Item read_item(const Place& place) {
+Item read_item(const JsonPlace& place) {
     Item item;
-    const auto text = [](Text& field) { return [&field](const Place& at) { field = at.text(); }; };
-    const auto number = [](int& field) { return [&field](const Place& at) { field = at.small_number(); }; };
-    const auto flag = [](bool& field) { return [&field](const Place& at) { field = at.flag(); }; };
-    const auto each = [](const auto& visit) { return [&visit](const Place& at) { at.each_element(visit); }; };
-    const auto add_recipient = [&](const Place& at) { item.recipients.push_back(read_recipient(at)); };
-    const auto add_attachment = [&](const Place& at) { item.attachments.push_back(at.text()); };
-    const auto add_link = [&](const Place& at) { item.links.push_back(read_link(at)); };
+    const auto text = [](Text& field) { return [&field](const JsonPlace& at) { field = at.text(); }; };
+    const auto number = [](int& field) {
+        return [&field](const JsonPlace& at) { field = at.small_number(); };
+    };
+    const auto flag = [](bool& field) { return [&field](const JsonPlace& at) { field = at.flag(); }; };
+    const auto each = [](const auto& visit) {
+        return [&visit](const JsonPlace& at) { at.each_element(visit); };
+    };
+    const auto add_recipient = [&](const JsonPlace& at) { item.recipients.push_back(read_recipient(at)); };
+    const auto add_attachment = [&](const JsonPlace& at) { item.attachments.push_back(at.text()); };
+    const auto add_link = [&](const JsonPlace& at) { item.links.push_back(read_link(at)); };
     place.fields({
         {"MessageClass", text(item.message_class)},
         {"Parent", text(item.parent)},
@@ -72,14 +76,14 @@ Item read_item(const Place& place) {
         {"IsWordMail", flag(item.is_word_mail)},
         {"Recipients", each(add_recipient)},
         {"Attachments", each(add_attachment)},
-        {"UserProperties", [&](const Place& at) { read_user_properties(item, at); }},
+        {"UserProperties", [&](const JsonPlace& at) { read_user_properties(item, at); }},
         {"Importance", number(item.importance)},
         {"Sensitivity", number(item.sensitivity)},
         {"ReadReceiptRequested", flag(item.read_receipt_requested)},
         {"OriginatorDeliveryReportRequested", flag(item.delivery_report_requested)},
         {"Categories", text(item.categories)},
         {"FlagRequest", text(item.flag_request)},
-        {"Word", [&](const Place& at) { item.word = read_word(at); }},
+        {"Word", [&](const JsonPlace& at) { item.word = read_word(at); }},
         {"Links", each(add_link)},
     });
     return item;

@@ -7,28 +7,28 @@ namespace ornavel::rehearsal {
 namespace {
 
 template <class Entry, class Read>
-std::vector<Entry> read_list(const Place& place, Read read) {
+std::vector<Entry> read_list(const JsonPlace& place, Read read) {
     std::vector<Entry> list;
-    place.each_element([&](const Place& element) { list.push_back(read(element)); });
+    place.each_element([&](const JsonPlace& element) { list.push_back(read(element)); });
     return list;
 }
 
-void read_members(Scenario& scenario, const Place& place) {
+void read_members(Scenario& scenario, const JsonPlace& place) {
     place.fields({
-        {"name", [&](const Place& at) { scenario.name = at.text(); }},
-        {"clock", [&](const Place& at) { scenario.clock = at.time(); }},
-        {"settings", [&](const Place& at) { scenario.settings = read_settings(at); }},
-        {"files", [&](const Place& at) { scenario.files = read_files(at); }},
-        {"folders", [](const Place&) {}},
-        {"registry", [&](const Place& at) { scenario.registry = read_registry(at); }},
-        {"computer", [&](const Place& at) { scenario.computer = read_computer(at); }},
-        {"host", [&](const Place& at) { scenario.host = read_host(at); }},
-        {"items", [&](const Place& at) { scenario.items = read_list<Item>(at, read_item); }},
-        {"user", [&](const Place& at) { scenario.user = read_user(at); }},
-        {"fail", [&](const Place& at) { scenario.fail = read_list<Failing>(at, read_failing); }},
-        {"do", [&](const Place& at) { scenario.acts = read_list<Act>(at, read_act); }},
+        {"name", [&](const JsonPlace& at) { scenario.name = at.text(); }},
+        {"clock", [&](const JsonPlace& at) { scenario.clock = at.time(); }},
+        {"settings", [&](const JsonPlace& at) { scenario.settings = read_settings(at); }},
+        {"files", [&](const JsonPlace& at) { scenario.files = read_files(at); }},
+        {"folders", [](const JsonPlace&) {}},
+        {"registry", [&](const JsonPlace& at) { scenario.registry = read_registry(at); }},
+        {"computer", [&](const JsonPlace& at) { scenario.computer = read_computer(at); }},
+        {"host", [&](const JsonPlace& at) { scenario.host = read_host(at); }},
+        {"items", [&](const JsonPlace& at) { scenario.items = read_list<Item>(at, read_item); }},
+        {"user", [&](const JsonPlace& at) { scenario.user = read_user(at); }},
+        {"fail", [&](const JsonPlace& at) { scenario.fail = read_list<Failing>(at, read_failing); }},
+        {"do", [&](const JsonPlace& at) { scenario.acts = read_list<Act>(at, read_act); }},
         {"expect",
-         [&](const Place& at) {
+         [&](const JsonPlace& at) {
              check_expectation(at);
              scenario.expect = at.json();
          }},
@@ -38,7 +38,7 @@ void read_members(Scenario& scenario, const Place& place) {
 } // namespace
 
 Scenario read_scenario(const Json& json, const std::string& source, Binding binding) {
-    const Place place(json, source);
+    const JsonPlace place(json, source);
     Scenario scenario;
     read_members(scenario, place);
     if (json.contains("folders")) scenario.folders = read_folders(place.member("folders"), scenario.files);

@@ -1,7 +1,7 @@
 #include "rehearsal/reader/suite.h"
 
+#include "rehearsal/reader/json_place.h"
 #include "rehearsal/reader/merge_patch.h"
-#include "rehearsal/reader/place.h"
 #include "rehearsal/scenario.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ Json with_paths(Json part, const std::string& file) {
     return part;
 }
 
-Json world_in(const std::string& file, const Place& named) {
+Json world_in(const std::string& file, const JsonPlace& named) {
     std::string text;
     try {
         text = load_file(file);
@@ -31,11 +31,11 @@ Json world_in(const std::string& file, const Place& named) {
         named.refuse("no such file");
     }
     const Json world = parse_json(text, file);
-    Place(world, file).must_be_object();
+    JsonPlace(world, file).must_be_object();
     return with_paths(world, file);
 }
 
-Json read_world(const Place& place) {
+Json read_world(const JsonPlace& place) {
     if (place.is_text()) return world_in(beside(place.source(), place.bytes()), place);
     place.must_be_object();
     return with_paths(place.json(), place.source());
@@ -47,7 +47,7 @@ void apply_items(Json& scenario, const Json& world, const Json& patch, const std
     const bool removed = patch.contains("item") && patch["item"].is_null();
     for (const Json* part : {&world, &patch}) {
         if (removed || !part->contains("item")) continue;
-        const Place item = Place(*part, source).member("item");
+        const JsonPlace item = JsonPlace(*part, source).member("item");
         item.must_be_object();
         if (!scenario.contains("items")) scenario["items"] = {Json::object()};
         Json& items = scenario["items"];
@@ -56,14 +56,14 @@ void apply_items(Json& scenario, const Json& world, const Json& patch, const std
     }
 }
 
-std::string name_of(const Place& place, const std::string& about, std::size_t number) {
+std::string name_of(const JsonPlace& place, const std::string& about, std::size_t number) {
     place.must_be_object();
     if (place.json().contains("name") && !place.json()["name"].is_null()) return place.member("name").bytes();
     return (about.empty() ? "" : about + " ") + std::to_string(number);
 }
 
 /// A case's scenario under the name given.
-WholeScenario whole(const Json& world, const Place& place, const std::string& name) {
+WholeScenario whole(const Json& world, const JsonPlace& place, const std::string& name) {
     const std::string source = place.source() + ": " + name;
     const Json patch = with_paths(place.json(), place.source());
     Json scenario = world, rest = patch;
@@ -75,18 +75,18 @@ WholeScenario whole(const Json& world, const Place& place, const std::string& na
     return {place.source(), source, std::move(scenario)};
 }
 
-std::vector<WholeScenario> cases_of(const Place& suite) {
+std::vector<WholeScenario> cases_of(const JsonPlace& suite) {
     std::string about;
     Json world = Json::object();
     suite.fields({
-        {"about", [&](const Place& at) { about = at.bytes(); }},
-        {"world", [&](const Place& at) { world = read_world(at); }},
-        {"cases", [](const Place&) {}},
+        {"about", [&](const JsonPlace& at) { about = at.bytes(); }},
+        {"world", [&](const JsonPlace& at) { world = read_world(at); }},
+        {"cases", [](const JsonPlace&) {}},
     });
     if (!suite.json().contains("cases")) suite.refuse("cases: missing");
     std::vector<WholeScenario> all;
     suite.member("cases").each_element(
-        [&](const Place& at) { all.push_back(whole(world, at, name_of(at, about, all.size() + 1))); });
+        [&](const JsonPlace& at) { all.push_back(whole(world, at, name_of(at, about, all.size() + 1))); });
     return all;
 }
 
@@ -97,7 +97,7 @@ bool is_suite(const Json& json) {
 } // namespace
 
 std::vector<WholeScenario> scenarios_of(const Json& file, const std::string& path) {
-    if (is_suite(file)) return cases_of(Place(file, path));
+    if (is_suite(file)) return cases_of(JsonPlace(file, path));
     return {{path, path, with_paths(file, path)}};
 }
 

@@ -13,7 +13,7 @@ bool is_full_path(TextView path) {
            path.find(u"\\\\", 2) == TextView::npos;
 }
 
-std::string read_other_file(const Place& place) {
+std::string read_other_file(const JsonPlace& place) {
     try {
         return load_file(place.bytes());
     } catch (const Unusable&) {
@@ -21,36 +21,36 @@ std::string read_other_file(const Place& place) {
     }
 }
 
-std::string read_contents(const Place& place) {
+std::string read_contents(const JsonPlace& place) {
     if (place.is_text()) return place.bytes();
     if (!place.is_object() || place.size() != 1)
         place.refuse("expected a text, {\"base64\": …} or {\"from\": …}");
     std::string bytes;
     place.fields({
         {"base64",
-         [&](const Place& at) {
+         [&](const JsonPlace& at) {
              const auto decoded = decode_base64(at.bytes());
              if (!decoded) at.refuse("not base64");
              bytes = *decoded;
          }},
-        {"from", [&](const Place& at) { bytes = read_other_file(at); }},
+        {"from", [&](const JsonPlace& at) { bytes = read_other_file(at); }},
     });
     return bytes;
 }
 
-ExpandText read_expand_text(const Place& place) {
+ExpandText read_expand_text(const JsonPlace& place) {
     ExpandText expand;
     if (place.size() != 1) place.refuse("expected {\"expand\": …}");
-    place.fields({{"expand", [&](const Place& at) { expand.text = at.text(); }}});
+    place.fields({{"expand", [&](const JsonPlace& at) { expand.text = at.text(); }}});
     return expand;
 }
 
-SettingValue read_setting_value(const Place& place) {
+SettingValue read_setting_value(const JsonPlace& place) {
     if (place.is_object()) return read_expand_text(place);
     return place.text();
 }
 
-RegistryValue read_registry_value(const Place& place) {
+RegistryValue read_registry_value(const JsonPlace& place) {
     if (place.is_text()) return place.text();
     if (place.is_object()) return read_expand_text(place);
     return static_cast<std::uint32_t>(place.number(0, 0xFFFFFFFF));
@@ -68,20 +68,20 @@ bool is_registry_key(const Text& key) {
 
 } // namespace
 
-SettingsTree read_settings(const Place& place) {
+SettingsTree read_settings(const JsonPlace& place) {
     SettingsTree sections;
-    place.each_member([&](const Text& section, const Place& keys) {
+    place.each_member([&](const Text& section, const JsonPlace& keys) {
         auto& entry = sections.emplace_back(section, Named<SettingValue>{});
-        keys.each_member([&](const Text& key, const Place& value) {
+        keys.each_member([&](const Text& key, const JsonPlace& value) {
             entry.second.emplace_back(key, read_setting_value(value));
         });
     });
     return sections;
 }
 
-Named<std::string> read_files(const Place& place) {
+Named<std::string> read_files(const JsonPlace& place) {
     Named<std::string> files;
-    place.each_member([&](const Text& path, const Place& contents) {
+    place.each_member([&](const Text& path, const JsonPlace& contents) {
         if (!is_full_path(path) || path.ends_with(u'\\')) contents.refuse("expected a full Windows path");
         files.emplace_back(path, read_contents(contents));
     });
@@ -93,9 +93,9 @@ Named<std::string> read_files(const Place& place) {
     return files;
 }
 
-std::vector<Text> read_folders(const Place& place, const Named<std::string>& files) {
+std::vector<Text> read_folders(const JsonPlace& place, const Named<std::string>& files) {
     std::vector<Text> folders;
-    place.each_element([&](const Place& at) {
+    place.each_element([&](const JsonPlace& at) {
         Text path = at.text();
         if (!is_full_path(path)) at.refuse("expected a full Windows path");
         if (path.ends_with(u'\\')) path.pop_back();
@@ -106,12 +106,12 @@ std::vector<Text> read_folders(const Place& place, const Named<std::string>& fil
     return folders;
 }
 
-Named<Named<RegistryValue>> read_registry(const Place& place) {
+Named<Named<RegistryValue>> read_registry(const JsonPlace& place) {
     Named<Named<RegistryValue>> keys;
-    place.each_member([&](const Text& key, const Place& values) {
+    place.each_member([&](const Text& key, const JsonPlace& values) {
         if (!is_registry_key(key)) values.refuse("expected a registry key");
         auto& entry = keys.emplace_back(key, Named<RegistryValue>{});
-        values.each_member([&](const Text& name, const Place& value) {
+        values.each_member([&](const Text& name, const JsonPlace& value) {
             entry.second.emplace_back(name, read_registry_value(value));
         });
     });

@@ -9,7 +9,7 @@ namespace ornavel::rehearsal {
 namespace {
 
 using forms::Control;
-using forms::Kind;
+using forms::ControlKind;
 
 /// Tells the form what happened to one of its controls.
 void notify(HWND control, int what) {
@@ -17,8 +17,8 @@ void notify(HWND control, int what) {
                  reinterpret_cast<LPARAM>(control));
 }
 
-void click(HWND window, Kind kind) {
-    if (kind == Kind::label || kind == Kind::image)
+void click(HWND window, ControlKind kind) {
+    if (kind == ControlKind::label || kind == ControlKind::image)
         notify(window, STN_CLICKED);
     else
         SendMessageW(window, BM_CLICK, 0, 0);
@@ -39,7 +39,7 @@ void choose(HWND combo_box, const Control& wanted) {
     notify(combo_box, CBN_EDITCHANGE);
 }
 
-void place(HWND window, const forms::Place& wanted) {
+void place(HWND window, const forms::Bounds& wanted) {
     const RECT frame = win32::Scale::of_screen().pixels(wanted);
     SetWindowPos(window, nullptr, frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
@@ -50,7 +50,7 @@ void open_list(const Step& step, HWND form) {
     if (step.kind != Step::Kind::set && step.kind != Step::Kind::select) return;
     const auto shown = read_form(form);
     const Control* control = shown->find(step.control);
-    if (!control || control->kind != Kind::combo_box) return;
+    if (!control || control->kind != ControlKind::combo_box) return;
     forms::FormUser(*shown).drop_down(step.control);
     notify(control_window(form, step.control), CBN_DROPDOWN);
 }
@@ -64,7 +64,7 @@ void act(const Step& step, HWND window, const Control& wanted) {
     case Step::Kind::double_click:
         return double_click(window);
     default:
-        return wanted.kind == Kind::combo_box ? choose(window, wanted) : type(window, wanted.text);
+        return wanted.kind == ControlKind::combo_box ? choose(window, wanted) : type(window, wanted.text);
     }
 }
 

@@ -11,7 +11,7 @@ namespace ornavel::rehearsal {
 namespace {
 
 using forms::Control;
-using forms::Kind;
+using forms::ControlKind;
 
 BOOL CALLBACK note_named(HWND window, LPARAM found) {
     if (!win32::name_of(window).empty()) reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
@@ -24,29 +24,29 @@ std::vector<HWND> controls_of(HWND form) {
     return found;
 }
 
-Kind button_kind(HWND window) {
+ControlKind button_kind(HWND window) {
     switch (style_of(window) & BS_TYPEMASK) {
     case BS_AUTOCHECKBOX:
-        return Kind::check_box;
+        return ControlKind::check_box;
     case BS_GROUPBOX:
-        return Kind::frame;
+        return ControlKind::frame;
     default:
-        return Kind::command_button;
+        return ControlKind::command_button;
     }
 }
 
-Kind kind_of(HWND window) {
+ControlKind kind_of(HWND window) {
     if (is_class(window, L"Button")) return button_kind(window);
-    if (is_class(window, L"ComboBox")) return Kind::combo_box;
-    if (is_class(window, L"Edit")) return Kind::text_box;
+    if (is_class(window, L"ComboBox")) return ControlKind::combo_box;
+    if (is_class(window, L"Edit")) return ControlKind::text_box;
     switch (style_of(window) & SS_TYPEMASK) {
     case SS_BITMAP:
     case SS_ICON:
-        return Kind::image;
+        return ControlKind::image;
     case SS_OWNERDRAW:
-        return Kind::web_browser;
+        return ControlKind::web_browser;
     default:
-        return Kind::label;
+        return ControlKind::label;
     }
 }
 
@@ -95,23 +95,23 @@ Control read_control(HWND window, HWND tips) {
     Control control{.kind = kind_of(window), .name = win32::name_of(window)};
     control.tool_tip = tool_tip_of(window, tips);
     if (has_caption(control.kind)) control.caption = text_of_window(window);
-    if (control.kind == Kind::text_box || control.kind == Kind::combo_box)
+    if (control.kind == ControlKind::text_box || control.kind == ControlKind::combo_box)
         control.text = text_of_window(window);
-    if (control.kind == Kind::web_browser) control.page = text_of_window(window);
-    if (control.kind == Kind::check_box)
+    if (control.kind == ControlKind::web_browser) control.page = text_of_window(window);
+    if (control.kind == ControlKind::check_box)
         control.ticked = SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED;
-    if (control.kind == Kind::combo_box) {
+    if (control.kind == ControlKind::combo_box) {
         control.items = items_of(window);
         control.index = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
     }
     const DWORD style = style_of(window);
     control.visible = (style & WS_VISIBLE) || GetPropW(window, win32::ControlWindow::in_hidden_frame);
     control.enabled = !(style & WS_DISABLED);
-    control.locked = control.kind == Kind::text_box && (style & ES_READONLY);
+    control.locked = control.kind == ControlKind::text_box && (style & ES_READONLY);
     return control;
 }
 
-forms::Place place_of(HWND window) {
+forms::Bounds place_of(HWND window) {
     RECT frame;
     GetWindowRect(window, &frame);
     return win32::Scale::of_screen().twips(frame);

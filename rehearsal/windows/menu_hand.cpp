@@ -18,8 +18,8 @@ Text caption_at(HMENU menu, UINT position) {
     wchar_t text[256];
     const int length = GetMenuStringW(menu, position, text, ARRAYSIZE(text), MF_BYPOSITION);
     if (length <= 0) return u"-";
-    return forms::readable_caption(
-        {.kind = forms::Kind::menu, .caption = win32::text_of({text, static_cast<std::size_t>(length)})});
+    return forms::readable_caption({.kind = forms::ControlKind::menu,
+                                    .caption = win32::text_of({text, static_cast<std::size_t>(length)})});
 }
 
 void press(HWND window, WPARAM key) { PostMessageW(window, WM_KEYDOWN, key, 0); }

@@ -24,12 +24,12 @@ public:
     void give_back_results(const std::shared_ptr<Subscriptions>& subscriptions);
 
 private:
-    struct Place {
+    struct Argument {
         VARIANT* variant;
         std::unique_ptr<host::Result> result;
     };
     host::Arguments values_;
-    std::vector<Place> places_;
+    std::vector<Argument> places_;
 };
 
 } // namespace ornavel::rehearsal

@@ -334,7 +334,7 @@ MemoryStore every_setting() {
     MemoryStore store;
     for (const Key& key : catalogue())
         if (!store.find(key.section, key.name))
-            save(store, key, key.kind == Kind::switch_ ? Text(u"True") : u"<" + Text(key.name) + u">");
+            save(store, key, key.kind == SettingKind::switch_ ? Text(u"True") : u"<" + Text(key.name) + u">");
     return store;
 }
 

@@ -129,7 +129,8 @@ public:
             if (key.section != admin_section && key.section != templates_section &&
                 key.section != user_section)
                 continue;
-            if (random_() % 3 == 0) save(store, key, key.kind == Kind::switch_ ? Text(u"True") : text(2));
+            if (random_() % 3 == 0)
+                save(store, key, key.kind == SettingKind::switch_ ? Text(u"True") : text(2));
         }
         return store;
     }

@@ -9,7 +9,7 @@ namespace {
 /// Looks where a form would appear, and closes it.
 class SeenPlaces final : public forms::Windows {
 public:
-    forms::Place place;
+    forms::Bounds place;
 
     Answer show(TextView, TextView, Buttons) override { return Answer::ok; }
     void show_modal(forms::Form& form) override {

@@ -6,7 +6,7 @@
 #include "forms/BrevantUser.h"
 #include "forms/frmSysTray.h"
 #include "rehearsal/native/watching.h"
-#include "rehearsal/reader/place.h"
+#include "rehearsal/reader/json_place.h"
 #include "settings/catalogue.h"
 
 #include <algorithm>
@@ -14,23 +14,23 @@
 namespace ornavel::coverage {
 namespace {
 
-using rehearsal::Place;
+using rehearsal::JsonPlace;
 
-void read_names(Reasons& reasons, const Place& names, const Text& because) {
-    names.each_element([&](const Place& name) {
+void read_names(Reasons& reasons, const JsonPlace& names, const Text& because) {
+    names.each_element([&](const JsonPlace& name) {
         if (!reasons.emplace(name.text(), because).second) name.refuse("excused twice");
     });
 }
 
-void read_excuse(Excuses& excuses, const Place& place) {
+void read_excuse(Excuses& excuses, const JsonPlace& place) {
     place.must_be_object();
     if (!place.json().contains("because")) place.refuse("because: missing");
     const Text because = place.member("because").text();
     place.fields({
-        {"because", [](const Place&) {}},
-        {"verdicts", [&](const Place& at) { read_names(excuses.verdicts, at, because); }},
-        {"traps", [&](const Place& at) { read_names(excuses.traps, at, because); }},
-        {"settings", [&](const Place& at) { read_names(excuses.settings, at, because); }},
+        {"because", [](const JsonPlace&) {}},
+        {"verdicts", [&](const JsonPlace& at) { read_names(excuses.verdicts, at, because); }},
+        {"traps", [&](const JsonPlace& at) { read_names(excuses.traps, at, because); }},
+        {"settings", [&](const JsonPlace& at) { read_names(excuses.settings, at, because); }},
     });
 }
 
@@ -79,7 +79,7 @@ Known known() {
 
 Excuses read_excuses(const rehearsal::Json& json, const std::string& source) {
     Excuses excuses;
-    Place(json, source).each_element([&](const Place& at) { read_excuse(excuses, at); });
+    JsonPlace(json, source).each_element([&](const JsonPlace& at) { read_excuse(excuses, at); });
     return excuses;
 }
 

@@ -77,7 +77,7 @@ protected:
     std::vector<Text> boxes;
 };
 
-bool overlap(const Place& one, const Place& other) {
+bool overlap(const Bounds& one, const Bounds& other) {
     return one.left < other.left + other.width && other.left < one.left + one.width &&
            one.top < other.top + other.height && other.top < one.top + one.height;
 }
@@ -126,8 +126,8 @@ TEST_F(SendOptions, AccessKeysAreUniqueAndLabelsStandRightBeforeTheirLists) {
                 EXPECT_TRUE(keys.insert(lower_case(control.caption)[mark + 1]).second)
                     << to_utf8(control.name);
             }
-            if (control.kind == Kind::label) {
-                EXPECT_EQ((&control + 1)->kind, Kind::combo_box) << to_utf8(control.name);
+            if (control.kind == ControlKind::label) {
+                EXPECT_EQ((&control + 1)->kind, ControlKind::combo_box) << to_utf8(control.name);
             }
         }
         EXPECT_EQ(keys.size(), 16u);

@@ -41,7 +41,8 @@ TEST(Captions, TheFormsTagGivesItsCaption) {
 
 TEST(Captions, AnEmptyTagOrAWordKeepsTheDesignedCaption) {
     for (const TextView tag : {u"", u"word", u"1a", u"one 1"}) {
-        EXPECT_EQ(loaded({.kind = Kind::command_button, .tag = Text(tag), .caption = u"as designed"}).caption,
+        EXPECT_EQ(loaded({.kind = ControlKind::command_button, .tag = Text(tag), .caption = u"as designed"})
+                      .caption,
                   u"as designed");
         Form form = form_with_tag(tag);
         load_captions(form, Strings());
@@ -50,7 +51,8 @@ TEST(Captions, AnEmptyTagOrAWordKeepsTheDesignedCaption) {
 }
 
 TEST(Captions, AControlsTagGivesItsCaptionAndItsToolTipsNumberItsToolTip) {
-    for (const Kind kind : {Kind::command_button, Kind::check_box, Kind::label, Kind::frame}) {
+    for (const ControlKind kind :
+         {ControlKind::command_button, ControlKind::check_box, ControlKind::label, ControlKind::frame}) {
         const Control control = loaded({.kind = kind, .tag = u"5013", .tool_tip = u"7"});
         EXPECT_EQ(control.caption, u"Yes.");
         EXPECT_EQ(control.tool_tip, u"Seven");
@@ -59,11 +61,12 @@ TEST(Captions, AControlsTagGivesItsCaptionAndItsToolTipsNumberItsToolTip) {
 }
 
 TEST(Captions, AToolTipIsReplacedAlsoWhereTheTagIsNoNumber) {
-    EXPECT_EQ(loaded({.kind = Kind::label, .tag = u"word", .tool_tip = u"7"}).tool_tip, u"Seven");
+    EXPECT_EQ(loaded({.kind = ControlKind::label, .tag = u"word", .tool_tip = u"7"}).tool_tip, u"Seven");
 }
 
 TEST(Captions, AControlWithoutACaptionIsSkippedButItsToolTipIsLoaded) {
-    for (const Kind kind : {Kind::image, Kind::text_box, Kind::combo_box, Kind::web_browser}) {
+    for (const ControlKind kind :
+         {ControlKind::image, ControlKind::text_box, ControlKind::combo_box, ControlKind::web_browser}) {
         const Control control = loaded({.kind = kind, .tag = u"1", .tool_tip = u"7"});
         EXPECT_EQ(control.caption, u"");
         EXPECT_EQ(control.text, u"");
@@ -72,14 +75,14 @@ TEST(Captions, AControlWithoutACaptionIsSkippedButItsToolTipIsLoaded) {
 }
 
 TEST(Captions, AMenuItemsOwnCaptionCarriesTheNumberNotItsTag) {
-    EXPECT_EQ(loaded({.kind = Kind::menu, .tag = u"1", .caption = u"7"}).caption, u"Seven");
-    EXPECT_EQ(loaded({.kind = Kind::menu, .tag = u"1", .caption = u"File"}).caption, u"File");
-    EXPECT_EQ(loaded({.kind = Kind::menu, .caption = u"File", .tool_tip = u"7"}).tool_tip, u"7");
+    EXPECT_EQ(loaded({.kind = ControlKind::menu, .tag = u"1", .caption = u"7"}).caption, u"Seven");
+    EXPECT_EQ(loaded({.kind = ControlKind::menu, .tag = u"1", .caption = u"File"}).caption, u"File");
+    EXPECT_EQ(loaded({.kind = ControlKind::menu, .caption = u"File", .tool_tip = u"7"}).tool_tip, u"7");
 }
 
 TEST(Captions, EachTabTakesItsCaptionFromItsTagAndItsToolTipFromItsNumber) {
     const Control control =
-        loaded({.kind = Kind::tab_strip,
+        loaded({.kind = ControlKind::tab_strip,
                 .tag = u"1",
                 .caption = u"as designed",
                 .parts = {{.tag = u"1", .tool_tip = u"7"}, {.tag = u"word", .caption = u"kept"}}});
@@ -90,7 +93,7 @@ TEST(Captions, EachTabTakesItsCaptionFromItsTagAndItsToolTipFromItsNumber) {
 
 TEST(Captions, AToolbarButtonGetsOnlyAToolTipNeverACaptionFromItsTag) {
     const Control control =
-        loaded({.kind = Kind::toolbar,
+        loaded({.kind = ControlKind::toolbar,
                 .parts = {{.tag = u"7", .caption = u"kept", .tool_tip = u"1"}, {.tool_tip = u"1"}}});
     EXPECT_EQ(control.parts[0], (Part{.tag = u"7", .caption = u"kept", .tool_tip = u"Seven"}));
     EXPECT_EQ(control.parts[1], (Part{.tool_tip = u"1"}));
@@ -98,15 +101,15 @@ TEST(Captions, AToolbarButtonGetsOnlyAToolTipNeverACaptionFromItsTag) {
 
 TEST(Captions, AListViewsHeaderTakesItsTextFromItsTag) {
     const Control control =
-        loaded({.kind = Kind::list_view,
+        loaded({.kind = ControlKind::list_view,
                 .parts = {{.tag = u"7", .caption = u"1", .tool_tip = u"1", .text = u"kept"}}});
     EXPECT_EQ(control.parts[0], (Part{.tag = u"7", .caption = u"1", .tool_tip = u"1", .text = u"Seven"}));
 }
 
 TEST(Captions, ANumberThatTheTableLacksStaysAndTheWalkGoesOn) {
     Form form({.name = u"frmTest", .tag = u"99", .caption = u"as designed"},
-              {{.kind = Kind::menu, .name = u"mnFirst", .caption = u"4711"},
-               {.kind = Kind::command_button, .name = u"cmdLast", .tag = u"5014"}});
+              {{.kind = ControlKind::menu, .name = u"mnFirst", .caption = u"4711"},
+               {.kind = ControlKind::command_button, .name = u"cmdLast", .tag = u"5014"}});
     load_captions(form, Strings());
     EXPECT_EQ(form.properties.caption, u"as designed");
     EXPECT_EQ(form[u"mnFirst"].caption, u"4711");
@@ -116,7 +119,8 @@ TEST(Captions, ANumberThatTheTableLacksStaysAndTheWalkGoesOn) {
 TEST(Captions, ATableThatFailsStopsNoFormFromOpening) {
     Strings strings;
     strings.failing = true;
-    EXPECT_EQ(loaded({.kind = Kind::label, .tag = u"1", .caption = u"as designed", .tool_tip = u"7"}, strings)
+    EXPECT_EQ(loaded({.kind = ControlKind::label, .tag = u"1", .caption = u"as designed", .tool_tip = u"7"},
+                     strings)
                   .caption,
               u"as designed");
     EXPECT_EQ(strings.asked, 2);

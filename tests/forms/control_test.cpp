@@ -5,13 +5,15 @@
 namespace ornavel::forms {
 namespace {
 
-Text read(Kind kind, TextView caption) { return readable_caption({.kind = kind, .caption = Text(caption)}); }
+Text read(ControlKind kind, TextView caption) {
+    return readable_caption({.kind = kind, .caption = Text(caption)});
+}
 
 TEST(Captions, AreReadWithoutTheMarkOfTheirAccessKey) {
-    EXPECT_EQ(read(Kind::command_button, u"&Send"), u"Send");
-    EXPECT_EQ(read(Kind::label, u"Marlow && Hale"), u"Marlow & Hale");
-    EXPECT_EQ(read(Kind::check_box, u"&&&a&"), u"&a");
-    EXPECT_EQ(read(Kind::form, u"Marlow && &Hale"), u"Marlow && &Hale");
+    EXPECT_EQ(read(ControlKind::command_button, u"&Send"), u"Send");
+    EXPECT_EQ(read(ControlKind::label, u"Marlow && Hale"), u"Marlow & Hale");
+    EXPECT_EQ(read(ControlKind::check_box, u"&&&a&"), u"&a");
+    EXPECT_EQ(read(ControlKind::form, u"Marlow && &Hale"), u"Marlow && &Hale");
 }
 
 TEST(Captions, HaveTheFirstSuchLetterAsTheirAccessKey) {

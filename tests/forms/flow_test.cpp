@@ -8,21 +8,21 @@ namespace {
 class Flow : public testing::Test {
 protected:
     Form form{{.name = u"frmFlow", .place = {0, 0, 6090, 3000}},
-              {{.kind = Kind::command_button, .name = u"cmdOne", .place = {0, 0, 1500, 345}},
-               {.kind = Kind::check_box, .name = u"chkTwo", .place = {0, 0, 1500, 255}},
-               {.kind = Kind::label, .name = u"lblThree", .place = {0, 0, 600, 195}},
-               {.kind = Kind::combo_box, .name = u"cboThree", .place = {0, 0, 1500, 315}}}};
+              {{.kind = ControlKind::command_button, .name = u"cmdOne", .place = {0, 0, 1500, 345}},
+               {.kind = ControlKind::check_box, .name = u"chkTwo", .place = {0, 0, 1500, 255}},
+               {.kind = ControlKind::label, .name = u"lblThree", .place = {0, 0, 600, 195}},
+               {.kind = ControlKind::combo_box, .name = u"cboThree", .place = {0, 0, 1500, 315}}}};
     const Group groups[3] = {{u"cmdOne"}, {u"chkTwo"}, {u"cboThree", u"lblThree"}};
 
-    Place place(TextView control) { return form[control].place; }
+    Bounds place(TextView control) { return form[control].place; }
 };
 
 TEST_F(Flow, GroupsStandSideBySideInTheMiddleOfTheirRow) {
     EXPECT_EQ(flow(form, groups), 165 + 345);
-    EXPECT_EQ(place(u"cmdOne"), (Place{165, 165, 1500, 345}));
-    EXPECT_EQ(place(u"chkTwo"), (Place{1770, 210, 1500, 255}));
-    EXPECT_EQ(place(u"lblThree"), (Place{3375, 240, 600, 195}));
-    EXPECT_EQ(place(u"cboThree"), (Place{4050, 180, 1500, 315}));
+    EXPECT_EQ(place(u"cmdOne"), (Bounds{165, 165, 1500, 345}));
+    EXPECT_EQ(place(u"chkTwo"), (Bounds{1770, 210, 1500, 255}));
+    EXPECT_EQ(place(u"lblThree"), (Bounds{3375, 240, 600, 195}));
+    EXPECT_EQ(place(u"cboThree"), (Bounds{4050, 180, 1500, 315}));
 }
 
 TEST_F(Flow, WhatIsHiddenLeavesNoGap) {

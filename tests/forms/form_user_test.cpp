@@ -8,13 +8,13 @@ namespace {
 
 struct FormUserTest : testing::Test {
     Form form{{.name = u"frmOrder", .place = {0, 0, 3000, 2000}, .caption = u"Order"},
-              {{.kind = Kind::command_button, .name = u"cmdSend"},
-               {.kind = Kind::check_box, .name = u"chkGift"},
-               {.kind = Kind::combo_box, .name = u"cboSize", .items = {u"small", u"large"}},
-               {.kind = Kind::text_box, .name = u"txtNote"},
-               {.kind = Kind::text_box, .name = u"txtTerms", .locked = true},
-               {.kind = Kind::command_button, .name = u"cmdHidden", .visible = false},
-               {.kind = Kind::command_button, .name = u"cmdGrey", .enabled = false}}};
+              {{.kind = ControlKind::command_button, .name = u"cmdSend"},
+               {.kind = ControlKind::check_box, .name = u"chkGift"},
+               {.kind = ControlKind::combo_box, .name = u"cboSize", .items = {u"small", u"large"}},
+               {.kind = ControlKind::text_box, .name = u"txtNote"},
+               {.kind = ControlKind::text_box, .name = u"txtTerms", .locked = true},
+               {.kind = ControlKind::command_button, .name = u"cmdHidden", .visible = false},
+               {.kind = ControlKind::command_button, .name = u"cmdGrey", .enabled = false}}};
     FormUser user{form};
     Text events;
 
@@ -86,7 +86,7 @@ TEST_F(FormUserTest, ResizingAndMovingTheWindowChangeItsPlace) {
     form.on_resize = [this] { events += u"resized"; };
     user.resize(4000, 2500);
     user.move(100, 200);
-    EXPECT_EQ(form.properties.place, (Place{100, 200, 4000, 2500}));
+    EXPECT_EQ(form.properties.place, (Bounds{100, 200, 4000, 2500}));
     EXPECT_EQ(events, u"resized");
 }
 

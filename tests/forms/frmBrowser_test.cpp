@@ -16,7 +16,7 @@ namespace {
 
 using namespace settings;
 
-bool overlap(const Place& one, const Place& other) {
+bool overlap(const Bounds& one, const Bounds& other) {
     const auto apart = [](int begin, int size, int other_begin, int other_size) {
         return begin + size <= other_begin || other_begin + other_size <= begin;
     };
@@ -224,7 +224,7 @@ TEST_F(PreviewWindow, APageThatCantBeWrittenIsLoggedAndTheWindowStillAnswers) {
 
 TEST_F(PreviewWindow, TheBrowserTakesWhatTheWindowLeaves) {
     show([](Form& form, FormUser user) {
-        const Place before = form[u"brwWebBrowser"].place;
+        const Bounds before = form[u"brwWebBrowser"].place;
         user.resize(11170, 7000);
         EXPECT_EQ(form[u"brwWebBrowser"].place.width, before.width + 1000);
         EXPECT_EQ(form[u"brwWebBrowser"].place.height, before.height + 1000);
@@ -276,7 +276,7 @@ TEST_F(PreviewWindow, HasItsControlsWithTheirWords) {
             EXPECT_EQ(control.visible, visible) << to_utf8(name);
         }
         EXPECT_EQ(form.properties.caption, u"Ornavel Preview");
-        EXPECT_EQ(form.properties.place, (Place{2595, 990, 10170, 6000}));
+        EXPECT_EQ(form.properties.place, (Bounds{2595, 990, 10170, 6000}));
     });
 }
 

@@ -59,11 +59,11 @@ TEST(PromptDialog, StaysAboveTheEditorThatTheMessageIsWrittenIn) {
 
 TEST(PromptDialog, ItsAnswersEndWhereItsMessageEnds) {
     answer(u"Reply", [](Form& form, FormUser) {
-        EXPECT_EQ(form[u"imgIcon"].place, (Place{165, 165, 480, 480}));
-        EXPECT_EQ(form[u"lblMessage"].place, (Place{810, 165, 5070, 780}));
-        EXPECT_EQ(form[u"cmdYes"].place, (Place{675, 1110, 2550, 345}));
-        EXPECT_EQ(form[u"cmdNo"].place, (Place{3330, 1110, 2550, 345}));
-        EXPECT_EQ(form[u"cmdOK"].place, (Place{4755, 1110, 1125, 345}));
+        EXPECT_EQ(form[u"imgIcon"].place, (Bounds{165, 165, 480, 480}));
+        EXPECT_EQ(form[u"lblMessage"].place, (Bounds{810, 165, 5070, 780}));
+        EXPECT_EQ(form[u"cmdYes"].place, (Bounds{675, 1110, 2550, 345}));
+        EXPECT_EQ(form[u"cmdNo"].place, (Bounds{3330, 1110, 2550, 345}));
+        EXPECT_EQ(form[u"cmdOK"].place, (Bounds{4755, 1110, 1125, 345}));
         EXPECT_EQ(form.room(), (Size{6045, 1620}));
     });
 }

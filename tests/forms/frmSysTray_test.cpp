@@ -52,7 +52,7 @@ class Machine final : public SystemInformation {
 struct SysTray : testing::Test {
     /// Its caption as a reader sees it.
     Text caption(std::size_t entry) const {
-        return readable_caption({.kind = Kind::menu, .caption = tray.menu[entry].caption});
+        return readable_caption({.kind = ControlKind::menu, .caption = tray.menu[entry].caption});
     }
     void open_menu() { tray.handler(517); }
     bool is_ticked(TextView wanted) {

@@ -219,7 +219,7 @@ TEST(Catalogue, HoldsEveryKeyOfEachSectionAndNoOther) {
               admin_names.size() + user_names.size() + system_names.size() + template_names.size());
 }
 
-std::vector<Text> names_of(Kind kind) {
+std::vector<Text> names_of(SettingKind kind) {
     std::vector<Text> names;
     for (const Key& key : catalogue())
         if (key.kind == kind) names.emplace_back(key.name);
@@ -227,28 +227,29 @@ std::vector<Text> names_of(Kind kind) {
 }
 
 TEST(Catalogue, KnowsItsPathsTicksAndNumbers) {
-    EXPECT_EQ(names_of(Kind::path),
+    EXPECT_EQ(names_of(SettingKind::path),
               sorted({u"ApplicationPath", u"BrowserPath", u"ErrorFileLocation", u"HTM Files Path", u"Help",
                       u"OutlookSignaturePath", u"Signatures Path", u"TipsFileLocation", u"WizardLogo",
                       u"Internet Path", u"vCardPath", u"vCardPathSelected"}));
-    EXPECT_EQ(names_of(Kind::tick), sorted({u"SkipInternal", u"Categories", u"Default", u"Delivery",
-                                            u"FollowUp", u"Receipt", u"ShowMessageBox", u"Reply as is"}));
+    EXPECT_EQ(names_of(SettingKind::tick),
+              sorted({u"SkipInternal", u"Categories", u"Default", u"Delivery", u"FollowUp", u"Receipt",
+                      u"ShowMessageBox", u"Reply as is"}));
     EXPECT_EQ(
-        names_of(Kind::number),
+        names_of(SettingKind::number),
         sorted({u"Current Signature", u"BrowserTop", u"BrowserLeft", u"BrowserHeight", u"BrowserWidth",
                 u"LastTipNumber", u"MainFormHeight", u"ReplySearchStringVal", u"ReplyInsertStringVal"}));
 }
 
 TEST(Catalogue, SwitchesAreTrueOrFalseByDefault) {
     for (const Key& key : catalogue()) {
-        if (key.kind != Kind::switch_) continue;
+        if (key.kind != SettingKind::switch_) continue;
         EXPECT_TRUE(key.default_value == u"True" || key.default_value == u"False") << to_utf8(key.name);
     }
 }
 
 TEST(Catalogue, NumbersAndTicksAreDigitsByDefault) {
     for (const Key& key : catalogue()) {
-        if (key.kind != Kind::number && key.kind != Kind::tick) continue;
+        if (key.kind != SettingKind::number && key.kind != SettingKind::tick) continue;
         EXPECT_EQ(key.default_value.find_first_not_of(u"0123456789"), TextView::npos);
     }
 }

@@ -109,10 +109,10 @@ TEST(Descriptions, AllowedValuesContainTheDefault) {
 
 TEST(Descriptions, SwitchesAndTicksAllowTheirTwoValues) {
     for (const Description& description : descriptions()) {
-        const Kind kind = description.key.kind;
-        EXPECT_EQ(kind == Kind::switch_, description.allowed == u"True|False")
+        const SettingKind kind = description.key.kind;
+        EXPECT_EQ(kind == SettingKind::switch_, description.allowed == u"True|False")
             << to_utf8(description.key.name);
-        EXPECT_EQ(kind == Kind::tick, description.allowed == u"0|1") << to_utf8(description.key.name);
+        EXPECT_EQ(kind == SettingKind::tick, description.allowed == u"0|1") << to_utf8(description.key.name);
     }
 }
 

@@ -11,12 +11,12 @@ constexpr TextView page = u"C:\\Ornavel files\\myTestHtmlFile.html";
 
 struct BrowserPage : testing::Test {
     Form form{{.name = u"frmPage", .place = {0, 0, 6000, 4500}},
-              {{.kind = Kind::command_button,
+              {{.kind = ControlKind::command_button,
                 .name = u"cmdSend",
                 .place = {150, 150, 1500, 375},
                 .is_default = true},
-               {.kind = Kind::web_browser, .name = u"brwPage", .place = {150, 600, 4500, 2400}},
-               {.kind = Kind::command_button,
+               {.kind = ControlKind::web_browser, .name = u"brwPage", .place = {150, 600, 4500, 2400}},
+               {.kind = ControlKind::command_button,
                 .name = u"cmdClose",
                 .place = {150, 3150, 1500, 375},
                 .is_cancel = true}}};

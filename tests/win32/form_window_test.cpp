@@ -194,7 +194,7 @@ TEST_F(FormWindowTest, MovingAndSizingTheWindowChangeThePlaceOfTheForm) {
              SetWindowPos(window, nullptr, 0, 0, frame.right - frame.left, frame.bottom - frame.top,
                           SWP_NOMOVE | SWP_NOZORDER);
          }});
-    EXPECT_EQ(form.properties.place, (forms::Place{1500, 750, 7500, 6000}));
+    EXPECT_EQ(form.properties.place, (forms::Bounds{1500, 750, 7500, 6000}));
     EXPECT_EQ(events, u"sized;");
 }
 
@@ -202,7 +202,7 @@ TEST_F(FormWindowTest, APlaceThatIsNoWholeNumberOfPixelsStaysAsItIs) {
     form.centred = false;
     form.properties.place = {997, 2593, 6001, 4501};
     show(form, {[](HWND) {}});
-    EXPECT_EQ(form.properties.place, (forms::Place{997, 2593, 6001, 4501}));
+    EXPECT_EQ(form.properties.place, (forms::Bounds{997, 2593, 6001, 4501}));
 }
 
 TEST_F(FormWindowTest, TheWindowShowsTheProgramsIcon) {

@@ -10,46 +10,48 @@ namespace ornavel::rehearsal {
 namespace {
 
 using forms::Control;
+using forms::ControlKind;
 using forms::Event;
 using forms::Form;
-using forms::Kind;
 
 /// A form with something of every kind that has a window, and code that the steps run.
 class Order {
 public:
     Order()
-        : form(
-              {.name = u"frmOrder", .place = {0, 0, 6000, 4500}, .caption = u"Order"},
-              {
-                  {.kind = Kind::text_box, .name = u"txtNote", .place = {120, 120, 2400, 300}},
-                  {.kind = Kind::text_box, .name = u"txtSum", .place = {120, 480, 2400, 300}, .locked = true},
-                  {.kind = Kind::combo_box, .name = u"cboSize", .place = {120, 840, 2400, 300}},
-                  {.kind = Kind::check_box,
-                   .name = u"chkGift",
-                   .place = {120, 1200, 2400, 300},
-                   .caption = u"&Gift",
-                   .tool_tip = u"Wrapped in paper",
-                   .ticked = true},
-                  {.kind = Kind::frame,
-                   .name = u"fraMore",
-                   .place = {120, 1560, 2400, 900},
-                   .visible = false},
-                  {.kind = Kind::label,
-                   .name = u"lblMore",
-                   .place = {60, 240, 1200, 300},
-                   .caption = u"More",
-                   .frame = u"fraMore"},
-                  {.kind = Kind::label,
-                   .name = u"lblTip",
-                   .place = {2640, 120, 2400, 300},
-                   .caption = u"Tip"},
-                  {.kind = Kind::image, .name = u"imgLogo", .place = {2640, 480, 600, 600}},
-                  {.kind = Kind::command_button,
-                   .name = u"cmdOrder",
-                   .place = {2640, 1200, 1200, 375},
-                   .caption = u"Order",
-                   .enabled = false},
-              }) {
+        : form({.name = u"frmOrder", .place = {0, 0, 6000, 4500}, .caption = u"Order"},
+               {
+                   {.kind = ControlKind::text_box, .name = u"txtNote", .place = {120, 120, 2400, 300}},
+                   {.kind = ControlKind::text_box,
+                    .name = u"txtSum",
+                    .place = {120, 480, 2400, 300},
+                    .locked = true},
+                   {.kind = ControlKind::combo_box, .name = u"cboSize", .place = {120, 840, 2400, 300}},
+                   {.kind = ControlKind::check_box,
+                    .name = u"chkGift",
+                    .place = {120, 1200, 2400, 300},
+                    .caption = u"&Gift",
+                    .tool_tip = u"Wrapped in paper",
+                    .ticked = true},
+                   {.kind = ControlKind::frame,
+                    .name = u"fraMore",
+                    .place = {120, 1560, 2400, 900},
+                    .visible = false},
+                   {.kind = ControlKind::label,
+                    .name = u"lblMore",
+                    .place = {60, 240, 1200, 300},
+                    .caption = u"More",
+                    .frame = u"fraMore"},
+                   {.kind = ControlKind::label,
+                    .name = u"lblTip",
+                    .place = {2640, 120, 2400, 300},
+                    .caption = u"Tip"},
+                   {.kind = ControlKind::image, .name = u"imgLogo", .place = {2640, 480, 600, 600}},
+                   {.kind = ControlKind::command_button,
+                    .name = u"cmdOrder",
+                    .place = {2640, 1200, 1200, 375},
+                    .caption = u"Order",
+                    .enabled = false},
+               }) {
         form.on(u"cboSize", Event::drop_down, [this] { form[u"cboSize"].items = {u"small", u"large"}; });
         form.on(u"cboSize", Event::click,
                 [this] { form[u"txtSum"].text += u"(" + form[u"cboSize"].text + u")"; });

@@ -15,7 +15,7 @@ struct WindowPlace : FormWindowTest {
         GetWindowRect(window, &frame);
         return frame;
     }
-    static forms::Place place_of(HWND window) { return Scale::of_screen().twips(frame_of(window)); }
+    static forms::Bounds place_of(HWND window) { return Scale::of_screen().twips(frame_of(window)); }
 };
 
 TEST_F(WindowPlace, AFormThatWasLeftOutsideTheScreenComesBackIntoIt) {
@@ -37,20 +37,20 @@ TEST_F(WindowPlace, AMaximisedFormKeepsThePlaceToWhichItReturns) {
     show(form, {[](HWND window) { SendMessageW(window, WM_SYSCOMMAND, SC_MAXIMIZE, 0); },
                 [&](HWND window) {
                     EXPECT_TRUE(IsZoomed(window));
-                    EXPECT_EQ(form.properties.place, (forms::Place{1500, 750, 7500, 6000}));
+                    EXPECT_EQ(form.properties.place, (forms::Bounds{1500, 750, 7500, 6000}));
                     EXPECT_GT(widths.back(), 15000) << "its controls have the room of the whole screen";
                 },
                 [](HWND window) { SendMessageW(window, WM_SYSCOMMAND, SC_RESTORE, 0); },
                 [&](HWND window) {
-                    EXPECT_EQ(place_of(window), (forms::Place{1500, 750, 7500, 6000}));
+                    EXPECT_EQ(place_of(window), (forms::Bounds{1500, 750, 7500, 6000}));
                     EXPECT_LT(widths.back(), 7500);
                 }});
-    EXPECT_EQ(form.properties.place, (forms::Place{1500, 750, 7500, 6000}));
+    EXPECT_EQ(form.properties.place, (forms::Bounds{1500, 750, 7500, 6000}));
 }
 
 TEST_F(WindowPlace, AFormThatIsClosedWhileItIsMaximisedComesBackWhereItWas) {
     show(form, {[](HWND window) { SendMessageW(window, WM_SYSCOMMAND, SC_MAXIMIZE, 0); }, [](HWND) {}});
-    EXPECT_EQ(form.properties.place, (forms::Place{1500, 750, 7500, 6000}));
+    EXPECT_EQ(form.properties.place, (forms::Bounds{1500, 750, 7500, 6000}));
 }
 
 TEST_F(WindowPlace, CodeThatChangesAMaximisedFormLeavesItMaximised) {
@@ -67,9 +67,9 @@ TEST_F(WindowPlace, AnIconIsNoPlace) {
     show(form, {[](HWND window) { ShowWindow(window, SW_MINIMIZE); },
                 [&](HWND window) {
                     EXPECT_TRUE(IsIconic(window));
-                    EXPECT_EQ(form.properties.place, (forms::Place{1500, 750, 7500, 6000}));
+                    EXPECT_EQ(form.properties.place, (forms::Bounds{1500, 750, 7500, 6000}));
                 }});
-    EXPECT_EQ(form.properties.place, (forms::Place{1500, 750, 7500, 6000}));
+    EXPECT_EQ(form.properties.place, (forms::Bounds{1500, 750, 7500, 6000}));
 }
 
 TEST_F(WindowPlace, AWindowCannotBeMadeSmallerThanItsControlsNeed) {

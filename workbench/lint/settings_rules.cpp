@@ -35,12 +35,12 @@ private:
     void check(const FileSetting& setting) {
         const Key* key = find_key(setting.section, setting.name);
         if (!key) return check_unknown(setting);
-        if (key->kind == Kind::switch_ && setting.value != on && setting.value != off)
+        if (key->kind == SettingKind::switch_ && setting.value != on && setting.value != off)
             tell(setting.at, "switch-value",
                  Text(key->name) + u" is " + shown(setting.value) + u", so it is off",
                  u"Write \"True\" or \"False\", with these capitals");
-        if (key->kind == Kind::tick) check_tick(*key, setting);
-        if (key->kind == Kind::path) check_path(*key, setting);
+        if (key->kind == SettingKind::tick) check_tick(*key, setting);
+        if (key->kind == SettingKind::path) check_path(*key, setting);
     }
 
     void check_tick(const Key& key, const FileSetting& setting) {

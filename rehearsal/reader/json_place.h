@@ -8,9 +8,9 @@
 namespace ornavel::rehearsal {
 
 /// One value of a scenario and the path to it. Every reading refuses another type as Unusable, in one line.
-class Place {
+class JsonPlace {
 public:
-    Place(const Json& json, std::string source, std::string path = {})
+    JsonPlace(const Json& json, std::string source, std::string path = {})
         : json_(&json), source_(std::move(source)), path_(std::move(path)) {}
 
     const Json& json() const { return *json_; }
@@ -28,19 +28,19 @@ public:
     int small_number(int least = std::numeric_limits<int>::min()) const;
     LocalTime time() const;
 
-    Place member(const std::string& name) const;
-    Place element(std::size_t index) const;
+    JsonPlace member(const std::string& name) const;
+    JsonPlace element(std::size_t index) const;
     std::size_t size() const { return json_->size(); }
 
     void must_be_object() const;
     /// Visits the elements of an array in order.
-    void each_element(const std::function<void(const Place&)>& visit) const;
+    void each_element(const std::function<void(const JsonPlace&)>& visit) const;
     /// Visits the members of an object in order; two names that differ by case only are refused.
-    void each_member(const std::function<void(const Text& name, const Place&)>& visit) const;
+    void each_member(const std::function<void(const Text& name, const JsonPlace&)>& visit) const;
 
     struct Field {
         const char* name;
-        std::function<void(const Place&)> read;
+        std::function<void(const JsonPlace&)> read;
     };
     /// Reads an object whose members are the given fields, each optional; any other member is refused.
     void fields(std::initializer_list<Field> known) const;

@@ -1,4 +1,4 @@
-#include "rehearsal/reader/place.h"
+#include "rehearsal/reader/json_place.h"
 
 #include "base/encoding.h"
 
@@ -6,23 +6,23 @@
 
 namespace ornavel::rehearsal {
 
-void Place::refuse(const std::string& reason) const {
+void JsonPlace::refuse(const std::string& reason) const {
     throw Unusable(source_ + ": " + (path_.empty() ? "" : path_ + ": ") + reason);
 }
 
-Text Place::text() const { return from_utf8(bytes()); }
+Text JsonPlace::text() const { return from_utf8(bytes()); }
 
-std::string Place::bytes() const {
+std::string JsonPlace::bytes() const {
     if (!json_->is_string()) refuse("expected a text");
     return json_->get<std::string>();
 }
 
-bool Place::flag() const {
+bool JsonPlace::flag() const {
     if (!json_->is_boolean()) refuse("expected true or false");
     return json_->get<bool>();
 }
 
-std::int64_t Place::number(std::int64_t least, std::int64_t most) const {
+std::int64_t JsonPlace::number(std::int64_t least, std::int64_t most) const {
     if (!json_->is_number()) refuse("expected a number");
     if (!json_->is_number_integer()) refuse("expected a whole number");
     const bool huge = json_->is_number_unsigned() &&
@@ -32,39 +32,39 @@ std::int64_t Place::number(std::int64_t least, std::int64_t most) const {
     return json_->get<std::int64_t>();
 }
 
-int Place::small_number(int least) const {
+int JsonPlace::small_number(int least) const {
     return static_cast<int>(number(least, std::numeric_limits<int>::max()));
 }
 
-LocalTime Place::time() const {
+LocalTime JsonPlace::time() const {
     const auto time = parse_time(bytes());
     if (!time) refuse("expected a time such as 2003-11-20T14:05:09");
     return *time;
 }
 
-Place Place::member(const std::string& name) const {
+JsonPlace JsonPlace::member(const std::string& name) const {
     return {json_->at(name), source_, path_.empty() ? name : path_ + "." + name};
 }
 
-Place Place::element(std::size_t index) const {
+JsonPlace JsonPlace::element(std::size_t index) const {
     return {json_->at(index), source_, path_ + "[" + std::to_string(index) + "]"};
 }
 
-void Place::must_be_object() const {
+void JsonPlace::must_be_object() const {
     if (!json_->is_object()) refuse("expected an object");
 }
 
-void Place::each_element(const std::function<void(const Place&)>& visit) const {
+void JsonPlace::each_element(const std::function<void(const JsonPlace&)>& visit) const {
     if (!json_->is_array()) refuse("expected an array");
     for (std::size_t index = 0; index < json_->size(); ++index) visit(element(index));
 }
 
-void Place::each_member(const std::function<void(const Text&, const Place&)>& visit) const {
+void JsonPlace::each_member(const std::function<void(const Text&, const JsonPlace&)>& visit) const {
     must_be_object();
     std::vector<Text> seen;
     for (const auto& [name, value] : json_->items()) {
         const Text text = from_utf8(name);
-        const Place place = member(name);
+        const JsonPlace place = member(name);
         if (std::any_of(seen.begin(), seen.end(), [&](const Text& other) { return same_name(other, text); }))
             place.refuse("the same name is there in another spelling");
         seen.push_back(text);
@@ -72,7 +72,7 @@ void Place::each_member(const std::function<void(const Text&, const Place&)>& vi
     }
 }
 
-void Place::fields(std::initializer_list<Field> known) const {
+void JsonPlace::fields(std::initializer_list<Field> known) const {
     must_be_object();
     for (const auto& [name, value] : json_->items()) {
         const auto field =
