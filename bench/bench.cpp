@@ -81,13 +81,14 @@ void print_filters() {
         {"style filter", [](Text& text) { compose::empty_style_block(text); }},
         {"font filter", compose::break_fonts},
         {"lines of plain text", [](Text& text) { text = compose::lines_as_divisions(text); }},
-        {"tabs of plain text", [](Text& text) { text = compose::without_tabs(text); }},
+        {"tabs of plain text", [](Text& text) { compose::replace_tabs(text); }},
         {"image letters of Word", compose::break_image_tags},
     };
     for (const auto& [what, work] : others) print_costs(what, typical_body, work, 500);
     print_costs("body tag filter, tag without an end", pieces(u"<body"), others[0].second, 500);
     print_costs("style filter, block without an end", pieces(u"<style>"), others[1].second, 500);
     print_costs("font filter, fonts only", pieces(u"face="), others[2].second, 500);
+    print_costs("tabs of plain text, every word", pieces(u"word\t"), others[4].second, 500);
 }
 
 void print_composition() {

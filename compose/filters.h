@@ -50,7 +50,7 @@ Text with_links(TextView text, TextView prefix);
 /// Each line of a plain text in a division and a span of its own. Throws TextTooLarge.
 Text lines_as_divisions(TextView text);
 
-/// Tabs as blanks that HTML keeps. Throws TextTooLarge.
-Text without_tabs(TextView text);
+/// Makes tabs blanks that HTML keeps. Throws TextTooLarge, and leaves the text as it was.
+void replace_tabs(Text& text);
 
 } // namespace ornavel::compose

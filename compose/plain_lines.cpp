@@ -36,7 +36,8 @@ Text lines_as_divisions(TextView text) {
     return result;
 }
 
-Text without_tabs(TextView text) {
+void replace_tabs(Text& text) {
+    if (!contains(text, u"\t") && !is_blank(text)) return;
     Text result;
     result.reserve(text.size() + text.size() / 8);
     bool first = true;
@@ -46,7 +47,7 @@ Text without_tabs(TextView text) {
         result.append(is_blank(piece) ? kept_blank : TextView()).append(piece);
         if (result.size() > largest_text) throw TextTooLarge();
     });
-    return result;
+    text = std::move(result);
 }
 
 } // namespace ornavel::compose

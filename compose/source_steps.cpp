@@ -81,7 +81,7 @@ void wrap_lines(Composition& c) {
 }
 
 void replace_tabs(Composition& c) {
-    if (is_plain(c)) c.message = without_tabs(c.message);
+    if (is_plain(c)) replace_tabs(c.message);
 }
 
 void cut_reply(Composition& c) {

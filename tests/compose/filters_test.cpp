@@ -100,12 +100,26 @@ TEST(Links, WordsInsideWordsGrowOnlyUpToTheBound) {
     EXPECT_THROW(with_links(text, u"www."), TextTooLarge);
 }
 
+Text with_tabs_replaced(Text text) {
+    replace_tabs(text);
+    return text;
+}
+
 TEST(PlainLines, BecomeDivisionsAndTabsBecomeBlanks) {
     EXPECT_EQ(lines_as_divisions(u"a\r\n \r\nb\nc"),
               u"<div><span>a</span></div><div><span>&nbsp </span></div>"
               u"<div><span>b\nc</span></div>");
     EXPECT_EQ(lines_as_divisions(u""), u"<div><span>&nbsp</span></div>");
-    EXPECT_EQ(without_tabs(u"a\t\tb"), u"a&nbsp;&nbsp;&nbsp;&nbsp&nbsp;&nbsp;&nbsp;b");
+    EXPECT_EQ(with_tabs_replaced(u"a\t\tb"), u"a&nbsp;&nbsp;&nbsp;&nbsp&nbsp;&nbsp;&nbsp;b");
+    EXPECT_EQ(with_tabs_replaced(u" "), u"&nbsp ");
+    EXPECT_EQ(with_tabs_replaced(u"a b"), u"a b");
+}
+
+TEST(PlainLines, WhoseTabsWouldMakeThemTooLargeStayAsTheyAre) {
+    const Text tabs(largest_text / 12, u'\t');
+    Text text = tabs;
+    EXPECT_THROW(replace_tabs(text), TextTooLarge);
+    EXPECT_EQ(text, tabs);
 }
 
 /// Texts glued from pieces by chance.
@@ -155,7 +169,7 @@ TEST(Filters, AreExactOnRandomPlainText) {
         const Text text = texts.text(10);
         ASSERT_EQ(with_links(text, u"www."), plain_links(text, u"www.")) << round;
         ASSERT_EQ(lines_as_divisions(text), plain_divisions(text)) << round;
-        ASSERT_EQ(without_tabs(text), plain_tabs(text)) << round;
+        ASSERT_EQ(with_tabs_replaced(text), plain_tabs(text)) << round;
     }
 }
 
