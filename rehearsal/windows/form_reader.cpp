@@ -79,13 +79,19 @@ Text tool_tip_of(HWND control, HWND tips) {
     return win32::text_of(text);
 }
 
-std::vector<Text> items_of(HWND list) {
+/// Its list is asked and not the box itself, whose every message goes by the tool tips first.
+std::vector<Text> items_of(HWND combo_box) {
+    COMBOBOXINFO parts{};
+    parts.cbSize = sizeof parts;
+    GetComboBoxInfo(combo_box, &parts);
     std::vector<Text> items;
-    const auto count = SendMessageW(list, CB_GETCOUNT, 0, 0);
+    const auto count = SendMessageW(parts.hwndList, LB_GETCOUNT, 0, 0);
     for (LRESULT index = 0; index < count; ++index) {
         const auto entry = static_cast<WPARAM>(index);
-        std::wstring text(static_cast<std::size_t>(SendMessageW(list, CB_GETLBTEXTLEN, entry, 0)) + 1, L'\0');
-        const auto length = SendMessageW(list, CB_GETLBTEXT, entry, reinterpret_cast<LPARAM>(text.data()));
+        std::wstring text(static_cast<std::size_t>(SendMessageW(parts.hwndList, LB_GETTEXTLEN, entry, 0)) + 1,
+                          L'\0');
+        const auto length =
+            SendMessageW(parts.hwndList, LB_GETTEXT, entry, reinterpret_cast<LPARAM>(text.data()));
         items.push_back(win32::text_of({text.data(), static_cast<std::size_t>(length)}));
     }
     return items;
