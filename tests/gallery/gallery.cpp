@@ -17,10 +17,27 @@ const State* shown = nullptr;
 Text folder;
 bool list_is_open = false;
 
-BOOL CALLBACK take_form(HWND window, LPARAM found) {
-    if (!IsWindowVisible(window) || win32::name_of(window).empty()) return TRUE;
+bool is_class(HWND window, std::wstring_view wanted) {
+    wchar_t found[16];
+    return wanted == std::wstring_view(found, static_cast<std::size_t>(GetClassNameW(window, found, 16)));
+}
+
+bool is_menu(HWND window) { return is_class(window, L"#32768"); }
+
+/// A form, a box or a menu.
+BOOL CALLBACK take_shown(HWND window, LPARAM found) {
+    if (!IsWindowVisible(window) || !(is_class(window, L"#32770") || is_menu(window))) return TRUE;
     *reinterpret_cast<HWND*>(found) = window;
     return FALSE;
+}
+
+void close(HWND window) {
+    if (is_menu(window))
+        EndMenu();
+    else if (win32::name_of(window).empty())
+        EndDialog(window, IDNO);
+    else
+        PostMessageW(window, WM_CLOSE, 0, 0);
 }
 
 BOOL CALLBACK take_list(HWND window, LPARAM found) {
@@ -37,16 +54,16 @@ bool open_list(HWND form) {
     return list_is_open = true;
 }
 
-/// The form has been drawn by now: a timer comes after everything else in the queue.
+/// The window has been drawn by now: a timer comes after everything else in the queue.
 void CALLBACK take_picture(HWND, UINT, UINT_PTR, DWORD) {
-    HWND form = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), take_form, reinterpret_cast<LPARAM>(&form));
-    if (!form || open_list(form)) return;
+    HWND window = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), take_shown, reinterpret_cast<LPARAM>(&window));
+    if (!window || open_list(window)) return;
     RECT frame;
-    GetWindowRect(form, &frame);
+    GetWindowRect(window, &frame);
     if (list_is_open) frame.bottom += 150;
     attempt([&] { write_picture(frame, folder + u"\\" + Text(shown->name) + u".bmp"); });
-    PostMessageW(form, WM_CLOSE, 0, 0);
+    close(window);
 }
 
 void show(const State& state) {

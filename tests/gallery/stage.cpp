@@ -1,8 +1,35 @@
 #include "tests/gallery/stage.h"
 
+#include "forms/frmSysTray.h"
+#include "win32/notification_icon.h"
+
 namespace ornavel::gallery {
 
 using namespace settings;
+
+namespace {
+
+/// A notification area whose user right-clicks the icon and picks one entry, or leaves the menu open.
+class PickingTray final : public forms::Tray {
+public:
+    std::optional<std::size_t> picked;
+
+    void show(TextView tip, std::function<void(int)> handler) override {
+        handler_ = handler;
+        icon_.show(tip, std::move(handler));
+    }
+    void hide() override { icon_.hide(); }
+    std::optional<std::size_t> pop_up(std::span<const forms::MenuEntry> entries) override {
+        return picked ? picked : icon_.pop_up(entries);
+    }
+    void right_click() { handler_(WM_RBUTTONUP); }
+
+private:
+    win32::NotificationIcon icon_;
+    std::function<void(int)> handler_;
+};
+
+} // namespace
 
 Stage::Stage() {
     for (const Text& file : files.list(folder.substr(0, folder.size() - 1))) files.remove(folder + file);
@@ -55,6 +82,26 @@ void Stage::show_preview(std::function<void(forms::frmBrowser&)> change) {
 }
 
 void Stage::show_help() { forms::show_help({store, files, windows, errors, launcher, item, folder}); }
+
+void Stage::show_tray(TextView entry) {
+    PickingTray tray;
+    forms::frmSysTray menu({store,
+                            windows,
+                            tray,
+                            forms::built_in_strings(),
+                            machine,
+                            launcher,
+                            errors,
+                            application,
+                            folder,
+                            {}});
+    menu.form().load();
+    const auto& controls = menu.form().controls();
+    for (std::size_t i = 0; i < controls.size(); ++i)
+        if (!entry.empty() && controls[i].name == entry) tray.picked = i;
+    tray.right_click();
+    menu.form().unload();
+}
 
 void Stage::show_prompt(TextView mode) { forms::PromptDialog(windows, forms::built_in_strings()).ask(mode); }
 

@@ -7,6 +7,7 @@
 #include "tests/fakes/recording_object.h"
 #include "tests/fakes/recording_reports.h"
 #include "win32/machine.h"
+#include "win32/system_information.h"
 #include "win32/windows_files.h"
 
 #include <functional>
@@ -24,11 +25,14 @@ struct Stage {
     void show_preview(std::function<void(forms::frmBrowser&)> change = {});
     void show_help();
     void show_prompt(TextView mode);
+    /// The administrator's menu, or what this entry of it opens.
+    void show_tray(TextView entry = {});
 
     Text folder = u"C:\\windows\\temp\\gallery\\";
     win32::WindowsFiles files;
     win32::DesktopWindows windows;
     win32::ShellLauncher launcher;
+    win32::WindowsInformation machine;
     settings::MemoryStore store;
     FixedClock clock;
     PreparedObjects objects;

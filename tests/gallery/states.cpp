@@ -119,6 +119,11 @@ constexpr State all[] = {
     {u"prompt-choose-signature", [](Stage& stage) { stage.show_prompt(u"Choose signature"); }},
     {u"prompt-format", [](Stage& stage) { stage.show_prompt(u"Format Warning"); }},
     {u"prompt-support", [](Stage& stage) { stage.show_prompt(u"Support email request"); }},
+    {u"tray-menu", [](Stage& stage) { stage.set(admin::WipeoutHTML, on), stage.show_tray(); }},
+    {u"tray-about", [](Stage& stage) { stage.show_tray(u"mnAbout"); }},
+    {u"tray-system", [](Stage& stage) { stage.show_tray(u"mnSystemInfo"); }},
+    {u"tray-signature", [](Stage& stage) { stage.show_tray(u"mnSignature"); }},
+    {u"tray-toggle", [](Stage& stage) { stage.show_tray(u"mnFontControl"); }},
 };
 
 } // namespace
