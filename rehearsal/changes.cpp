@@ -23,12 +23,6 @@ Json file_outcome(const std::string& bytes) {
     return {{"base64", encode_base64(bytes)}};
 }
 
-Json registry_outcome(const RegistryValue& value) {
-    if (const auto* number = std::get_if<std::uint32_t>(&value)) return *number;
-    if (const auto* text = std::get_if<Text>(&value)) return to_json(*text);
-    return {{"expand", to_json(std::get<ExpandText>(value).text)}};
-}
-
 using Values = ByName<RegistryValue>;
 
 Json changed_values(const Values& before, const Values& after) {
@@ -43,6 +37,12 @@ Json changed_values(const Values& before, const Values& after) {
 }
 
 } // namespace
+
+Json registry_outcome(const RegistryValue& value) {
+    if (const auto* number = std::get_if<std::uint32_t>(&value)) return *number;
+    if (const auto* text = std::get_if<Text>(&value)) return to_json(*text);
+    return {{"expand", to_json(std::get<ExpandText>(value).text)}};
+}
 
 Json changed_files(const Snapshot& before, const Snapshot& after) {
     Json json = Json::object();

@@ -60,8 +60,10 @@ void write_out(const std::string& file, const Json& outcome) {
 int rehearse(const CommandLine& line) {
     const auto all = load(line.scenarios, line.binding);
     std::vector<Json> outcomes, with_dll;
+    std::vector<WindowPictures> pictures;
     if (line.binding != Binding::wine) outcomes = play_natively(all);
-    if (line.binding != Binding::native) with_dll = play_under_wine(all);
+    if (line.binding != Binding::native)
+        with_dll = line.report.empty() ? play_under_wine(all) : play_under_wine(all, pictures);
     if (line.binding == Binding::wine) outcomes.swap(with_dll);
     tell_notes(all, outcomes);
     bool good = true;
@@ -70,7 +72,7 @@ int rehearse(const CommandLine& line) {
     const bool single = line.scenarios.size() == 1 && all.size() == 1 && !all[0].is_of_suite();
     write_out(line.out, single ? outcomes[0] : Json(outcomes));
     if (!line.report.empty())
-        report::write_report(line.report, all, line.binding == Binding::wine ? outcomes : with_dll,
+        report::write_report(line.report, all, line.binding == Binding::wine ? outcomes : with_dll, pictures,
                              line.out.empty() ? std::cerr : std::cout);
     return good ? exit_played : exit_failed;
 }

@@ -15,5 +15,7 @@ Json crash_outcome(const Text& name, const std::string& error);
 /// What changed on the machine's disk and in its registry; null is what went.
 Json changed_files(const Snapshot& before, const Snapshot& after);
 Json changed_registry(const Snapshot& before, const Snapshot& after);
+/// One value of it.
+Json registry_outcome(const RegistryValue& value);
 
 } // namespace ornavel::rehearsal

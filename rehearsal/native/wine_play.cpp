@@ -54,6 +54,22 @@ public:
                 << to_json_text(with_files_inside(scenarios[i].json, scenarios[i].scenario));
     }
 
+    std::vector<Json> play() const {
+        std::vector<Json> outcomes;
+        while (outcomes.size() < scenarios_.size()) play_on(outcomes);
+        return outcomes;
+    }
+
+    WindowPictures pictures(std::size_t i, const Json& outcome) const {
+        WindowPictures found;
+        for (std::size_t window = 0; window < outcome.value("windows", Json::array()).size(); ++window) {
+            const std::string file = out(i) + ".window" + std::to_string(window) + ".bmp";
+            if (fs::exists(file)) found[window] = load_file(file);
+        }
+        return found;
+    }
+
+private:
     /// Starts a process for the scenarios that have no outcome yet, and adds those it leaves: one at least.
     void play_on(std::vector<Json>& outcomes) const {
         const int code = run_apart([&] { return become(command(outcomes.size())); });
@@ -65,7 +81,6 @@ public:
         }
     }
 
-private:
     Json collect(std::size_t i, int code) const {
         const Loaded& loaded = scenarios_[i];
         const std::string copy = "Z:" + in(i);
@@ -98,8 +113,16 @@ private:
 
 std::vector<Json> play_under_wine(const std::vector<Loaded>& scenarios) {
     const Windows windows(scenarios);
-    std::vector<Json> outcomes;
-    while (outcomes.size() < scenarios.size()) windows.play_on(outcomes);
+    return windows.play();
+}
+
+std::vector<Json> play_under_wine(const std::vector<Loaded>& scenarios,
+                                  std::vector<WindowPictures>& pictures) {
+    const Windows windows(scenarios);
+    setenv("ORNAVEL_PICTURES", "yes", 1);
+    const auto outcomes = windows.play();
+    unsetenv("ORNAVEL_PICTURES");
+    for (std::size_t i = 0; i < outcomes.size(); ++i) pictures.push_back(windows.pictures(i, outcomes[i]));
     return outcomes;
 }
 

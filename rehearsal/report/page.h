@@ -14,8 +14,15 @@ std::string story_section(const Story& story, std::size_t number);
 /// What the add-in asked for and did in a story, folded away.
 std::string journal_section(const Story& story);
 
+/// What a story left in the registry and on the disk, folded away: values before and after, and files beside
+/// those that they were made from.
+std::string changes_section(const Story& story);
+
 /// The windows that a story showed, and what the user did in them; empty where it showed none.
 std::string windows_section(const Story& story);
+
+/// A form that no picture was taken of, drawn as a table of what it shows; empty where that is nothing.
+std::string window_table(const Json& form);
 
 extern const char* const style_sheet;
 /// Gives each frame the height of what it shows; the page's policy lets it run by its hash.

@@ -52,11 +52,13 @@ void write(const std::string& file, const std::string& bytes) {
 } // namespace
 
 void write_report(const std::string& page_file, const std::vector<Loaded>& all,
-                  const std::vector<Json>& with_dll, std::ostream& lines) {
+                  const std::vector<Json>& with_dll, const std::vector<WindowPictures>& pictures,
+                  std::ostream& lines) {
     std::vector<Story> stories;
     for (std::size_t i = 0; i < all.size(); ++i) {
         stories.push_back(gather(all[i].scenario, all[i].source,
                                  with_dll.empty() ? std::nullopt : std::optional(with_dll[i])));
+        if (i < pictures.size()) stories.back().pictures = pictures[i];
         print(stories.back(), i + 1, lines);
     }
     write(page_file, page(stories, origin()));

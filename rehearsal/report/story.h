@@ -3,6 +3,8 @@
 #include "rehearsal/journal.h"
 #include "rehearsal/scenario.h"
 
+#include <map>
+
 namespace ornavel::rehearsal::report {
 
 struct GateVisit {
@@ -33,6 +35,8 @@ struct Story {
     std::vector<std::string> mismatches;  ///< with what the scenario expects
     std::vector<JournalEntry> journal;    ///< of the native play
     std::vector<Send> sends;
+    std::map<std::size_t, std::string>
+        pictures{}; ///< of its forms, BMP files by their place among the windows
 };
 
 } // namespace ornavel::rehearsal::report

@@ -133,7 +133,7 @@ std::string story_section(const Story& story, std::size_t number) {
     for (const auto& send : story.sends) body += send_part(story, send);
     body += look_at_this(story) + windows_section(story);
     for (const auto& send : story.sends) body += sources(story, send);
-    body += journal_section(story) + verdicts(story);
+    body += changes_section(story) + journal_section(story) + verdicts(story);
     return "<section id=\"story-" + std::to_string(number) + "\">\n" + body + "</section>\n";
 }
 

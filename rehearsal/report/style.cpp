@@ -83,6 +83,12 @@ mark { background: #fdf0c4; color: inherit; }
 .windows li { display: flex; flex-wrap: wrap; gap: 2px 14px; padding: 10px 16px; margin-bottom: 8px; border-left: 3px solid #d9b56a; background: var(--card); font-size: 14px; }
 .windows span { flex: 1 1 40ch; white-space: pre-line; }
 .windows em { color: var(--amber); }
+.windows img { max-width: 100%; border-radius: 3px; box-shadow: 0 1px 3px rgba(60, 55, 35, .35); }
+.windows .look, .windows details { flex: 1 1 100%; margin: 6px 0 4px; }
+.windows .look p { margin: 2px 0 0; color: var(--soft); font-size: 13px; }
+.drawn .box { padding: 0 8px; border: 1px solid var(--soft); }
+.drawn .button { padding: 0 12px; border: 1px solid var(--soft); border-radius: 4px; background: var(--grey-wash); }
+.drawn .off span { color: var(--soft); font-style: italic; }
 .verdicts { display: flex; flex-wrap: wrap; gap: 6px 22px; margin: 14px 0 0; padding: 0; list-style: none; font-size: 14px; }
 .verdicts .good { color: var(--green); }
 .verdicts .good::before { content: "\2713\00a0"; }

@@ -2,6 +2,7 @@
 
 #include "base/encoding.h"
 #include "rehearsal/report/html.h"
+#include "rehearsal/report/png.h"
 #include "rehearsal/report/words.h"
 
 namespace ornavel::rehearsal::report {
@@ -62,11 +63,26 @@ std::string answer_to(const Json& shown, const UserEntry* entry) {
     return entry->steps.empty() ? "closed" : steps_in(shown, entry->steps);
 }
 
-std::string window(const Json& shown, const UserEntry* entry) {
+bool has_page(const Json& form) {
+    for (const auto& control : form.value("controls", Json::object()))
+        if (text_of(control, "kind") == "WebBrowser") return true;
+    return false;
+}
+
+std::string look_of(const Json& shown, const std::string* bmp) {
+    if (!bmp) return window_table(shown);
+    const std::string picture = "<img alt=\"" + escape(title_of_window(shown)) +
+                                "\" src=\"data:image/png;base64," + encode_base64(png_of_bmp(*bmp)) + "\">\n";
+    const std::string note =
+        has_page(shown) ? "Wine shows no page in it; the mail client's machine does." : "";
+    return element("div", "look", picture + (note.empty() ? note : text_element("p", "", note)));
+}
+
+std::string window(const Json& shown, const UserEntry* entry, const std::string* bmp) {
     const std::string words = text_of(shown, "text") + text_of(shown, "prompt") + labels_of(shown);
     return element("li", shown.value("unexpected", false) ? "bad" : "",
                    text_element("strong", "", title_of_window(shown)) + text_element("span", "", words) +
-                       text_element("em", "", answer_to(shown, entry)));
+                       text_element("em", "", answer_to(shown, entry)) + look_of(shown, bmp));
 }
 
 } // namespace
@@ -74,9 +90,12 @@ std::string window(const Json& shown, const UserEntry* entry) {
 std::string windows_section(const Story& story) {
     std::string windows;
     auto entry = story.scenario.user.begin();
+    std::size_t number = 0;
     for (const auto& shown : story.outcome.value("windows", Json::array())) {
         const bool expected = !shown.value("unexpected", false) && entry != story.scenario.user.end();
-        windows += window(shown, expected ? &*entry++ : nullptr);
+        const auto picture = story.pictures.find(number++);
+        windows += window(shown, expected ? &*entry++ : nullptr,
+                          picture == story.pictures.end() ? nullptr : &picture->second);
     }
     return windows.empty() ? windows : element("ul", "windows", windows);
 }

@@ -35,6 +35,7 @@ Json play(const Scenario& scenario, const std::string& source) {
     Journal journal;
     WindowsMachine machine(scenario, source);
     const AtPlay current(machine);
+    if (std::getenv("ORNAVEL_PICTURES")) machine.keep_pictures(at_play.out + u".window");
     machine.prepare(scenario);
     MailClient client(scenario, machine, failures, journal);
     const auto subscriptions = std::make_shared<Subscriptions>();
@@ -91,6 +92,7 @@ bool neighbour_is_there() {
 
 /// rehearse (IN.json OUT.json)...: plays scenarios with the real DLL, up to the first that can't be played or
 /// that leaves the DLL in use. One that can't be played leaves its reason in OUT; then the exit code is 2.
+/// With ORNAVEL_PICTURES in the environment, pictures of its forms lie beside OUT.
 int main(int count, char** words) {
     using namespace ornavel::rehearsal;
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);

@@ -8,6 +8,7 @@
 #include "rehearsal/windows/menu_hand.h"
 #include "rehearsal/windows/message_box.h"
 #include "rehearsal/windows/window_parts.h"
+#include "rehearsal/windows/window_picture.h"
 #include "win32/window_name.h"
 
 #include <algorithm>
@@ -112,7 +113,21 @@ void ScreenUser::meet_menu(HWND window) {
     choose_in_menu(window, choice_.find(menu_));
 }
 
+/// A form has time to be drawn, with the page in it, before its picture is taken; until then the user waits.
+bool ScreenUser::is_pictured(OpenForm& form) const {
+    constexpr DWORD milliseconds_to_draw = 300;
+    if (form.pictured || pictures_.empty()) return true;
+    if (GetTickCount() - form.met < milliseconds_to_draw) return false;
+    form.pictured = true;
+    RECT frame;
+    GetWindowRect(form.window, &frame);
+    attempt(
+        [&] { write_picture(frame, pictures_ + to_text(static_cast<long long>(form.record)) + u".bmp"); });
+    return true;
+}
+
 void ScreenUser::go_on(OpenForm& form) {
+    if (!is_pictured(form)) return;
     form.busy = true;
     take_next_step(form);
     form.busy = false;

@@ -20,6 +20,9 @@ public:
     ScreenUser& operator=(const ScreenUser&) = delete;
 
     const Json& windows() const { return windows_; }
+    /// From now on a picture of each form is kept, as it was when the user first touched it: in a BMP file
+    /// whose path is this one, the window's place among the windows and ".bmp".
+    void keep_pictures(TextView path) { pictures_ = path; }
     /// Keeps nothing of the windows so far; none of them is open.
     void forget() { windows_ = Json::array(); }
 
@@ -41,6 +44,8 @@ private:
         bool has_steps_left() const { return entry && steps_taken < entry->steps.size(); }
         bool busy = false;   ///< in the middle of a step, which may have opened another window
         bool is_box = false; ///< an input box, which has been answered
+        DWORD met = GetTickCount();
+        bool pictured = false;
     };
 
     static LRESULT CALLBACK on_message(HWND window, UINT message, WPARAM word, LPARAM pointer);
@@ -54,6 +59,7 @@ private:
     void meet_input_box(HWND window, forms::Form& box);
     void meet_menu(HWND window);
     void go_on(OpenForm& form);
+    bool is_pictured(OpenForm& form) const;
     void take_next_step(OpenForm& form);
     void note_closing(HWND window);
 
@@ -62,6 +68,7 @@ private:
     HHOOK hook_;
     std::list<OpenForm> open_; ///< the last one is in front
     Json windows_ = Json::array();
+    Text pictures_; ///< where pictures go; empty where none are kept
     MenuChoice choice_;
     HWND met_menu_ = nullptr; ///< a menu that has got its keys, which may still be on their way
     std::vector<Text> menu_;

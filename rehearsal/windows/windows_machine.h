@@ -31,6 +31,7 @@ public:
     std::optional<std::string> complaint() const override { return user_.complaint(); }
     Json launched() const override { return launches_.launched(); }
     Json windows() const override { return screen_.windows(); }
+    void keep_pictures(TextView path) { screen_.keep_pictures(path); }
     Json tray_outcome() const override { return to_json(tray_.record); }
 
     /// Keeps nothing of what was started and shown so far.

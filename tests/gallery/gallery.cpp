@@ -1,7 +1,7 @@
 // gallery FOLDER [STATE...]: shows these states of the forms, or all, one after the other, and leaves a
 // picture of each in the folder.
 #include "base/encoding.h"
-#include "tests/gallery/pictures.h"
+#include "rehearsal/windows/window_picture.h"
 #include "tests/gallery/states.h"
 #include "win32/window_name.h"
 
@@ -62,7 +62,7 @@ void CALLBACK take_picture(HWND, UINT, UINT_PTR, DWORD) {
     RECT frame;
     GetWindowRect(window, &frame);
     if (list_is_open) frame.bottom += 150;
-    attempt([&] { write_picture(frame, folder + u"\\" + Text(shown->name) + u".bmp"); });
+    attempt([&] { rehearsal::write_picture(frame, folder + u"\\" + Text(shown->name) + u".bmp"); });
     close(window);
 }
 

@@ -3,8 +3,12 @@
 #include "forms/screen_place.h"
 #include "rehearsal/form_record.h"
 #include "win32/form_window.h"
+#include "win32/wide.h"
+#include "win32/windows_files.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace ornavel::rehearsal {
 namespace {
@@ -133,6 +137,28 @@ TEST(ScreenUser, StepsInAFormsWindowLeaveTheRecordThatTheyLeaveInItsModel) {
         ASSERT_EQ(seen.windows.size(), 1u);
         EXPECT_EQ(nlohmann::json(seen.windows[0]), nlohmann::json(record_of_model(steps)));
     }
+}
+
+TEST(ScreenUser, KeepsAPictureOfEachFormWhereItIsAskedTo) {
+    wchar_t folder[MAX_PATH];
+    GetTempPathW(MAX_PATH, folder);
+    const Text path = win32::text_of(folder) + u"ornavel-order", file = path + u"0.bmp";
+    win32::WindowsFiles files;
+    attempt([&] { files.remove(file); });
+    Order order;
+    const std::vector<UserEntry> entries{working({step(Step::Kind::click, u"cmdOrder")})};
+    ScriptedUser user(entries, "x");
+    ScreenUser screen(user);
+    screen.keep_pictures(path);
+    order.form.load();
+    win32::show_form_modally(order.form);
+    const std::string picture = files.read(file);
+    EXPECT_TRUE(picture.starts_with("BM"));
+    std::set<std::string> colours;
+    for (std::size_t pixel = 54; pixel + 4 <= picture.size(); pixel += 4)
+        colours.insert(picture.substr(pixel, 4));
+    EXPECT_GT(colours.size(), 2u); // the form was drawn
+    files.remove(file);
 }
 
 TEST(ScreenUser, AStepThatNoUserCouldTakeIsComplainedOfAndTheFormIsClosed) {

@@ -1,10 +1,10 @@
-#include "tests/gallery/pictures.h"
+#include "rehearsal/windows/window_picture.h"
 
 #include "win32/windows_files.h"
 
 #include <cstring>
 
-namespace ornavel::gallery {
+namespace ornavel::rehearsal {
 namespace {
 
 /// The screen's pixels, from below, 32 bits each.
@@ -49,4 +49,4 @@ void write_picture(const RECT& on_screen, TextView path) {
     win32::WindowsFiles().write(path, bytes_of(file) + bytes_of(header) + pixels_of(on_screen, header));
 }
 
-} // namespace ornavel::gallery
+} // namespace ornavel::rehearsal
