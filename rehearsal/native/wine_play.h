@@ -15,6 +15,7 @@ std::vector<Json> play_under_wine(const std::vector<Loaded>& scenarios);
 using WindowPictures = std::map<std::size_t, std::string>;
 
 /// The same, and pictures of the forms of each.
-std::vector<Json> play_under_wine(const std::vector<Loaded>& scenarios, std::vector<WindowPictures>& pictures);
+std::vector<Json> play_under_wine(const std::vector<Loaded>& scenarios,
+                                  std::vector<WindowPictures>& pictures);
 
 } // namespace ornavel::rehearsal
