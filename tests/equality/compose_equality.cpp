@@ -1,11 +1,10 @@
 #include "base/encoding.h"
-#include "rehearsal/native/loaded.h"
 #include "rehearsal/native/native_play.h"
 #include "tests/equality/command_line.h"
+#include "tests/equality/over_scenarios.h"
 #include "workbench/program.h"
 
 #include <algorithm>
-#include <iostream>
 #include <map>
 #include <sstream>
 
@@ -40,7 +39,7 @@ std::string body_of(const Scenario& scenario, const Json& outcome) {
     return outcome.at("items").at(static_cast<std::size_t>(sent->number)).at("HTMLBody").get<std::string>();
 }
 
-void compare(const Loaded& loaded, Counts& counts) {
+void compare(Loaded loaded, Counts& counts) {
     Journal journal;
     const Json outcome = play_here(loaded.scenario, loaded.source, journal);
     if (!was_composed(journal)) {
@@ -77,14 +76,6 @@ int print(const Counts& counts) {
 } // namespace ornavel::equality
 
 int main(int count, char** words) {
-    using namespace ornavel;
-    try {
-        equality::Counts counts;
-        for (const auto& loaded : rehearsal::load({words + 1, words + count}, rehearsal::Binding::native))
-            equality::compare(loaded, counts);
-        return equality::print(counts);
-    } catch (const rehearsal::Unusable& error) {
-        std::cerr << error.what() << '\n';
-        return 2;
-    }
+    using namespace ornavel::equality;
+    return over_scenarios<Counts>({words + 1, words + count}, compare, print);
 }

@@ -1,11 +1,10 @@
 #include "base/encoding.h"
 #include "connect/send_pipeline.h"
-#include "rehearsal/native/loaded.h"
 #include "rehearsal/native/native_play.h"
+#include "tests/equality/over_scenarios.h"
 #include "workbench/log_reader.h"
 
 #include <algorithm>
-#include <iostream>
 #include <map>
 
 // Plays every scenario with the system check on, explains the log that it leaves, and compares with the gates
@@ -125,14 +124,6 @@ int print(const Counts& counts) {
 } // namespace ornavel::equality
 
 int main(int count, char** words) {
-    using namespace ornavel;
-    try {
-        equality::Counts counts;
-        for (auto& loaded : rehearsal::load({words + 1, words + count}, rehearsal::Binding::native))
-            equality::check(std::move(loaded), counts);
-        return equality::print(counts);
-    } catch (const rehearsal::Unusable& error) {
-        std::cerr << error.what() << '\n';
-        return 2;
-    }
+    using namespace ornavel::equality;
+    return over_scenarios<Counts>({words + 1, words + count}, check, print);
 }
