@@ -2,6 +2,7 @@
 
 #include "win32/wide.h"
 
+#include <cstdlib>
 #include <objbase.h>
 
 namespace ornavel::rehearsal {
@@ -24,6 +25,15 @@ HRESULT call(HMODULE module, const char* name) {
     return function ? function() : E_NOTIMPL;
 }
 
+/// Whether the DLL that a package has installed is played as it is, instead of the one built beside this
+/// program.
+bool is_installed_already() { return std::getenv("ORNAVEL_INSTALLED") != nullptr; }
+
+void copy(TextView from, TextView to) {
+    if (!CopyFileW(win32::wide(from).c_str(), win32::wide(to).c_str(), FALSE))
+        win32::fail(to, GetLastError());
+}
+
 win32::ComPtr<win32::IDTExtensibility2> make_add_in() {
     CLSID id{};
     must(CLSIDFromProgID(L"Ornavel.Connect", &id), u"Ornavel.Connect");
@@ -37,15 +47,14 @@ win32::ComPtr<win32::IDTExtensibility2> make_add_in() {
 } // namespace
 
 InstalledDll::InstalledDll(TextView folder) : path_(Text(folder) + u"\\Ornavel.dll"), module_(nullptr) {
-    if (!CopyFileW(win32::wide(built_dll()).c_str(), win32::wide(path_).c_str(), FALSE))
-        win32::fail(path_, GetLastError());
+    if (!is_installed_already()) copy(built_dll(), path_);
     module_ = LoadLibraryW(win32::wide(path_).c_str());
     if (!module_) win32::fail(path_, GetLastError());
-    must(call(module_, "DllRegisterServer"), u"DllRegisterServer");
+    if (!is_installed_already()) must(call(module_, "DllRegisterServer"), u"DllRegisterServer");
 }
 
 InstalledDll::~InstalledDll() {
-    call(module_, "DllUnregisterServer");
+    if (!is_installed_already()) call(module_, "DllUnregisterServer");
     CoFreeUnusedLibrariesEx(0, 0);
     FreeLibrary(module_);
 }

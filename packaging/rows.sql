@@ -1,0 +1,18 @@
+UPDATE `Component` SET `Condition` = 'PRESET' WHERE `Component` = 'preset'
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z1_templates', 'registration', 'templates', 2)
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z2_signatures', 'registration', 'signatures', 2)
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z3_pictures', 'registration', 'pictures', 2)
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z4_stationery', 'registration', 'STATIONERY', 2)
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z5_programs', 'registration', 'programs', 2)
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z6_ornavel', 'registration', 'ornavel', 2)
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z7_brevant', 'registration', 'brevant', 2)
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z8_menu', 'registration', 'menu', 2)
+UPDATE `CustomAction` SET `Type` = 51 WHERE `Source` = 'PRESET'
+UPDATE `CustomAction` SET `Type` = 51 WHERE `Source` = 'PRESETVERSION'
+UPDATE `CustomAction` SET `Type` = 1 WHERE `Action` = 'find_unchanged'
+UPDATE `InstallExecuteSequence` SET `Sequence` = 51 WHERE `Action` = 'keep_preset'
+UPDATE `InstallExecuteSequence` SET `Sequence` = 52 WHERE `Action` = 'keep_preset_version'
+UPDATE `InstallExecuteSequence` SET `Sequence` = 53 WHERE `Action` = 'find_unchanged'
+UPDATE `InstallExecuteSequence` SET `Sequence` = 1501 WHERE `Action` = 'RemoveExistingProducts'
+UPDATE `Property` SET `Value` = 'WIX_DOWNGRADE_DETECTED;WIX_UPGRADE_DETECTED;PRESET;PRESETVERSION;OLDPRESET;OLDPRESETVERSION' WHERE `Property` = 'SecureCustomProperties'
+INSERT INTO `LaunchCondition` (`Condition`, `Description`) VALUES ('NOT PRESET OR PRESET >< ":\" OR PRESET << "\\"', 'PRESET needs a full path, as C:\Presets\company.reg or \\server\share\company.reg.')

@@ -1,0 +1,152 @@
+"""The package of Windows Installer: its tables are written by wixl, and by msibuild where wixl has no words for a row.
+The same files make the same package: its product code follows from the version, its package code from its contents."""
+import hashlib
+import os
+import pathlib
+import re
+import shutil
+import struct
+import subprocess
+import sys
+import uuid
+from xml.sax.saxutils import quoteattr
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+PACKAGING = ROOT / "packaging"
+ACTIONS = ROOT / "build/windows/packaging/package_actions.dll"
+FAMILY = uuid.UUID("E0B5E4E7-7C5D-4E12-9C34-0B7A5F6C1D27")
+KEPT = ("templates", "signatures", "pictures")
+SUMMARY, TIME = "\x05SummaryInformation", 64
+NEVER_OVERWRITTEN = 128
+NAMES = {
+    "class": r"Software\Classes\CLSID\{01F2687D-003D-4805-8744-2B3921019DBC}",
+    "host": r"Software\Microsoft\Office\Outlook\Addins\Ornavel.Connect",
+    "once": r"Software\Microsoft\Active Setup\Installed Components\{8E5A6A0C-3E5B-4C0D-A3B7-5D8C1B1F4E62}",
+}
+
+
+def fail(words):
+    sys.exit(f"package: {words}")
+
+
+def code(name):
+    """A code of the form that Windows Installer wants, the same for the same name."""
+    return str(uuid.uuid5(FAMILY, name)).upper()
+
+
+def run(*command, **options):
+    result = subprocess.run(command, capture_output=True, text=True, **options)
+    if result.returncode or "ERROR" in result.stderr or "WARNING" in result.stderr:
+        fail(f"{command[0]} failed: {result.stderr or result.stdout}")
+    return result.stdout
+
+
+def key(file):
+    """What the tables call a file."""
+    return re.sub(r"[^\w.]", "_", file.name)
+
+
+def component(file):
+    shortcut = ""
+    if file.entry:
+        shortcut = (f'<Shortcut Id="entry_{key(file)}" Directory="menu" Name={quoteattr(file.entry)} '
+                    f'Target="[{file.folder}]{file.name}" WorkingDirectory="{file.folder}"/>')
+    return (f'<Component Id="{key(file)}" Guid="{code(f"{file.folder}/{file.name}")}"><File Id="{key(file)}" '
+            f'Name="{file.name}" Source="{file.folder}/{file.name}" KeyPath="yes"/>{shortcut}</Component>')
+
+
+def fragment(files):
+    """What wixl is told about the files."""
+    folders = dict.fromkeys(file.folder for file in files)
+    parts = [f'<DirectoryRef Id="{folder}">'
+             + "".join(component(file) for file in files if file.folder == folder) + "</DirectoryRef>"
+             for folder in folders]
+    group = "".join(f'<ComponentRef Id="{key(file)}"/>' for file in files)
+    return ('<?xml version="1.0" encoding="utf-8"?>\n<Wix xmlns="http://schemas.microsoft.com/wix/2006/wi"><Fragment>'
+            + "".join(parts) + f'<ComponentGroup Id="files">{group}</ComponentGroup></Fragment></Wix>\n')
+
+
+def version_of(file):
+    """As the version resource of a Windows program has it; None for other files."""
+    found = file.source.read_bytes().partition(b"\xbd\x04\xef\xfe\x00\x00\x01\x00")[2]
+    if not found:
+        return None
+    minor, major, build, patch = struct.unpack_from("<4H", found)
+    return f"{major}.{minor}.{patch}.{build}"
+
+
+def rows(file):
+    """Without its version a program would never take the place of one that has one. A sample outlives the package
+    unless it is as it was installed (see packaging/actions); a component without a code is one that the installer puts
+    there and then forgets."""
+    if version_of(file):
+        yield f"UPDATE `File` SET `Version` = '{version_of(file)}', `Language` = '1033' WHERE `File` = '{key(file)}'"
+        yield f"DELETE FROM `MsiFileHash` WHERE `File_` = '{key(file)}'"
+    if file.folder in KEPT:
+        yield (f"UPDATE `Component` SET `ComponentId` = '', `Attributes` = {NEVER_OVERWRITTEN} "
+               f"WHERE `Component` = '{key(file)}'")
+        yield ("INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `FileName`, `DirProperty`, `InstallMode`) "
+               f"VALUES ('{key(file)}', 'registration', '{file.name}', 'unchanged_{key(file)}', 2)")
+
+
+def contents(package, scratch):
+    """Every table, and every other stream, in a fixed order. msiinfo writes what a table holds in streams beside it."""
+    for table in sorted(run("msiinfo", "tables", package).split()):
+        if not table.startswith("_"):
+            yield table, run("msiinfo", "export", package, table, cwd=scratch).encode()
+    for stream in sorted(run("msiinfo", "streams", package).splitlines()):
+        if not stream.startswith("\x05"):
+            yield stream, subprocess.run(["msiinfo", "extract", package, stream], capture_output=True).stdout
+
+
+def package_code(package, scratch):
+    digest = hashlib.sha256()
+    for name, part in contents(package, scratch):
+        digest.update(f"{name}\n{len(part)}\n".encode() + part)
+    return code(digest.hexdigest())
+
+
+def gather(files, moment, scratch):
+    """All that wixl reads, in one folder: it takes no full paths."""
+    (scratch / "files.wxs").write_text(fragment(files), "utf-8")
+    places = [(file.source, f"{file.folder}/{file.name}") for file in files]
+    places += [(file, file.name) for file in (PACKAGING / "ornavel.wxs", PACKAGING / "ornavel.ico", ACTIONS)]
+    for source, name in places:
+        (scratch / name).parent.mkdir(exist_ok=True)
+        shutil.copyfile(source, scratch / name)
+        os.utime(scratch / name, (moment, moment))
+
+
+def set_times(package, moment):
+    """The two times of the summary, in tenths of microseconds since 1601. msibuild always writes the present."""
+    summary = subprocess.run(["msiinfo", "extract", package, SUMMARY], capture_output=True, check=True).stdout
+    present = re.search(struct.pack("<I", TIME) + rb".{7}\x01", summary, re.S)[0]
+    whole = package.read_bytes()
+    if whole.count(present) != 2:
+        fail(f"{package.name}: the times of its summary are not where they should be")
+    package.write_bytes(whole.replace(present, struct.pack("<IQ", TIME, (moment + 11_644_473_600) * 10_000_000)))
+
+
+def check(package, files, scratch):
+    """What wixl and msibuild were told is really there."""
+    held = {row.split("\t")[0] for row in run("msiinfo", "export", package, "File", cwd=scratch).splitlines()[3:]}
+    removed = run("msiinfo", "export", package, "RemoveFile", cwd=scratch)
+    if held != {key(file) for file in files} or not all(key(file) in removed for file in files if file.folder in KEPT):
+        fail(f"{package.name} lacks something; it holds {', '.join(sorted(held))}")
+
+
+def make_package(files, version, moment, scratch, package):
+    """Writes the package and gives back its package code. A file has a source, a name, a folder and the words of its entry
+    in the start menu; the moment is that of everything inside."""
+    gather(files, moment, scratch)
+    words = {"version": version, "product": code(version), "family": str(FAMILY).upper(), **NAMES}
+    defined = [part for name, value in words.items() for part in ("-D", f"{name}={value}")]
+    run("wixl", *defined, "-o", package, "ornavel.wxs", "files.wxs", cwd=scratch, env={**os.environ, "TZ": "UTC"})
+    fixed = (PACKAGING / "rows.sql").read_text("utf-8").splitlines()
+    run("msibuild", package, *(part for row in [*fixed, *(row for file in files for row in rows(file))]
+                               for part in ("-q", row)))
+    own_code = package_code(package, scratch)
+    run("msibuild", package, "-s", f"Ornavel {version}", "Brevant", "Intel;1033", f"{{{own_code}}}")
+    set_times(package, moment)
+    check(package, files, scratch)
+    return own_code
