@@ -27,6 +27,9 @@ public:
     virtual Text computer_name() const = 0;
     /// The account that is logged on.
     virtual Text user_name() const = 0;
+    /// Whom the system was installed for; empty where nobody said.
+    virtual Text registered_owner() const = 0;
+    virtual Text registered_organization() const = 0;
 };
 
 } // namespace ornavel

@@ -13,6 +13,7 @@ void Control::choose(TextView wanted) {
 void Control::select(int wanted) {
     const bool exists = wanted >= 0 && static_cast<std::size_t>(wanted) < items.size();
     index = exists ? wanted : -1;
+    if (kind == ControlKind::list_box) return;
     text = exists ? items[static_cast<std::size_t>(wanted)] : Text();
 }
 

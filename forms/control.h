@@ -11,12 +11,14 @@ enum class ControlKind {
     command_button,
     check_box,
     combo_box,
+    list_box,
     text_box,
     label,
     frame,
     image,
     menu,
     web_browser,
+    progress_bar,
     tab_strip,
     toolbar,
     list_view
@@ -52,8 +54,10 @@ struct Control {
     Text caption{};
     Text tool_tip{};
     Text text{};                ///< of a text box or a combo box
-    std::vector<Text> items{};  ///< of a combo box
-    int index = -1;             ///< the chosen entry of a combo box; -1 when its text is none of them
+    std::vector<Text> items{};  ///< of a combo box or a list box
+    int index = -1;             ///< the chosen entry of either; -1 when there is none
+    bool fixed_entries = false; ///< a combo box into which nothing can be typed
+    int value = 0;              ///< of a progress bar, per cent
     bool ticked = false;        ///< of a check box
     Text page{};                ///< the file or address that a web browser shows
     bool follows_links = false; ///< of a web browser: else a page stays where it is, and on this machine
@@ -73,7 +77,8 @@ struct Control {
 
     /// Makes a combo box show this text: the first entry that reads so, else the text alone with index -1.
     void choose(TextView wanted);
-    /// Makes a combo box show the entry at this index; an index that it does not have shows an empty text.
+    /// Makes a combo box show the entry at this index, and a list box mark it; an index that it does not have
+    /// shows an empty text, or marks none.
     void select(int wanted);
     /// Makes a web browser show a file or address, anew when it shows it already.
     void visit(TextView address);

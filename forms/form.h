@@ -56,6 +56,10 @@ public:
     /// What the user's own action on a control runs; code that changes a control runs nothing.
     void on(TextView control, Event event, Handler handler);
     Handler on_load, on_unload, on_resize;
+    /// Asked when the user closes the form by its frame; without it every form may be closed so.
+    std::function<bool()> may_close;
+    /// The control that gets the keyboard next; the form's window empties it.
+    Text next_focus;
 
     /// Runs on_load. A form that is loaded stays as it is.
     void load();

@@ -1,6 +1,15 @@
 #include "forms/form_user.h"
 
+#include <algorithm>
+
 namespace ornavel::forms {
+namespace {
+
+bool is_list(const Control& control) {
+    return control.kind == ControlKind::combo_box || control.kind == ControlKind::list_box;
+}
+
+} // namespace
 
 void FormUser::require_open() const {
     if (!form_.is_loaded()) throw UnusableStep(form_.name() + u" is closed");
@@ -39,21 +48,30 @@ void FormUser::drop_down(TextView name) {
 
 void FormUser::set_text(TextView name, TextView text) {
     Control& control = reach(name);
-    if (control.kind == ControlKind::combo_box) {
-        // Lists that are filled only when the user opens them must be full before the entry is looked for.
-        drop_down(name);
-        control.choose(text);
-        form_.fire(name, control.index < 0 ? Event::change : Event::click);
-        return;
-    }
+    if (is_list(control)) return choose(control, text);
     if (reach(name, ControlKind::text_box).locked) throw UnusableStep(control.name + u" can't be changed");
     control.text = text;
     form_.fire(name, Event::change);
 }
 
+void FormUser::choose(Control& control, TextView text) {
+    // Lists that are filled only when the user opens them must be full before the entry is looked for.
+    if (control.kind == ControlKind::combo_box) drop_down(control.name);
+    const auto entry = std::ranges::find(control.items, text);
+    const bool takes_words = control.kind == ControlKind::combo_box && !control.fixed_entries;
+    if (entry == control.items.end() && !takes_words)
+        throw UnusableStep(control.name + u" has no entry " + Text(text));
+    if (control.kind == ControlKind::combo_box)
+        control.choose(text);
+    else
+        control.select(static_cast<int>(entry - control.items.begin()));
+    form_.fire(control.name, control.index < 0 ? Event::change : Event::click);
+}
+
 void FormUser::select(TextView name, int index) {
-    Control& control = reach(name, ControlKind::combo_box);
-    drop_down(name);
+    Control& control = reach(name);
+    if (!is_list(control)) throw UnusableStep(control.name + u" is a control of another kind");
+    if (control.kind == ControlKind::combo_box) drop_down(name);
     if (index < 0 || static_cast<std::size_t>(index) >= control.items.size())
         throw UnusableStep(control.name + u" has no entry " + to_text(index));
     control.select(index);
@@ -80,7 +98,7 @@ void FormUser::move(int left, int top) {
 
 void FormUser::close() {
     require_open();
-    form_.unload();
+    if (!form_.may_close || form_.may_close()) form_.unload();
 }
 
 } // namespace ornavel::forms

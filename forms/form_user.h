@@ -21,10 +21,10 @@ public:
     void double_click(TextView control);
     /// Opens the list of a combo box.
     void drop_down(TextView control);
-    /// In a combo box, chooses the entry that reads so; where there is none, and in a text box, types the
-    /// text.
+    /// In a combo box or a list box, chooses the entry that reads so; where there is none, and in a text box,
+    /// types the text.
     void set_text(TextView control, TextView text);
-    /// Chooses an entry of a combo box; counts from 0.
+    /// Chooses an entry of a combo box or a list box; counts from 0.
     void select(TextView control, int index);
     /// A tick that changes nothing is no step.
     void tick(TextView control, bool ticked);
@@ -38,6 +38,7 @@ private:
     Control& reach(TextView control);
     Control& reach(TextView control, ControlKind kind);
     void require_open() const;
+    void choose(Control& control, TextView text);
 
     Form& form_;
 };

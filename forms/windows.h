@@ -3,15 +3,30 @@
 #include "base/message_box.h"
 #include "forms/form.h"
 
+#include <optional>
+
 namespace ornavel::forms {
 
-/// Everything that the add-in can show on the user's screen.
+/// A question for a file or folder. Patterns are such as "*.vcf"; without one every file is shown.
+struct PathQuestion {
+    enum class Kind { existing_file, new_file, folder };
+    Kind kind = Kind::existing_file;
+    Text title{};
+    Text proposed{}; ///< a full path; empty for none
+    Text files{};    ///< what the pattern's files are called, such as "vCards"
+    Text pattern{};
+};
+
+/// Everything that the add-in and its programs can show on the user's screen.
 class Windows : public MessageBoxes {
 public:
     /// Loads the form, shows it above everything else of the mail client, and returns when it is unloaded.
     /// Throws Failure when there is no window to be had: the form is unloaded then, too, and nobody has
     /// answered.
     virtual void show_modal(Form& form) = 0;
+    /// The full path that the user chose; nothing when the user cancelled. Throws Failure when there is no
+    /// window to be had.
+    virtual std::optional<Text> ask_for_path(const PathQuestion& question) = 0;
     /// Keeps another program's window above all others, where there is such a window.
     virtual void keep_on_top(int) {}
 };

@@ -8,9 +8,9 @@ namespace {
 using forms::Control;
 using forms::ControlKind;
 
-constexpr const char* kind_names[] = {"Form",     "CommandButton", "CheckBox", "ComboBox", "TextBox",
-                                      "Label",    "Frame",         "Image",    "Menu",     "WebBrowser",
-                                      "TabStrip", "Toolbar",       "ListView"};
+constexpr const char* kind_names[] = {"Form",       "CommandButton", "CheckBox", "ComboBox", "ListBox",
+                                      "TextBox",    "Label",         "Frame",    "Image",    "Menu",
+                                      "WebBrowser", "ProgressBar",   "TabStrip", "Toolbar",  "ListView"};
 
 Json items_of(const Control& control) {
     Json json = Json::array();
@@ -27,8 +27,11 @@ Json control_record(const Control& control) {
     if (control.kind == ControlKind::check_box) json["ticked"] = control.ticked;
     if (control.kind == ControlKind::text_box || control.kind == ControlKind::combo_box)
         json["text"] = to_json(control.text);
-    if (control.kind == ControlKind::combo_box) json["items"] = items_of(control);
-    if (control.kind == ControlKind::combo_box) json["index"] = control.index;
+    if (control.kind == ControlKind::combo_box || control.kind == ControlKind::list_box) {
+        json["items"] = items_of(control);
+        json["index"] = control.index;
+    }
+    if (control.kind == ControlKind::progress_bar) json["value"] = control.value;
     if (control.kind == ControlKind::web_browser) json["page"] = to_json(control.page);
     return json;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/files.h"
+#include "host/object.h"
 #include "rehearsal/scenario.h"
 
 #include <map>
@@ -65,6 +66,10 @@ public:
     /// Shows the prompt form in that mode, as the add-in's own code would, and gives back what the user
     /// answered; nothing where the machine has no way to show that form by itself.
     virtual std::optional<Text> prompt(TextView mode) = 0;
+
+    /// Runs one of the add-in's own programs to its end, with these objects, and gives its exit code; nothing
+    /// where there is no such program.
+    virtual std::optional<int> run(TextView program, TextView arguments, host::Objects& objects) = 0;
 
     /// Why the scripted user could not go on, when that is so.
     virtual std::optional<std::string> complaint() const = 0;

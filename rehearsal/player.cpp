@@ -74,6 +74,8 @@ void Player::play_act(const Act& act, Json& record) {
     case Kind::tray_message:
         if (!machine_.tray(act)) refuse(act, "no tray icon is shown");
         return;
+    case Kind::run:
+        return run(act, record);
     case Kind::prompt:
         const auto answer = machine_.prompt(act.text);
         if (!answer) refuse(act, "there is no prompt form");
@@ -101,6 +103,12 @@ void Player::dress(const Act& act, Json& record) {
     const int before = item->send_requests;
     client_.click(*button);
     record["answer"] = item->send_requests > before;
+}
+
+void Player::run(const Act& act, Json& record) {
+    const auto code = machine_.run(act.text, act.arguments, client_);
+    if (!code) refuse(act, "there is no such program");
+    record["exit code"] = *code;
 }
 
 void Player::click(const Act& act) {

@@ -31,6 +31,7 @@ private:
     void play_act(const Act& act, Json& record);
     void send(int item, Json& record);
     void dress(const Act& act, Json& record);
+    void run(const Act& act, Json& record);
     void click(const Act& act);
     [[noreturn]] void refuse(const Act& act, const std::string& reason) const;
 

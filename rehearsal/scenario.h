@@ -48,6 +48,11 @@ inline Text application_data(const Computer& computer) {
     return u"C:\\Documents and Settings\\" + computer.user + u"\\Application Data";
 }
 
+/// Where that user's programs have files that go with them.
+inline Text scratch_folder(const Computer& computer) {
+    return u"C:\\Documents and Settings\\" + computer.user + u"\\Local Settings\\Temp";
+}
+
 struct Host {
     Text version = u"11.0.6353";
     int explorers = 1;
@@ -139,11 +144,13 @@ struct Act {
         shutdown,
         disconnect,
         set,
-        clock
+        clock,
+        run
     };
     Kind kind = Kind::connect;
     int number = 0;
     Text text;
+    Text arguments; ///< of a program
     SettingsTree settings;
     LocalTime time;
     Json given;       ///< as the scenario spells it

@@ -52,4 +52,13 @@ Json answer_input_box(ScriptedUser& user, TextView title, TextView prompt, TextV
     return record;
 }
 
+Json answer_path_dialog(ScriptedUser& user, TextView title) {
+    const auto entry = user.meet(title);
+    if (entry && !entry->steps.empty()) user.complain(*entry, "the dialog takes an answer only");
+    Json record{{"file dialog", to_json(title)}};
+    record["answer"] = entry && entry->answer ? to_json(*entry->answer) : Json();
+    if (!entry) record["unexpected"] = true;
+    return record;
+}
+
 } // namespace ornavel::rehearsal

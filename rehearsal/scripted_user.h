@@ -29,6 +29,9 @@ private:
 /// Lets the user answer a message box; gives the box's record, with the answer in it.
 Json answer_message_box(ScriptedUser& user, TextView title, TextView text, Buttons buttons);
 
+/// Lets the user answer a file dialog; gives its record, with the answer in it: null when it is cancelled.
+Json answer_path_dialog(ScriptedUser& user, TextView title);
+
 /// Lets the user answer an input box; gives the box's record, with the answer in it: null when it is
 /// cancelled.
 Json answer_input_box(ScriptedUser& user, TextView title, TextView prompt, TextView prefilled);

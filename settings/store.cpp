@@ -43,7 +43,9 @@ int read_coordinate(const Store& store, const NumberKey& key) noexcept {
     return number_in(store, key, signed_value);
 }
 
-void save(Store& store, const Key& key, TextView value) noexcept { store.save(key.section, key.name, value); }
+bool save(Store& store, const Key& key, TextView value) noexcept {
+    return store.save(key.section, key.name, value);
+}
 
 std::optional<Text> MemoryStore::find(TextView section, TextView key) const noexcept {
     std::optional<Text> value;
@@ -56,11 +58,19 @@ std::optional<Text> MemoryStore::find(TextView section, TextView key) const noex
     return value;
 }
 
-void MemoryStore::save(TextView section, TextView key, TextView value) noexcept {
-    attempt([&] {
+bool MemoryStore::save(TextView section, TextView key, TextView value) noexcept {
+    return attempt([&] {
         Text copy(value);
         sections_.try_emplace(Text(section)).first->second.try_emplace(Text(key)).first->second.swap(copy);
     });
+}
+
+bool MemoryStore::remove(TextView section, TextView key) noexcept {
+    const auto values = sections_.find(section);
+    if (values == sections_.end()) return true;
+    if (const auto entry = values->second.find(key); entry != values->second.end())
+        values->second.erase(entry);
+    return true;
 }
 
 } // namespace ornavel::settings

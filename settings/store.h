@@ -7,14 +7,16 @@
 
 namespace ornavel::settings {
 
-/// The per-user store of named strings. Section and key names compare without case. Nothing fails: what can't
-/// be read is absent, what can't be written changes nothing.
+/// The per-user store of named strings. Section and key names compare without case. Nothing throws: what
+/// can't be read is absent, what can't be written changes nothing and answers false.
 class Store {
 public:
     virtual ~Store() = default;
     /// The stored value, which may be empty; nothing when it is absent.
     virtual std::optional<Text> find(TextView section, TextView key) const noexcept = 0;
-    virtual void save(TextView section, TextView key, TextView value) noexcept = 0;
+    virtual bool save(TextView section, TextView key, TextView value) noexcept = 0;
+    /// Afterwards the value is absent; one that is absent already is removed.
+    virtual bool remove(TextView section, TextView key) noexcept = 0;
 };
 
 /// The stored value, or the key's default.
@@ -40,7 +42,7 @@ int read_number(const Store& store, const NumberKey& key) noexcept;
 /// The same with the minus in front that a coordinate may have.
 int read_coordinate(const Store& store, const NumberKey& key) noexcept;
 
-void save(Store& store, const Key& key, TextView value) noexcept;
+bool save(Store& store, const Key& key, TextView value) noexcept;
 
 /// A store that lives as long as the program.
 class MemoryStore final : public Store {
@@ -52,7 +54,8 @@ public:
     using Section = std::map<Text, Text, NameOrder>;
 
     std::optional<Text> find(TextView section, TextView key) const noexcept override;
-    void save(TextView section, TextView key, TextView value) noexcept override;
+    bool save(TextView section, TextView key, TextView value) noexcept override;
+    bool remove(TextView section, TextView key) noexcept override;
 
     const std::map<Text, Section, NameOrder>& sections() const { return sections_; }
 

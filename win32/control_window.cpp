@@ -4,6 +4,10 @@
 #include "win32/wide.h"
 #include "win32/window_name.h"
 
+#include <commctrl.h>
+
+#include <algorithm>
+
 namespace ornavel::win32 {
 namespace {
 
@@ -22,6 +26,10 @@ Look text_box_look(const Control& control) {
     return {L"EDIT", WS_TABSTOP | lines | (control.locked ? ES_READONLY : 0), WS_EX_CLIENTEDGE};
 }
 
+DWORD combo_box_style(const Control& control) {
+    return control.fixed_entries ? DWORD{CBS_DROPDOWNLIST} : DWORD{CBS_DROPDOWN | CBS_AUTOHSCROLL};
+}
+
 DWORD picture_style(const Control& image) {
     return image.icon == forms::Icon::none ? DWORD{SS_BITMAP} : DWORD{SS_ICON};
 }
@@ -34,7 +42,12 @@ Look look_of(const Control& control) {
     case ControlKind::check_box:
         return {L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX | BS_MULTILINE, 0};
     case ControlKind::combo_box:
-        return {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL, 0};
+        return {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | combo_box_style(control), 0};
+    case ControlKind::list_box:
+        return {L"LISTBOX", WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+                WS_EX_CLIENTEDGE};
+    case ControlKind::progress_bar:
+        return {PROGRESS_CLASSW, 0, 0};
     case ControlKind::text_box:
         return text_box_look(control);
     case ControlKind::label:
@@ -103,6 +116,7 @@ void ControlWindow::show(const Control& control, const Control* frame, const Sca
     if (!window_) return;
     show_text(control);
     if (control.kind == ControlKind::web_browser) show_page(control);
+    if (control.kind == ControlKind::progress_bar) send(PBM_SETPOS, static_cast<WPARAM>(control.value));
     if (control.kind == ControlKind::check_box)
         send(BM_SETCHECK, control.ticked ? BST_CHECKED : BST_UNCHECKED);
     const bool moved = show_place(place_in_form(control, frame), scale);
@@ -122,15 +136,14 @@ void ControlWindow::show(const Control& control, const Control* frame, const Sca
 }
 
 void ControlWindow::show_text(const Control& control) {
-    if (control.kind == ControlKind::combo_box) {
-        show_list(control);
-        return;
-    }
+    if (control.kind == ControlKind::combo_box) return show_list(control);
+    if (control.kind == ControlKind::list_box) return show_entries(control);
     // The window's own text is asked, not the one last shown: what a user has just typed stays untouched.
     const Text& wanted = control.kind == ControlKind::text_box      ? control.text
                          : control.kind == ControlKind::web_browser ? control.page
                                                                     : control.caption;
-    if (control.kind != ControlKind::image && text() != wanted) SetWindowTextW(window_, wide(wanted).c_str());
+    if (control.kind == ControlKind::image || control.kind == ControlKind::progress_bar) return;
+    if (text() != wanted) SetWindowTextW(window_, wide(wanted).c_str());
 }
 
 void ControlWindow::show_list(const Control& control) {
@@ -142,6 +155,34 @@ void ControlWindow::show_list(const Control& control) {
     if (text() == control.text) return;
     send(CB_SETCURSEL, static_cast<WPARAM>(control.index));
     if (control.index < 0) SetWindowTextW(window_, wide(control.text).c_str());
+}
+
+void ControlWindow::show_entries(const Control& control) {
+    if (control.items != shown_.items) {
+        send(WM_SETREDRAW, FALSE);
+        send(LB_RESETCONTENT);
+        for (const Text& item : control.items)
+            send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(item).c_str()));
+        send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width_of_entries(control)));
+        send(WM_SETREDRAW, TRUE);
+        InvalidateRect(window_, nullptr, TRUE);
+    }
+    if (send(LB_GETCURSEL) != control.index) send(LB_SETCURSEL, static_cast<WPARAM>(control.index));
+}
+
+/// In pixels: how far the list must scroll for its longest entry to be read.
+int ControlWindow::width_of_entries(const Control& control) const {
+    const HDC canvas = GetDC(window_);
+    const HGDIOBJ before = SelectObject(canvas, reinterpret_cast<HFONT>(send(WM_GETFONT)));
+    LONG widest = 0;
+    for (const Text& item : control.items) {
+        SIZE size{};
+        GetTextExtentPoint32W(canvas, wide(item).c_str(), static_cast<int>(item.size()), &size);
+        widest = std::max(widest, size.cx);
+    }
+    SelectObject(canvas, before);
+    ReleaseDC(window_, canvas);
+    return static_cast<int>(widest) + 2 * GetSystemMetrics(SM_CXEDGE);
 }
 
 bool ControlWindow::show_place(const forms::Bounds& place, const Scale& scale) {
@@ -189,6 +230,8 @@ Text ControlWindow::text() const {
 
 bool ControlWindow::is_ticked() const { return send(BM_GETCHECK) == BST_CHECKED; }
 
-int ControlWindow::chosen_entry() const { return static_cast<int>(send(CB_GETCURSEL)); }
+int ControlWindow::chosen_entry() const {
+    return static_cast<int>(send(shown_.kind == ControlKind::list_box ? LB_GETCURSEL : CB_GETCURSEL));
+}
 
 } // namespace ornavel::win32

@@ -40,6 +40,8 @@ public:
 private:
     void show_text(const forms::Control& control);
     void show_list(const forms::Control& control);
+    void show_entries(const forms::Control& control);
+    int width_of_entries(const forms::Control& control) const;
     /// Whether it stood elsewhere before.
     bool show_place(const forms::Bounds& place, const Scale& scale);
     void show_state(bool visible, bool enabled);

@@ -112,6 +112,7 @@ void FormWindow::refresh() {
         controls_[i].show(control, form_.find(control.frame), scale_, *tips_);
     }
     show_default_button();
+    show_focus();
     refreshing_ = before;
 }
 
@@ -150,6 +151,15 @@ void FormWindow::show_default_button() {
     }
     if (wanted == std::exchange(default_id_, wanted)) return;
     SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(wanted), 0);
+}
+
+/// What the user types there replaces what stands there, as with the Tab key.
+void FormWindow::show_focus() {
+    const Text wanted = std::exchange(form_.next_focus, Text());
+    if (wanted.empty()) return;
+    for (const ControlWindow& control : controls_)
+        if (same_name(control.name(), wanted))
+            SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control.window()), TRUE);
 }
 
 /// The first control; where that is a button, the one that Enter presses, so that the two are one.

@@ -40,6 +40,7 @@ private:
     void show_frame();
     void fill_room();
     void show_default_button();
+    void show_focus();
     HWND first_focus() const;
 
     void on_command(int id, int notification);

@@ -85,8 +85,8 @@ bool FormWindow::handle(UINT message, WPARAM word, LPARAM pointer) {
             control.release_name();
         }
         window_ = nullptr;
-        // Windows that go with their owner take their form along.
-        step([](FormUser user) { user.close(); });
+        // Windows that go with their owner take their form along, whether it may be closed or not.
+        step([this](FormUser) { form_.unload(); });
         return false;
     default:
         return false;
@@ -116,8 +116,10 @@ void FormWindow::on_notification(const ControlWindow& control, int notification)
         step([&](FormUser user) { user.set_text(name, control.text()); });
     else if (told(ControlKind::combo_box, CBN_DROPDOWN))
         step([&](FormUser user) { user.drop_down(name); });
-    else if (told(ControlKind::combo_box, CBN_SELCHANGE))
+    else if (told(ControlKind::combo_box, CBN_SELCHANGE) || told(ControlKind::list_box, LBN_SELCHANGE))
         step([&](FormUser user) { user.select(name, control.chosen_entry()); });
+    else if (told(ControlKind::list_box, LBN_DBLCLK))
+        step([&](FormUser user) { user.double_click(name); });
     else if (told(ControlKind::label, STN_CLICKED) || told(ControlKind::image, STN_CLICKED))
         step([&](FormUser user) { user.click(name); });
     else if (told(ControlKind::label, STN_DBLCLK) || told(ControlKind::image, STN_DBLCLK))

@@ -3,6 +3,7 @@
 #include "win32/form_window.h"
 #include "win32/handle.h"
 #include "win32/message_box.h"
+#include "win32/path_dialog.h"
 #include "win32/wide.h"
 
 #include <shellapi.h>
@@ -102,6 +103,10 @@ Answer DesktopWindows::show(TextView title, TextView text, Buttons buttons) {
 void DesktopWindows::show_modal(forms::Form& form) {
     form.load();
     if (form.is_loaded()) show_form_modally(form);
+}
+
+std::optional<Text> DesktopWindows::ask_for_path(const forms::PathQuestion& question) {
+    return win32::ask_for_path(owner_of_boxes(), question);
 }
 
 void DesktopWindows::keep_on_top(int window) {

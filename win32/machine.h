@@ -27,6 +27,7 @@ class DesktopWindows final : public forms::Windows {
 public:
     Answer show(TextView title, TextView text, Buttons buttons) override;
     void show_modal(forms::Form& form) override;
+    std::optional<Text> ask_for_path(const forms::PathQuestion& question) override;
     void keep_on_top(int window) override;
 };
 

@@ -73,6 +73,11 @@ void RegistryKey::set(TextView name, DWORD number) {
               name);
 }
 
+void RegistryKey::remove(TextView name) {
+    const LSTATUS status = RegDeleteValueW(key_, wide(name).c_str());
+    if (status != ERROR_FILE_NOT_FOUND) check_key(status, name);
+}
+
 bool RegistryKey::empty() const {
     DWORD keys = 0;
     DWORD values = 0;

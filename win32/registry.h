@@ -43,6 +43,8 @@ public:
     std::optional<Text> text(TextView name) const;
     void set(TextView name, TextView text);
     void set(TextView name, DWORD number);
+    /// One that is not there is removed already.
+    void remove(TextView name);
 
     /// Has the event set when a key below this one is made, removed or renamed next; whether that can be had.
     bool tell_changes_of_names(HANDLE event) const;

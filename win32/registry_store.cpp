@@ -38,12 +38,23 @@ std::optional<Text> RegistryStore::find(TextView section, TextView key) const no
     return value;
 }
 
-void RegistryStore::save(TextView section, TextView key, TextView value) noexcept {
-    attempt([&] {
+bool RegistryStore::save(TextView section, TextView key, TextView value) noexcept {
+    return attempt([&] {
         RegistryKey::create(path_of(section)).set(key, value);
         // What was just saved is read next, also where the open key is no longer the section's.
-        if (const auto open = keys_.find(section); open != keys_.end()) keys_.erase(open);
+        forget(section);
     });
+}
+
+bool RegistryStore::remove(TextView section, TextView key) noexcept {
+    return attempt([&] {
+        if (auto open = RegistryKey::open(path_of(section), KEY_SET_VALUE)) open->remove(key);
+        forget(section);
+    });
+}
+
+void RegistryStore::forget(TextView section) {
+    if (const auto open = keys_.find(section); open != keys_.end()) keys_.erase(open);
 }
 
 } // namespace ornavel::win32

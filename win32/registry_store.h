@@ -15,7 +15,8 @@ namespace ornavel::win32 {
 class RegistryStore final : public settings::Store {
 public:
     std::optional<Text> find(TextView section, TextView key) const noexcept override;
-    void save(TextView section, TextView key, TextView value) noexcept override;
+    bool save(TextView section, TextView key, TextView value) noexcept override;
+    bool remove(TextView section, TextView key) noexcept override;
 
 private:
     struct NameOrder {
@@ -26,6 +27,7 @@ private:
 
     /// Nothing where the section has no key.
     const RegistryKey* key_of(TextView section) const;
+    void forget(TextView section);
 
     mutable KeyWatch watch_{u"Software\\VB and VBA Program Settings"};
     mutable Keys keys_;

@@ -12,6 +12,19 @@ namespace {
 
 [[noreturn]] void fail_with_last_error() { throw Failure(system_message(GetLastError())); }
 
+/// A text among what the system keeps about itself; empty where it is not there.
+Text value_of_system(const wchar_t* name) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows NT\\CurrentVersion", 0,
+                      KEY_QUERY_VALUE, &key) != ERROR_SUCCESS)
+        return {};
+    wchar_t text[512] = {};
+    DWORD type = REG_NONE, size = sizeof text - sizeof(wchar_t);
+    const LSTATUS status = RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
+    RegCloseKey(key);
+    return status == ERROR_SUCCESS && type == REG_SZ ? text_of(text) : Text();
+}
+
 } // namespace
 
 OperatingSystem WindowsInformation::operating_system() const {
@@ -47,6 +60,11 @@ Text WindowsInformation::user_name() const {
     DWORD length = UNLEN + 1;
     if (!GetUserNameW(name, &length)) fail_with_last_error();
     return text_of({name, length - 1}); // the length counts the closing NUL
+}
+
+Text WindowsInformation::registered_owner() const { return value_of_system(L"RegisteredOwner"); }
+Text WindowsInformation::registered_organization() const {
+    return value_of_system(L"RegisteredOrganization");
 }
 
 } // namespace ornavel::win32

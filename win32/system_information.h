@@ -12,6 +12,8 @@ public:
     Memory memory() const override;
     Text computer_name() const override;
     Text user_name() const override;
+    Text registered_owner() const override;
+    Text registered_organization() const override;
 };
 
 } // namespace ornavel::win32

@@ -63,7 +63,7 @@ MemoryStore store_for(const Options& options, const Files& files) {
     const auto choose = [&](const std::string& given, const Key& folder, const Key& name) {
         const Text path = from_utf8(given);
         if (path.empty()) return;
-        if (path == u"none") return save(store, name, path);
+        if (path == u"none") return void(save(store, name, path));
         require_file(files, path);
         save(store, folder, folder_of(path));
         save(store, name, name_of_file(path));
@@ -86,7 +86,7 @@ Order order_of(const Options& options, const Files& files) {
         throw Failure(u"--editor word takes an HTML message");
     Order order;
     order.watched = options.explain || options.json;
-    Letter& letter = order.letter;
+    host::Letter& letter = order.letter;
     letter.editor = editor_of(options);
     letter.subject = from_utf8(options.subject);
     for (const std::string& address : options.to) letter.recipients.push_back(from_utf8(address));

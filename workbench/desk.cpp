@@ -1,10 +1,10 @@
 #include "workbench/desk.h"
 
+#include "base/scratch_disk.h"
 #include "compose/insertions.h"
 #include "connect/environment.h"
 #include "connect/gates.h"
 #include "workbench/drives.h"
-#include "workbench/scratch_disk.h"
 
 namespace ornavel::workbench {
 namespace {
@@ -28,6 +28,7 @@ public:
         return accept_script_ ? Answer::yes : Answer::no;
     }
     void show_modal(forms::Form&) override { throw Failure(u"There is no window here"); }
+    std::optional<Text> ask_for_path(const forms::PathQuestion&) override { return {}; }
     void launch(TextView program, TextView, WindowState) override {
         throw Failure(Text(program) + u" is not started here");
     }
@@ -43,6 +44,8 @@ public:
     Memory memory() const override { return {}; }
     Text computer_name() const override { return {}; }
     Text user_name() const override { return {}; }
+    Text registered_owner() const override { return {}; }
+    Text registered_organization() const override { return {}; }
 
 private:
     static Text one_line(TextView text) {
@@ -61,8 +64,8 @@ Text with_boilerplate(const Order& order, const Files& files, ErrorSink& errors,
 }
 
 /// The letter with the boilerplate in front: of its HTML where it has any.
-Letter letter_of(const Order& order, const Files& files, ErrorSink& errors) {
-    Letter letter = order.letter;
+host::Letter letter_of(const Order& order, const Files& files, ErrorSink& errors) {
+    host::Letter letter = order.letter;
     Text& source = letter.html_body.empty() ? letter.body : letter.html_body;
     source = with_boilerplate(order, files, errors, std::move(source));
     return letter;
@@ -125,10 +128,10 @@ Dressed Desk::dress(const Order& order) {
             parts_->dressed.changes.push_back(
                 {Text(change.step), Text(change.text), change.before, change.after});
         };
-    const Letter letter = letter_of(order, parts_->disk, session.quiet_errors);
-    session.host.oHostApp = paper_application(letter);
+    const host::Letter letter = letter_of(order, parts_->disk, session.quiet_errors);
+    session.host.oHostApp = host::paper_application(letter);
     connect::choose_whether_breaks_are_converted(session);
-    session.host.MyMessItem = paper_item(letter);
+    session.host.MyMessItem = host::paper_item(letter);
     bool cancel = false;
     connect::Send send{.session = session, .sent = session.host.MyMessItem, .cancel = cancel};
     Dressed& dressed = parts_->dressed;

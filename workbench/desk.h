@@ -3,8 +3,8 @@
 #include "base/clock.h"
 #include "base/files.h"
 #include "compose/composer.h"
+#include "host/paper_mail.h"
 #include "settings/store.h"
-#include "workbench/paper_mail.h"
 
 #include <memory>
 
@@ -27,7 +27,7 @@ struct Dressed {
 
 /// A message to dress: the letter, and what a preview would put in front of it.
 struct Order {
-    Letter letter;
+    host::Letter letter;
     std::optional<Text> boilerplate{}; ///< the path of a text file
     bool accept_script = true;         ///< the answer to the question about the template's script
     bool watched = false;              ///< whether the steps' changes are wanted

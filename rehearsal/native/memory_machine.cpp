@@ -5,6 +5,7 @@
 #include "forms/input_box.h"
 #include "forms/screen_place.h"
 #include "forms/unloading.h"
+#include "programs/all_programs.h"
 #include "rehearsal/form_record.h"
 #include "rehearsal/menu_act.h"
 #include "rehearsal/native/form_player.h"
@@ -80,6 +81,31 @@ std::optional<Text> MemoryMachine::prompt(TextView mode) {
     return dialog.values().answer;
 }
 
+std::optional<int> MemoryMachine::run(TextView file, TextView arguments, host::Objects& objects) {
+    const programs::Program* program = programs::find_program(file);
+    if (!program) return {};
+    const programs::Platform platform{.settings = addin_settings(),
+                                      .files = addin_files(),
+                                      .clock = addin_clock(),
+                                      .launcher = addin_launcher(),
+                                      .objects = objects,
+                                      .windows = addin_windows(),
+                                      .machine = addin_machine(),
+                                      .folder = computer_.addin_folder,
+                                      .user_folder = application_data(computer_) + u"\\Brevant\\Ornavel",
+                                      .scratch_folder = scratch_folder(computer_),
+                                      .arguments = Text(arguments)};
+    const AddInsTurn turn;
+    return programs::run(*program, platform);
+}
+
+Text MemoryMachine::value_of_system(TextView name) const {
+    const auto value =
+        registry_.find(u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion", name);
+    const auto* text = value ? std::get_if<Text>(&*value) : nullptr;
+    return text ? *text : Text();
+}
+
 OperatingSystem MemoryMachine::operating_system() const {
     return {computer_.os_platform, computer_.os_major, computer_.os_minor, computer_.os_build};
 }
@@ -127,10 +153,24 @@ void MemoryMachine::show_modal(forms::Form& form) {
     if (entry) take_steps(user_, *entry, form);
     attempt([&] {
         const AddInsTurn addins;
+        if (form.is_loaded()) forms::FormUser(form).close();
+    });
+    // One that the user may not close goes with its owner.
+    attempt([&] {
+        const AddInsTurn addins;
         form.unload();
     });
     windows_[place]["at close"] = changed_controls(windows_[place], form);
     if (!entry) windows_[place]["unexpected"] = true;
+}
+
+std::optional<Text> MemoryMachine::ask_for_path(const forms::PathQuestion& question) {
+    const MachinesTurn turn;
+    journal_.note_use(Deed::window, question.title, {},
+                      [&] { failures_.use(Failing::Kind::window, question.title); });
+    const auto& record = windows_.emplace_back(answer_path_dialog(user_, question.title));
+    if (record.at("answer").is_null()) return {};
+    return from_utf8(record["answer"].get<std::string>());
 }
 
 void MemoryMachine::show_input_box(forms::Form& form) {

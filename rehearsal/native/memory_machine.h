@@ -28,6 +28,7 @@ public:
     void set_clock(const LocalTime& time) override { now_ = time; }
     bool tray(const Act& act) override;
     std::optional<Text> prompt(TextView mode) override;
+    std::optional<int> run(TextView program, TextView arguments, host::Objects& objects) override;
     std::optional<std::string> complaint() const override { return user_.complaint(); }
     Json launched() const override { return launched_; }
     Json windows() const override { return windows_; }
@@ -53,12 +54,16 @@ private:
     }
     Answer show(TextView title, TextView text, Buttons buttons) override;
     void show_modal(forms::Form& form) override;
+    std::optional<Text> ask_for_path(const forms::PathQuestion& question) override;
     void show_input_box(forms::Form& form);
     OperatingSystem operating_system() const override;
     int processor_type() const override { return computer_.cpu; }
     Memory memory() const override;
     Text computer_name() const override { return computer_.name; }
     Text user_name() const override { return computer_.user; }
+    Text registered_owner() const override { return value_of_system(u"RegisteredOwner"); }
+    Text registered_organization() const override { return value_of_system(u"RegisteredOrganization"); }
+    Text value_of_system(TextView name) const;
 
     Failures& failures_;
     Journal& journal_;

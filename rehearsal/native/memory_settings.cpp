@@ -19,6 +19,13 @@ void MemorySettings::save(TextView section, TextView key, SettingValue value) {
         std::move(value);
 }
 
+void MemorySettings::remove(TextView section, TextView key) {
+    const auto values = sections_.find(section);
+    if (values == sections_.end()) return;
+    if (const auto entry = values->second.find(key); entry != values->second.end())
+        values->second.erase(entry);
+}
+
 Text MemorySettings::expanded(Text text) const {
     for (auto begin = text.find(u'%'); begin != Text::npos;) {
         const auto end = text.find(u'%', begin + 1);

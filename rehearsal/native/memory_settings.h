@@ -18,6 +18,7 @@ public:
     /// As the real store reads them: an expandable text counts only where the setting is a path.
     std::optional<Text> find(TextView section, TextView key) const;
     void save(TextView section, TextView key, SettingValue value);
+    void remove(TextView section, TextView key);
 
     const ByName<ByName<SettingValue>>& sections() const { return sections_; }
 
@@ -45,12 +46,22 @@ public:
         return value;
     }
 
-    void save(TextView section, TextView key, TextView value) noexcept override {
+    bool save(TextView section, TextView key, TextView value) noexcept override {
         const MachinesTurn turn;
-        attempt([&] {
+        return attempt([&] {
             journal_.note(Deed::save_setting, named(section, key), value);
             failures_.use(Failing::Kind::save_setting, key);
             store_.save(section, key, Text(value));
+        });
+    }
+
+    /// Counts as saving it.
+    bool remove(TextView section, TextView key) noexcept override {
+        const MachinesTurn turn;
+        return attempt([&] {
+            journal_.note(Deed::save_setting, named(section, key), {}, false);
+            failures_.use(Failing::Kind::save_setting, key);
+            store_.remove(section, key);
         });
     }
 

@@ -52,6 +52,7 @@ constexpr ActShape valued_acts[] = {
     {"disconnect", Kind::disconnect, read_number},
     {"set", Kind::set, [](Act& act, const JsonPlace& at) { act.settings = read_settings(at); }},
     {"clock", Kind::clock, [](Act& act, const JsonPlace& at) { act.time = at.time(); }},
+    {"run", Kind::run, read_text},
 };
 
 template <std::size_t count>
@@ -137,8 +138,11 @@ Act read_act(const JsonPlace& place) {
         if (shape.read) shape.read(act, place);
         return act;
     }
-    if (!place.is_object() || place.size() != 1) place.refuse("expected an act");
-    const std::string name = place.json().items().begin().key();
+    const bool runs = place.is_object() && place.json().contains("run");
+    if (runs && place.json().contains("arguments")) act.arguments = place.member("arguments").text();
+    const std::size_t members = runs && place.json().contains("arguments") ? 2 : 1;
+    if (!place.is_object() || place.size() != members) place.refuse("expected an act");
+    const std::string name = runs ? "run" : place.json().items().begin().key();
     const auto& shape = find_shape(valued_acts, name, place);
     act.kind = shape.kind;
     shape.read(act, place.member(name));

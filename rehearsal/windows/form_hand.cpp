@@ -24,9 +24,6 @@ void click(HWND window, ControlKind kind) {
         SendMessageW(window, BM_CLICK, 0, 0);
 }
 
-/// Posted: a form takes a text box's double clicks from its queue.
-void double_click(HWND window) { PostMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(2, 2)); }
-
 void type(HWND text_box, const Text& text) {
     SendMessageW(text_box, EM_SETSEL, 0, -1);
     SendMessageW(text_box, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(win32::wide(text).c_str()));
@@ -55,6 +52,18 @@ void open_list(const Step& step, HWND form) {
     notify(control_window(form, step.control), CBN_DROPDOWN);
 }
 
+/// As by a click on an entry.
+void mark(HWND list_box, int entry) {
+    SendMessageW(list_box, LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+    notify(list_box, LBN_SELCHANGE);
+}
+
+void double_click(HWND window, ControlKind kind) {
+    if (kind == ControlKind::list_box) return notify(window, LBN_DBLCLK);
+    // Posted: a form takes a text box's double clicks from its queue.
+    PostMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(2, 2));
+}
+
 /// The control as the step leaves it.
 void act(const Step& step, HWND window, const Control& wanted) {
     switch (step.kind) {
@@ -62,8 +71,9 @@ void act(const Step& step, HWND window, const Control& wanted) {
     case Step::Kind::tick:
         return click(window, wanted.kind);
     case Step::Kind::double_click:
-        return double_click(window);
+        return double_click(window, wanted.kind);
     default:
+        if (wanted.kind == ControlKind::list_box) return mark(window, wanted.index);
         return wanted.kind == ControlKind::combo_box ? choose(window, wanted) : type(window, wanted.text);
     }
 }

@@ -38,7 +38,9 @@ ControlKind button_kind(HWND window) {
 ControlKind kind_of(HWND window) {
     if (is_class(window, L"Button")) return button_kind(window);
     if (is_class(window, L"ComboBox")) return ControlKind::combo_box;
+    if (is_class(window, L"ListBox")) return ControlKind::list_box;
     if (is_class(window, L"Edit")) return ControlKind::text_box;
+    if (is_class(window, PROGRESS_CLASSW)) return ControlKind::progress_bar;
     switch (style_of(window) & SS_TYPEMASK) {
     case SS_BITMAP:
     case SS_ICON:
@@ -79,19 +81,22 @@ Text tool_tip_of(HWND control, HWND tips) {
     return win32::text_of(text);
 }
 
-/// Its list is asked and not the box itself, whose every message goes by the tool tips first.
-std::vector<Text> items_of(HWND combo_box) {
+/// A combo box's list is asked and not the box itself, whose every message goes by the tool tips first.
+HWND list_of(HWND window, ControlKind kind) {
+    if (kind == ControlKind::list_box) return window;
     COMBOBOXINFO parts{};
     parts.cbSize = sizeof parts;
-    GetComboBoxInfo(combo_box, &parts);
+    GetComboBoxInfo(window, &parts);
+    return parts.hwndList;
+}
+
+std::vector<Text> items_of(HWND list) {
     std::vector<Text> items;
-    const auto count = SendMessageW(parts.hwndList, LB_GETCOUNT, 0, 0);
+    const auto count = SendMessageW(list, LB_GETCOUNT, 0, 0);
     for (LRESULT index = 0; index < count; ++index) {
         const auto entry = static_cast<WPARAM>(index);
-        std::wstring text(static_cast<std::size_t>(SendMessageW(parts.hwndList, LB_GETTEXTLEN, entry, 0)) + 1,
-                          L'\0');
-        const auto length =
-            SendMessageW(parts.hwndList, LB_GETTEXT, entry, reinterpret_cast<LPARAM>(text.data()));
+        std::wstring text(static_cast<std::size_t>(SendMessageW(list, LB_GETTEXTLEN, entry, 0)) + 1, L'\0');
+        const auto length = SendMessageW(list, LB_GETTEXT, entry, reinterpret_cast<LPARAM>(text.data()));
         items.push_back(win32::text_of({text.data(), static_cast<std::size_t>(length)}));
     }
     return items;
@@ -106,11 +111,16 @@ Control read_control(HWND window, HWND tips) {
     if (control.kind == ControlKind::web_browser) control.page = text_of_window(window);
     if (control.kind == ControlKind::check_box)
         control.ticked = SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED;
-    if (control.kind == ControlKind::combo_box) {
-        control.items = items_of(window);
-        control.index = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
-    }
     const DWORD style = style_of(window);
+    if (control.kind == ControlKind::combo_box || control.kind == ControlKind::list_box) {
+        const bool drops_down = control.kind == ControlKind::combo_box;
+        control.items = items_of(list_of(window, control.kind));
+        control.index =
+            static_cast<int>(SendMessageW(window, drops_down ? CB_GETCURSEL : LB_GETCURSEL, 0, 0));
+        control.fixed_entries = drops_down && (style & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
+    }
+    if (control.kind == ControlKind::progress_bar)
+        control.value = static_cast<int>(SendMessageW(window, PBM_GETPOS, 0, 0));
     control.visible = (style & WS_VISIBLE) || GetPropW(window, win32::ControlWindow::in_hidden_frame);
     control.enabled = !(style & WS_DISABLED);
     control.locked = control.kind == ControlKind::text_box && (style & ES_READONLY);

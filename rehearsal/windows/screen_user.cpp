@@ -143,7 +143,10 @@ void ScreenUser::take_next_step(OpenForm& form) {
         user_.complain(*form.entry, to_utf8(error.description()));
         form.steps_taken = form.entry->steps.size();
     }
-    SendMessageW(form.window, WM_CLOSE, 0, 0);
+    if (std::exchange(form.was_closed, true))
+        DestroyWindow(form.window);
+    else
+        SendMessageW(form.window, WM_CLOSE, 0, 0);
 }
 
 void ScreenUser::note_closing(HWND window) {
@@ -155,6 +158,12 @@ void ScreenUser::note_closing(HWND window) {
     record["at close"] = changed_controls(record, *shown);
     if (form->has_steps_left()) user_.complain(*form->entry, to_utf8(shown->name()) + " is closed");
     open_.erase(form);
+}
+
+std::optional<Text> ScreenUser::answer_path(TextView title) {
+    const auto& record = windows_.emplace_back(answer_path_dialog(user_, title));
+    if (record.at("answer").is_null()) return {};
+    return from_utf8(record["answer"].get<std::string>());
 }
 
 } // namespace ornavel::rehearsal

@@ -19,6 +19,9 @@ public:
     ScreenUser(const ScreenUser&) = delete;
     ScreenUser& operator=(const ScreenUser&) = delete;
 
+    /// The answer to a file dialog, which is not shown: it would be the system's own.
+    std::optional<Text> answer_path(TextView title);
+
     const Json& windows() const { return windows_; }
     /// From now on a picture of each form is kept, as it was when the user first touched it: in a BMP file
     /// whose path is this one, the window's place among the windows and ".bmp".
@@ -42,8 +45,9 @@ private:
         std::optional<UserEntry> entry;
         std::size_t steps_taken = 0;
         bool has_steps_left() const { return entry && steps_taken < entry->steps.size(); }
-        bool busy = false;   ///< in the middle of a step, which may have opened another window
-        bool is_box = false; ///< an input box, which has been answered
+        bool busy = false;       ///< in the middle of a step, which may have opened another window
+        bool is_box = false;     ///< an input box, which has been answered
+        bool was_closed = false; ///< by its frame; one that is still open may not be closed so
         DWORD met = GetTickCount();
         bool pictured = false;
     };

@@ -1,12 +1,37 @@
 #include "rehearsal/windows/windows_machine.h"
 
+#include "programs/all_programs.h"
 #include "rehearsal/menu_act.h"
+#include "win32/machine.h"
+#include "win32/registry_store.h"
+#include "win32/system_information.h"
 #include "win32/wide.h"
 
 namespace ornavel::rehearsal {
+namespace {
+
+/// The windows of this desktop; what file dialogs would say the scripted user says.
+class WatchedWindows final : public forms::Windows {
+public:
+    explicit WatchedWindows(ScreenUser& screen) : screen_(screen) {}
+    Answer show(TextView title, TextView text, Buttons buttons) override {
+        return desktop_.show(title, text, buttons);
+    }
+    void show_modal(forms::Form& form) override { desktop_.show_modal(form); }
+    void keep_on_top(int window) override { desktop_.keep_on_top(window); }
+    std::optional<Text> ask_for_path(const forms::PathQuestion& question) override {
+        return screen_.answer_path(question.title);
+    }
+
+private:
+    ScreenUser& screen_;
+    win32::DesktopWindows desktop_;
+};
+
+} // namespace
 
 WindowsMachine::WindowsMachine(const Scenario& scenario, const std::string& source)
-    : user_(scenario.user, source), screen_(user_) {}
+    : computer_(scenario.computer), user_(scenario.user, source), screen_(user_) {}
 
 WindowsMachine::~WindowsMachine() {
     let_go();
@@ -42,6 +67,29 @@ bool WindowsMachine::tray(const Act& act) {
     check_choice(user_, act, screen_.choice());
     tray_.record.menu = screen_.menu();
     return true;
+}
+
+std::optional<int> WindowsMachine::run(TextView file, TextView arguments, host::Objects& objects) {
+    const programs::Program* program = programs::find_program(file);
+    if (!program) return {};
+    launches_.watch(GetModuleHandleW(nullptr));
+    win32::RegistryStore settings;
+    win32::WindowsFiles files;
+    const win32::SystemClock clock;
+    win32::ShellLauncher launcher;
+    WatchedWindows windows(screen_);
+    const win32::WindowsInformation machine;
+    return programs::run(*program, {.settings = settings,
+                                    .files = files,
+                                    .clock = clock,
+                                    .launcher = launcher,
+                                    .objects = objects,
+                                    .windows = windows,
+                                    .machine = machine,
+                                    .folder = computer_.addin_folder,
+                                    .user_folder = application_data(computer_) + u"\\Brevant\\Ornavel",
+                                    .scratch_folder = scratch_folder(computer_),
+                                    .arguments = Text(arguments)});
 }
 
 void WindowsMachine::hold(TextView path) {

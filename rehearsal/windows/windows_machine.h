@@ -28,6 +28,7 @@ public:
     void set_clock(const LocalTime&) override { throw Unusable("clock: native only"); }
     bool tray(const Act& act) override;
     std::optional<Text> prompt(TextView) override { throw Unusable("prompt: native only"); }
+    std::optional<int> run(TextView program, TextView arguments, host::Objects& objects) override;
     std::optional<std::string> complaint() const override { return user_.complaint(); }
     Json launched() const override { return launches_.launched(); }
     Json windows() const override { return screen_.windows(); }
@@ -50,6 +51,7 @@ public:
     }
 
 private:
+    Computer computer_;
     ScriptedUser user_;
     DiskWorld disk_;
     RegistryWorld registry_;

@@ -58,6 +58,8 @@ class Machine final : public SystemInformation {
     Memory memory() const override { return {}; }
     Text computer_name() const override { return {}; }
     Text user_name() const override { return u"jo"; }
+    Text registered_owner() const override { return {}; }
+    Text registered_organization() const override { return {}; }
 };
 
 TEST(SignatureFiles, ATextThatGrowsWithoutBoundIsLoggedAndTheOthersGoOn) {

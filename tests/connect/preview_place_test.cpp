@@ -16,6 +16,7 @@ public:
         place = form.properties.place;
         form.unload();
     }
+    std::optional<Text> ask_for_path(const forms::PathQuestion&) override { return {}; }
 };
 
 TEST(PreviewPlace, APreviewThatWasLeftOnAScreenToTheLeftAppearsThere) {

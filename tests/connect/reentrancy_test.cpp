@@ -26,6 +26,7 @@ public:
         interrupt();
         form.unload();
     }
+    std::optional<Text> ask_for_path(const forms::PathQuestion&) override { return {}; }
 
 private:
     void interrupt() {
@@ -54,9 +55,10 @@ public:
         if (meanwhile && key == while_asked_for) meanwhile();
         return store_.find(section, key);
     }
-    void save(TextView section, TextView key, TextView value) noexcept override {
-        store_.save(section, key, value);
+    bool save(TextView section, TextView key, TextView value) noexcept override {
+        return store_.save(section, key, value);
     }
+    bool remove(TextView section, TextView key) noexcept override { return store_.remove(section, key); }
 
 private:
     settings::Store& store_;

@@ -25,9 +25,10 @@ public:
         change->second.reads_left = 0;
         return change->second.value;
     }
-    void save(TextView section, TextView key, TextView value) noexcept override {
-        stored_.save(section, key, value);
+    bool save(TextView section, TextView key, TextView value) noexcept override {
+        return stored_.save(section, key, value);
     }
+    bool remove(TextView section, TextView key) noexcept override { return stored_.remove(section, key); }
 
 private:
     struct Change {

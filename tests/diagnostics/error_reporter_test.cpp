@@ -23,6 +23,8 @@ public:
     }
     Text computer_name() const override { return u"DESK-7"; }
     Text user_name() const override { return u"jo"; }
+    Text registered_owner() const override { return {}; }
+    Text registered_organization() const override { return {}; }
     bool silent = false;
 };
 

@@ -4,6 +4,7 @@
 #include "forms/windows.h"
 
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -18,7 +19,8 @@ public:
 
     Answer show(TextView title, TextView text, Buttons buttons) override {
         boxes.push_back(Text(title) + u": " + Text(text));
-        return buttons == Buttons::ok ? Answer::ok : Answer::no;
+        if (buttons == Buttons::ok) return Answer::ok;
+        return yes && yes(text) ? Answer::yes : Answer::no;
     }
 
     void show_modal(forms::Form& form) override {
@@ -28,8 +30,16 @@ public:
         form.unload();
     }
 
+    std::optional<Text> ask_for_path(const forms::PathQuestion& question) override {
+        questions.push_back(question.title);
+        return path;
+    }
+
     int forms_shown = 0;
-    std::vector<Text> boxes; ///< title and text of each message box
+    std::vector<Text> boxes;           ///< title and text of each message box
+    std::function<bool(TextView)> yes; ///< which questions are answered so, by their text
+    std::vector<Text> questions;       ///< titles of the file dialogs
+    std::optional<Text> path;          ///< the answer to all of them
 
 private:
     std::function<void(forms::Form&, forms::FormUser)> script_;

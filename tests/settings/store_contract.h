@@ -75,9 +75,24 @@ TYPED_TEST_P(StoreContract, LongValuesAreWhole) {
     }
 }
 
+TYPED_TEST_P(StoreContract, ARemovedValueIsAbsentAndTheOthersStay) {
+    this->save(u"Template", u"x");
+    this->save(u"Signature", u"y");
+    EXPECT_TRUE(this->store().remove(u"CONTRACT", u"template"));
+    EXPECT_EQ(this->stored(u"Template"), std::nullopt);
+    EXPECT_EQ(this->stored(u"Signature"), u"y");
+}
+
+TYPED_TEST_P(StoreContract, WhatIsAbsentIsRemovedAlready) {
+    EXPECT_TRUE(this->store().remove(u"Contract", u"Template"));
+    this->save(u"Signature", u"y");
+    EXPECT_TRUE(this->store().remove(u"Contract", u"Template"));
+}
+
 REGISTER_TYPED_TEST_SUITE_P(StoreContract, AKeyThatWasNeverSavedIsAbsent, AnEmptyValueIsPresent,
                             TheLastValueSavedIsTheOneRead, NamesOfKeysCompareWithoutCase,
                             NamesOfSectionsCompareWithoutCase, SectionsKeepTheirKeysApart,
-                            EveryUnitOfAValueSurvives, AKeyMayHaveLettersBeyondASCII, LongValuesAreWhole);
+                            EveryUnitOfAValueSurvives, AKeyMayHaveLettersBeyondASCII, LongValuesAreWhole,
+                            ARemovedValueIsAbsentAndTheOthersStay, WhatIsAbsentIsRemovedAlready);
 
 } // namespace ornavel::settings

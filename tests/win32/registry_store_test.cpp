@@ -104,7 +104,7 @@ TEST_F(RegistryValues, AValueIsStoredWithItsNulWhereOtherProgramsLook) {
 
 TEST_F(RegistryValues, NamesThatTheRegistryRefusesChangeNothing) {
     const Text too_long(300, u'x');
-    registry_.store().save(u"Contract\\" + too_long, u"Template", u"x");
+    EXPECT_FALSE(registry_.store().save(u"Contract\\" + too_long, u"Template", u"x"));
     EXPECT_EQ(registry_.store().find(u"Contract\\" + too_long, u"Template"), std::nullopt);
 }
 

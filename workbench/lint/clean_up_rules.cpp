@@ -32,7 +32,7 @@ constexpr CleanUp clean_ups[] = {
 Text cleaned(const Sheet& sheet, const CleanUp& clean_up) {
     Desk desk(sheet.ground.store, sheet.ground.files, sheet.ground.clock);
     compose::AskingErrors errors(desk.services().errors, desk.services().boxes);
-    const host::MailItem item = paper_item({});
+    const host::MailItem item = host::paper_item({});
     const compose::Request request{.item = item, .source = {}, .template_path = {}, .reply = {.found = true}};
     compose::Composition composition{desk.services(), request, errors, {}, {}};
     composition.*clean_up.text = sheet.page.text;

@@ -5,7 +5,7 @@
 #include <map>
 #include <set>
 
-namespace ornavel::workbench {
+namespace ornavel {
 
 /// Files that are read where they are and written in memory only.
 class ScratchDisk final : public Files {
@@ -53,4 +53,4 @@ private:
     std::string appended_;
 };
 
-} // namespace ornavel::workbench
+} // namespace ornavel

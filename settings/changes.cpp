@@ -1,0 +1,38 @@
+#include "settings/changes.h"
+
+#include "base/errors.h"
+
+namespace ornavel::settings {
+namespace {
+
+bool write(Store& store, const Change& change) noexcept {
+    const auto& [key, value] = change;
+    return value ? store.save(key.section, key.name, *value) : store.remove(key.section, key.name);
+}
+
+/// The values that stand there now, in the order of the changes.
+std::vector<Change> as_they_are(const Store& store, const std::vector<Change>& changes) {
+    std::vector<Change> before;
+    before.reserve(changes.size());
+    for (const Change& change : changes)
+        before.push_back({change.key, store.find(change.key.section, change.key.name)});
+    return before;
+}
+
+} // namespace
+
+const Key* write_changes(Store& store, const std::vector<Change>& changes) noexcept {
+    if (changes.empty()) return nullptr;
+    std::vector<Change> before;
+    // What can't be put back is not begun.
+    if (!attempt([&] { before = as_they_are(store, changes); })) return &changes.front().key;
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        if (write(store, changes[i])) continue;
+        const Key& failed = changes[i].key;
+        while (i-- > 0) write(store, before[i]);
+        return &failed;
+    }
+    return nullptr;
+}
+
+} // namespace ornavel::settings

@@ -1,0 +1,48 @@
+#include "settings/changes.h"
+#include "tests/fakes/stubborn_store.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::settings {
+namespace {
+
+struct Changes : testing::Test {
+    StubbornStore store;
+    const std::vector<Change> changes{{admin::SigFullname, u"Jo"},
+                                      {admin::SigFax, std::nullopt},
+                                      {admin::SigEmail, u"jo@example.com"},
+                                      {user::Template, u"letter.htm"}};
+
+    Changes() {
+        save(store, admin::SigFax, u"12");
+        save(store, admin::SigEmail, u"old@example.com");
+    }
+};
+
+TEST_F(Changes, AllOfThemAreWritten) {
+    EXPECT_EQ(write_changes(store, changes), nullptr);
+    EXPECT_EQ(read(store, admin::SigFullname), u"Jo");
+    EXPECT_EQ(read(store, admin::SigEmail), u"jo@example.com");
+    EXPECT_EQ(read(store, user::Template), u"letter.htm");
+    EXPECT_EQ(store.find(admin::SigFax.section, admin::SigFax.name), std::nullopt);
+}
+
+TEST_F(Changes, OneThatCantBeWrittenTakesBackThoseBeforeIt) {
+    store.refused = u"Template";
+    EXPECT_EQ(write_changes(store, changes)->name, u"Template");
+    EXPECT_EQ(store.find(admin::SigFullname.section, admin::SigFullname.name), std::nullopt);
+    EXPECT_EQ(read(store, admin::SigFax), u"12");
+    EXPECT_EQ(read(store, admin::SigEmail), u"old@example.com");
+}
+
+TEST_F(Changes, OneThatCantBeRemovedTakesBackThoseBeforeItToo) {
+    store.refused = u"SigFax";
+    EXPECT_EQ(write_changes(store, changes)->name, u"SigFax");
+    EXPECT_EQ(store.find(admin::SigFullname.section, admin::SigFullname.name), std::nullopt);
+    EXPECT_EQ(read(store, admin::SigFax), u"12");
+}
+
+TEST_F(Changes, NoneAtAllAreWrittenAtOnce) { EXPECT_EQ(write_changes(store, {}), nullptr); }
+
+} // namespace
+} // namespace ornavel::settings
