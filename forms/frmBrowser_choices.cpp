@@ -2,6 +2,7 @@
 #include "forms/frmBrowser.h"
 
 #include "forms/frmBrowser_design.h"
+#include "forms/stationery.h"
 
 #include <algorithm>
 
@@ -13,11 +14,6 @@ using namespace preview_design;
 
 /// A file's name as the user chooses it: what stands before the first ".htm".
 Text display_name(TextView file) { return Text(file.substr(0, file.find(u".htm"))); }
-
-bool is_choice(TextView file) {
-    const Text name = lower_case(file);
-    return name.ends_with(u".htm") && !name.ends_with(u"_merge.htm");
-}
 
 /// What a signature profile holds: the user's own fields, which it is copied over.
 constexpr const TextKey* profile_fields[] = {
@@ -77,8 +73,7 @@ void frmBrowser::fill(const Choice& choice) {
     Control& shown = form_[choice.shown];
     Control& files = form_[choice.files];
     if (!files.items.empty()) return;
-    for (const Text& file : needs_.files.list(read(needs_.settings, choice.folder))) {
-        if (!is_choice(file)) continue;
+    for (const Text& file : stationery_in(needs_.files, read(needs_.settings, choice.folder))) {
         files.items.push_back(file);
         shown.items.push_back(display_name(file));
     }

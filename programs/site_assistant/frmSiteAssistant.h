@@ -1,0 +1,56 @@
+#pragma once
+
+#include "programs/program.h"
+#include "programs/site_assistant/fields.h"
+
+#include <set>
+
+namespace ornavel::programs {
+
+/// The wizard Ornavel Setup: shows the user's settings page by page, and writes those that changed when the
+/// user finishes it. The platform outlives it.
+class frmSiteAssistant {
+public:
+    explicit frmSiteAssistant(const Platform& platform);
+
+    forms::Form& form() { return form_; }
+
+private:
+    void wire();
+
+    // frmSiteAssistant.cpp
+    void Form_Load();
+    void Form_Unload();
+    void cmdBack_Click();
+    void cmdNext_Click();
+    void cmdFinish_Click();
+    void cmdCancel_Click();
+    bool may_be_closed();
+    void prefill();
+    void show_page(std::size_t page);
+    TextView frame() const;
+    bool is_skipped(std::size_t page);
+    bool page_may_be_left();
+    void ask_about_markup();
+    void tell(TextView sentence);
+    std::vector<Text> shown_values();
+    std::vector<settings::Change> changes();
+
+    // frmSiteAssistant_pages.cpp
+    void open_letterhead();
+    void open_ready();
+    void list_stationery();
+    void render();
+    void folder_typed(TextView control);
+    void browse(TextView control, forms::PathQuestion question);
+    Text page_of_preview() const { return platform_.scratch_folder + u"\\OrnavelSetupPreview.html"; }
+
+    const Platform& platform_;
+    std::size_t page_ = 0;
+    Text warned_;                 ///< what the user was told of this page, and may pass
+    std::set<Text> kept_;         ///< values that the user wants as markup
+    std::vector<Text> as_loaded_; ///< what the fields showed at first
+    forms::Form form_;
+};
+
+} // namespace ornavel::programs

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "settings/changes.h"
+
+namespace ornavel::programs {
+
+/// The settings as they will be once the changes are written. What is saved here stays here.
+class UnsavedSettings final : public settings::Store {
+public:
+    UnsavedSettings(const settings::Store& store, const std::vector<settings::Change>& changes)
+        : store_(store) {
+        for (const auto& [key, value] : changes)
+            unsaved_.save(key.section, key.name, value.value_or(Text(key.default_value)));
+    }
+
+    std::optional<Text> find(TextView section, TextView key) const noexcept override {
+        auto value = unsaved_.find(section, key);
+        return value ? value : store_.find(section, key);
+    }
+    bool save(TextView section, TextView key, TextView value) noexcept override {
+        return unsaved_.save(section, key, value);
+    }
+    bool remove(TextView, TextView) noexcept override { return false; }
+
+private:
+    const settings::Store& store_;
+    settings::MemoryStore unsaved_;
+};
+
+} // namespace ornavel::programs
