@@ -87,6 +87,7 @@ void FormWindow::run() {
     SetFocus(first);
     // As with the Tab key: what the user types replaces what a box brought along.
     if (SendMessageW(first, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) SendMessageW(first, EM_SETSEL, 0, -1);
+    show_focus();
     MSG message;
     while (form_.is_loaded()) {
         if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
@@ -155,6 +156,7 @@ void FormWindow::show_default_button() {
 
 /// What the user types there replaces what stands there, as with the Tab key.
 void FormWindow::show_focus() {
+    if (!IsWindowVisible(window_)) return;
     const Text wanted = std::exchange(form_.next_focus, Text());
     if (wanted.empty()) return;
     for (const ControlWindow& control : controls_)

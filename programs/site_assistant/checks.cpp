@@ -71,15 +71,22 @@ TextView attribute_value(TextView rest) {
     return rest.substr(0, rest.find_first_of(end));
 }
 
+/// A file's name that leaves room for the rest of its sentence.
+Text short_name(TextView path) {
+    constexpr std::size_t longest = 60;
+    const TextView name = path.substr(path.find_last_of(u'\\') + 1);
+    return name.size() <= longest ? Text(name) : Text(name.substr(0, longest - 3)) + u"...";
+}
+
 Text warning_about_marker(const Text& path, TextView html) {
     if (contains(html, compose::insertion_marker)) return {};
-    return u"The template " + path.substr(path.find_last_of(u'\\') + 1) + u" has no place for the message (" +
+    return u"The template " + short_name(path) + u" has no place for the message (" +
            Text(compose::insertion_marker) + u"): the text of every message would be lost. ";
 }
 
 Text warning_about_pictures(TextView html, const Files& files) {
     for (const Text& picture : local_pictures(html))
-        if (!files.file_exists(picture)) return u"The picture " + picture + u" is not there. ";
+        if (!files.file_exists(picture)) return u"The picture " + short_name(picture) + u" is not there. ";
     return {};
 }
 

@@ -57,6 +57,7 @@ void frmSiteAssistant::wire() {
         form_.on(list, Event::drop_down, [this] { list_stationery(); });
         for (const Event event : {Event::click, Event::change}) form_.on(list, event, [this] { render(); });
     }
+    form_.on(u"txtvCard", Event::change, [this] { show_whole_names(); });
     using enum PathQuestion::Kind;
     form_.on(u"cmdBrowseTemplates", Event::click,
              [this] { browse(u"txtTemplatesFolder", {.kind = folder, .title = u"Folder of Templates"}); });
@@ -78,6 +79,7 @@ void frmSiteAssistant::Form_Load() {
     for (const Field& field : setup_fields())
         show_value(form_, field, stored_value(platform_.settings, field.key));
     prefill();
+    show_whole_names();
     form_[u"chkFrench"].ticked = std::ranges::any_of(form_.controls(), [](const Control& control) {
         return control.frame == u"fraFrench" && !control.text.empty();
     });

@@ -39,6 +39,7 @@ private:
     // frmSiteAssistant_pages.cpp
     void open_letterhead();
     void open_ready();
+    void show_whole_names();
     void list_stationery();
     void render();
     void folder_typed(TextView control);

@@ -93,9 +93,9 @@ void add_you(std::vector<Control>& all) {
     page.text_box(u"txtSigFax", u"Fa&x", second, 1);
     page.text_box(u"txtSigCell", u"&Cell phone", second, 2);
     page.text_box(u"txtSigAddress", u"&Address", second, 3);
-    page.text_box(u"txtSigAddress2", u"Address line &2", second, 4);
-    page.text_box(u"txtSigAddress3", u"Address line &3", second, 5);
-    page.text_box(u"txtSigAddress4", u"Address line &4", second, 6);
+    page.text_box(u"txtSigAddress2", u"A&ddress line 2", second, 4);
+    page.text_box(u"txtSigAddress3", u"Address &line 3", second, 5);
+    page.text_box(u"txtSigAddress4", u"Address l&ine 4", second, 6);
     page.check_box(u"chkFrench", u"I have texts in F&rench, too", 8);
 }
 
@@ -106,9 +106,9 @@ void add_french(std::vector<Control>& all) {
     page.text_box(u"txtSigOrganizationNameFR", u"&Organisation", inner, 2);
     page.text_box(u"txtSigWebsiteFR", u"&Website", inner, 3);
     page.text_box(u"txtSigAddressFR", u"&Address", second, 0);
-    page.text_box(u"txtSigAddress2FR", u"Address line &2", second, 1);
-    page.text_box(u"txtSigAddress3FR", u"Address line &3", second, 2);
-    page.text_box(u"txtSigAddress4FR", u"Address line &4", second, 3);
+    page.text_box(u"txtSigAddress2FR", u"A&ddress line 2", second, 1);
+    page.text_box(u"txtSigAddress3FR", u"Address &line 3", second, 2);
+    page.text_box(u"txtSigAddress4FR", u"Address l&ine 4", second, 3);
 }
 
 void add_letterhead(std::vector<Control>& all) {

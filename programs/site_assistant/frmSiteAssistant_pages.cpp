@@ -30,6 +30,13 @@ bool is_elsewhere(TextView folder) { return folder.starts_with(u"\\\\"); }
 
 } // namespace
 
+/// A name may be longer than its box.
+void frmSiteAssistant::show_whole_names() {
+    for (const TextView name :
+         {u"txtTemplatesFolder", u"txtSignaturesFolder", u"cboTemplates", u"cboSignatures", u"txtvCard"})
+        form_[name].tool_tip = form_[name].text;
+}
+
 void frmSiteAssistant::open_letterhead() {
     list_stationery();
     render();
@@ -50,6 +57,7 @@ void frmSiteAssistant::list_stationery() {
 
 /// One that can't be composed or written leaves the page what it shows.
 void frmSiteAssistant::render() {
+    show_whole_names();
     attempt([&] {
         UnsavedSettings unsaved(platform_.settings, changes());
         const Text html = sample_letter(unsaved, platform_.files, platform_.clock);
@@ -61,6 +69,7 @@ void frmSiteAssistant::render() {
 
 /// A share is asked only once the user opens a list or goes on: not at every letter.
 void frmSiteAssistant::folder_typed(TextView control) {
+    show_whole_names();
     if (!is_elsewhere(form_[control].text)) open_letterhead();
 }
 
@@ -69,6 +78,7 @@ void frmSiteAssistant::browse(TextView control, forms::PathQuestion question) {
     const auto path = platform_.windows.ask_for_path(question);
     if (!path) return;
     form_[control].text = *path;
+    show_whole_names();
     if (form_[control].frame == u"fraLetterhead") open_letterhead();
 }
 

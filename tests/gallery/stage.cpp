@@ -1,6 +1,8 @@
 #include "tests/gallery/stage.h"
 
+#include "forms/form_user.h"
 #include "forms/frmSysTray.h"
+#include "programs/site_assistant/frmSiteAssistant.h"
 #include "win32/notification_icon.h"
 
 namespace ornavel::gallery {
@@ -104,5 +106,23 @@ void Stage::show_tray(TextView entry) {
 }
 
 void Stage::show_prompt(TextView mode) { forms::PromptDialog(windows, forms::built_in_strings()).ask(mode); }
+
+void Stage::show_setup(int clicks, std::function<void(forms::Form&)> change) {
+    const programs::Platform platform{.settings = store,
+                                      .files = files,
+                                      .clock = clock,
+                                      .launcher = launcher,
+                                      .objects = objects,
+                                      .windows = windows,
+                                      .machine = machine,
+                                      .folder = folder,
+                                      .scratch_folder = u"C:\\windows\\temp"};
+    programs::frmSiteAssistant wizard(platform);
+    wizard.form().load();
+    if (change) change(wizard.form());
+    for (int click = 0; click < clicks; ++click) forms::FormUser(wizard.form()).click(u"cmdNext");
+    wizard.form().may_close = {};
+    windows.show_modal(wizard.form());
+}
 
 } // namespace ornavel::gallery

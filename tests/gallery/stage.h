@@ -2,6 +2,7 @@
 
 #include "forms/BrevantUser.h"
 #include "forms/frmMessage.h"
+#include "programs/program.h"
 #include "tests/fakes/fixed_clock.h"
 #include "tests/fakes/prepared_objects.h"
 #include "tests/fakes/recording_object.h"
@@ -27,6 +28,8 @@ struct Stage {
     void show_prompt(TextView mode);
     /// The administrator's menu, or what this entry of it opens.
     void show_tray(TextView entry = {});
+    /// Ornavel Setup, after so many clicks on Next.
+    void show_setup(int clicks, std::function<void(forms::Form&)> change = {});
 
     Text folder = u"C:\\windows\\temp\\gallery\\";
     win32::WindowsFiles files;

@@ -65,6 +65,40 @@ void show_attachment_names(forms::frmBrowser& preview) {
     form[u"txtAttachments"].enabled = false;
 }
 
+void with_identity(Stage& stage) {
+    stage.set(admin::SigFullname, u"Jo Sender");
+    stage.set(admin::SigPosition, u"Partner");
+    stage.set(admin::SigOrganizationName, u"Marlow &amp; Hale");
+    stage.set(admin::SigEmail, u"jo@example.com");
+    stage.set(admin::SigWebsite, u"www.example.com");
+    stage.set(admin::SigTelephone, u"+44 20 7946 0000");
+    stage.set(user::SettingButtonBar, u"auto");
+}
+
+/// Values as long as somebody may have them, in every box.
+void with_long_identity(Stage& stage) {
+    for (const Key& key : catalogue())
+        if (key.name.starts_with(u"Sig") && key.kind == SettingKind::text)
+            stage.set(key, u"Rechtsanwaltsgesellschaft Marlow, Hale, Venables and Sons, " + Text(key.name));
+    stage.set(admin::SigEmail, u"josephine.margaret.sender-venables@marlow-hale-venables.example.com");
+    stage.set(admin::SigWebsite, u"www.marlow-hale-venables.example.com/partners/josephine");
+    stage.set(admin::HTMFilesPath, stage.folder.substr(0, stage.folder.size() - 1));
+    stage.set(user::vCardPath, u"\\\\server\\share\\people\\" + Text(80, u'v') + u".vcf");
+}
+
+void clear_identity(Form& form) {
+    FormUser(form).set_text(u"txtSigEmail", u"");
+    FormUser(form).set_text(u"txtSigWebsite", u"");
+}
+
+void change_everything(Form& form) {
+    for (forms::Control& control : form.controls())
+        if (control.frame == u"fraYou" && control.kind == forms::ControlKind::text_box)
+            control.text += u" and what else belongs to it, so that the line is long";
+    form[u"txtSigEmail"].text = u"jo@example.org";
+    form[u"txtSigWebsite"].text = u"www.example.org";
+}
+
 constexpr State all[] = {
     {u"options", [](Stage& stage) { stage.show_options(); }},
     {u"options-folded", [](Stage& stage) { stage.show_options(fold); }},
@@ -110,6 +144,33 @@ constexpr State all[] = {
      }},
     {u"preview-colours", [](Stage& stage) { stage.show_preview(); }, u"cboBGColourName"},
     {u"help", [](Stage& stage) { with_everything(stage), stage.show_help(); }},
+    {u"setup-you", [](Stage& stage) { with_identity(stage), stage.show_setup(0); }},
+    {u"setup-you-long", [](Stage& stage) { with_long_identity(stage), stage.show_setup(0); }},
+    {u"setup-you-warned", [](Stage& stage) { with_identity(stage), stage.show_setup(1, clear_identity); }},
+    {u"setup-French-long",
+     [](Stage& stage) {
+         with_long_identity(stage);
+         stage.show_setup(1);
+     }},
+    {u"setup-letterhead", [](Stage& stage) { with_identity(stage), stage.show_setup(1); }},
+    {u"setup-letterhead-long-names",
+     [](Stage& stage) {
+         with_identity(stage);
+         stage.write(long_name, "x");
+         stage.set(user::Template, long_name);
+         stage.set(user::Signature, long_name);
+         stage.show_setup(2);
+     }},
+    {u"setup-sending", [](Stage& stage) { with_identity(stage), stage.show_setup(2); }},
+    {u"setup-sending-own-signature",
+     [](Stage& stage) {
+         with_identity(stage);
+         stage.set(user::SettingButtonBar, u"eSignature");
+         stage.set(user::vCardPath, u"C:\\people\\" + Text(120, u'v') + u".vcf");
+         stage.show_setup(2);
+     }},
+    {u"setup-ready", [](Stage& stage) { with_identity(stage), stage.show_setup(3); }},
+    {u"setup-ready-long", [](Stage& stage) { with_identity(stage), stage.show_setup(3, change_everything); }},
     {u"prompt-reply", [](Stage& stage) { stage.show_prompt(u"Reply"); }},
     {u"prompt-template", [](Stage& stage) { stage.show_prompt(u"Auto-no Template"); }},
     {u"prompt-signature", [](Stage& stage) { stage.show_prompt(u"Auto-no signature"); }},

@@ -310,7 +310,7 @@ TEST_F(SiteAssistant, APictureThatIsNotThereIsPassedByASecondNext) {
     go_to(u"fraLetterhead");
     type(u"cboSignatures", u"partner.htm");
     click(u"cmdNext");
-    EXPECT_TRUE(problem().starts_with(u"The picture C:\\signatures\\jo.gif is not there."));
+    EXPECT_TRUE(problem().starts_with(u"The picture jo.gif is not there."));
     stage.files.contents[u"C:\\signatures\\jo.gif"] = "GIF";
     click(u"cmdNext");
     EXPECT_EQ(shown(), u"fraSending");

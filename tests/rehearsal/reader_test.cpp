@@ -126,6 +126,10 @@ constexpr Bad bad_acts[] = {
     {R"({"set": {"A": {"b": null}}})", "do[0].set.A.b: expected a text"},
     {R"({"clock": "tomorrow"})", "do[0].clock: expected a time such as 2003-11-20T14:05:09"},
     {R"({"prompt": 1})", "do[0].prompt: expected a text"},
+    {R"({"run": 1})", "do[0].run: expected a text"},
+    {R"({"run": "A.exe", "arguments": 1})", "do[0].arguments: expected a text"},
+    {R"({"run": "A.exe", "argument": "x"})", "do[0]: expected an act"},
+    {R"({"send": 0, "arguments": "x"})", "do[0]: expected an act"},
 };
 INSTANTIATE_TEST_SUITE_P(Acts, BadAct, testing::ValuesIn(bad_acts));
 
@@ -163,6 +167,14 @@ TEST(ScenarioReader, FillsInTheDefaults) {
     EXPECT_EQ(scenario.items[0].importance, 1);
     EXPECT_EQ(scenario.acts[0].kind, Act::Kind::connect);
     EXPECT_EQ(scenario.acts[0].number, 1) << "the mode of the start-up";
+}
+
+TEST(ScenarioReader, AProgramMayBeGivenArguments) {
+    const Scenario scenario = read(R"({"do": [{"run": "A.exe"}, {"run": "B.exe", "arguments": "/x y"}]})");
+    EXPECT_EQ(scenario.acts[0].kind, Act::Kind::run);
+    EXPECT_EQ(scenario.acts[0].text, u"A.exe");
+    EXPECT_EQ(scenario.acts[0].arguments, u"");
+    EXPECT_EQ(scenario.acts[1].arguments, u"/x y");
 }
 
 TEST(ScenarioReader, RecipientsAreAddressesOrObjects) {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "tests/win32/form_stage.h"
+#include "win32/handle.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::win32 {
+
+/// One of our programs as it was built, in a process of its own, which does not outlive this.
+class RealProgram {
+public:
+    explicit RealProgram(TextView file);
+    ~RealProgram();
+    RealProgram(const RealProgram&) = delete;
+    RealProgram& operator=(const RealProgram&) = delete;
+
+    /// Waits for the process's window with this title; null when none appears.
+    HWND window(const wchar_t* title) const;
+    /// Waits for the process's end and gives its exit code; nothing when it goes on.
+    std::optional<DWORD> exit_code() const;
+
+private:
+    std::optional<Handle> process_;
+    DWORD id_ = 0;
+};
+
+/// Types into a text box as a user does, or presses a button, of a form in any process.
+void type(HWND form, const wchar_t* text_box, const wchar_t* text);
+void press(HWND form, const wchar_t* button);
+
+} // namespace ornavel::win32
