@@ -24,6 +24,7 @@ void MemorySettings::remove(TextView section, TextView key) {
     if (values == sections_.end()) return;
     if (const auto entry = values->second.find(key); entry != values->second.end())
         values->second.erase(entry);
+    if (values->second.empty()) sections_.erase(values);
 }
 
 Text MemorySettings::expanded(Text text) const {

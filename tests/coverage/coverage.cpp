@@ -82,6 +82,7 @@ int print_coverage(const std::string& excuses_file, const std::vector<std::strin
     print("Gates", all.verdicts, tally.verdicts, excuses.verdicts);
     print("Traps", all.traps, tally.traps, excuses.traps);
     print("Settings", all.settings, tally.settings, excuses.settings);
+    print("Settings of the programs", names_of(tally.program_settings), tally.program_settings, {});
     print("Windows", names_of(tally.windows), tally.windows, {});
     print("Numbered texts", names_of(tally.strings), tally.strings, {});
     const auto missing = gaps(all, tally, excuses);

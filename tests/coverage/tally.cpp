@@ -21,6 +21,10 @@ bool has_value_of_its_own(const JournalEntry& read) {
     return read.found && (entry == defaults.end() || entry->second != read.value);
 }
 
+bool is_of_a_program(const rehearsal::Scenario& scenario, const JournalEntry& entry) {
+    return entry.act < scenario.acts.size() && scenario.acts[entry.act].kind == rehearsal::Act::Kind::run;
+}
+
 /// One scenario's part; it counts once for each thing, however often it came to it.
 class Visit {
 public:
@@ -52,6 +56,10 @@ void Tally::add(const rehearsal::Scenario& scenario, const rehearsal::Journal& j
         if (entry.deed == Deed::window) visit.see(windows, entry.what, entry.value);
         if (entry.deed == Deed::string && entry.found) visit.see(strings, entry.what, entry.value);
         if (entry.deed != Deed::read_setting) continue;
+        if (is_of_a_program(scenario, entry)) {
+            visit.see(program_settings, entry.what, entry.found ? entry.value : Text(absent));
+            continue;
+        }
         settings[entry.what].values.insert(entry.found ? entry.value : Text(absent));
         if (has_value_of_its_own(entry)) visit.see(settings, entry.what);
     }

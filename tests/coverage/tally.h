@@ -19,9 +19,9 @@ using Section = std::map<Text, Hits>;
 
 /// What the scenarios came to. A gate counts once for each of its verdicts, as "gate: verdict". A setting
 /// counts where it was read with a value of its own, other than its default; its values are all that it was
-/// read with.
+/// read with. What the programs beside the add-in read counts apart.
 struct Tally {
-    Section verdicts, traps, settings, windows, strings;
+    Section verdicts, traps, settings, program_settings, windows, strings;
 
     void add(const rehearsal::Scenario& scenario, const rehearsal::Journal& journal);
 };

@@ -38,8 +38,8 @@ struct Count {
 /// What all replays came to. A replay in which the user's script met other windows than it was written for
 /// has no outcome; all that it shows is that nothing was let out.
 struct Tally {
-    std::size_t runs = 0, escaped = 0, blocked = 0, half_dressed = 0, leaked = 0, silent = 0, unfinished = 0,
-                without_memory = 0;
+    std::size_t runs = 0, escaped = 0, blocked = 0, half_dressed = 0, leaked = 0, silent = 0,
+                half_written = 0, unfinished = 0, without_memory = 0;
 
     void add(const Verdict& verdict) {
         escaped += verdict.escaped;
@@ -47,6 +47,7 @@ struct Tally {
         half_dressed += verdict.half_dressed;
         leaked += verdict.leaked;
         silent += verdict.silent;
+        half_written += verdict.half_written;
     }
     void add(const Tally& other) {
         runs += other.runs;
@@ -55,10 +56,11 @@ struct Tally {
         half_dressed += other.half_dressed;
         leaked += other.leaked;
         silent += other.silent;
+        half_written += other.half_written;
         unfinished += other.unfinished;
         without_memory += other.without_memory;
     }
-    std::size_t bad() const { return escaped + blocked + half_dressed + leaked + silent; }
+    std::size_t bad() const { return escaped + blocked + half_dressed + leaked + silent + half_written; }
 };
 
 Play play(const Loaded& loaded, Failures& failures) {
@@ -72,7 +74,8 @@ Play play(const Loaded& loaded, Failures& failures) {
 void tell(const Loaded& loaded, const std::string& fault, const Verdict& verdict) {
     std::cerr << loaded.source << ": " << fault << ":" << (verdict.escaped ? " escaped" : "")
               << (verdict.blocked ? " blocked" : "") << (verdict.half_dressed ? " half-dressed" : "")
-              << (verdict.leaked ? " leaked" : "") << (verdict.silent ? " silent" : "") << '\n';
+              << (verdict.leaked ? " leaked" : "") << (verdict.silent ? " silent" : "")
+              << (verdict.half_written ? " half-written" : "") << '\n';
 }
 
 void replay(const Loaded& loaded, const Play& sound, std::size_t use, Fault fault, Tally& tally) {
@@ -238,6 +241,7 @@ int print(const Tally& tally) {
                           {"half-dressed items", tally.half_dressed},
                           {"leaks", tally.leaked},
                           {"errors without a line in the log", tally.silent},
+                          {"changes of a program half written", tally.half_written},
                           {"not played to the end", tally.unfinished}};
     for (const auto& [name, times] : rows) std::printf("%-34s %8zu\n", name, times);
     return tally.runs > 0 && tally.bad() == 0 ? 0 : 1;

@@ -113,11 +113,31 @@ bool ends_disconnected(const Scenario& scenario) {
     return last == scenario.acts.rend() || last->kind == Act::Kind::disconnect;
 }
 
+Json as_given(const SettingsTree& settings) {
+    Json json = Json::object();
+    for (const auto& [section, keys] : settings)
+        for (const auto& [key, value] : keys) {
+            const Json text = to_json(stored_text(value));
+            json[to_utf8(section)][to_utf8(key)] =
+                std::holds_alternative<Text>(value) ? text : Json{{"expand", text}};
+        }
+    return json;
+}
+
+/// Of one run of a program: its changes are all there, or none of them.
+bool half_written(const Scenario& scenario, const Play& sound, const Play& faulty, const Planted& planted) {
+    const bool is_one_run = scenario.acts.size() == 1 && scenario.acts[0].kind == Act::Kind::run;
+    if (!is_one_run || planted.use.kind != Failing::Kind::save_setting) return false;
+    const Json& settings = faulty.outcome.at("settings");
+    return settings != as_given(scenario.settings) && settings != sound.outcome.at("settings");
+}
+
 } // namespace
 
 Verdict judge(const Scenario& scenario, const Play& sound, const Play& faulty, const Planted& planted) {
     Verdict verdict;
     verdict.escaped = !faulty.outcome.at("error").is_null();
+    verdict.half_written = half_written(scenario, sound, faulty, planted);
     verdict.leaked = ends_disconnected(scenario) && faulty.outcome.at("references").at("held") != 0;
     for (const Send& send : faulty.sends) {
         verdict.blocked |= send.cancelled && !may_cancel(send, sound, faulty, planted);

@@ -44,6 +44,21 @@ TEST(Coverage, AScenarioCountsOnceForWhatItComesToTwice) {
     EXPECT_FALSE(tally.verdicts.contains(u"quote: left"));
 }
 
+TEST(Coverage, WhatAProgramReadsCountsNotAsReadByTheAddIn) {
+    rehearsal::Scenario scenario;
+    scenario.acts.resize(2);
+    scenario.acts[1].kind = rehearsal::Act::Kind::run;
+    rehearsal::Journal journal;
+    journal.note(Deed::read_setting, u"A / by the add-in", u"x");
+    journal.begin_act(1);
+    journal.note(Deed::read_setting, u"A / by a program", u"x");
+    Tally tally;
+    tally.add(scenario, journal);
+    EXPECT_TRUE(tally.settings.contains(u"A / by the add-in"));
+    EXPECT_FALSE(tally.settings.contains(u"A / by a program"));
+    EXPECT_TRUE(tally.program_settings.at(u"A / by a program").values.contains(u"x"));
+}
+
 TEST(Coverage, TheFirstScenarioIsTheExample) {
     Tally tally = tally_of({{0, Deed::window, u"frmMessage", u"a"}});
     rehearsal::Scenario later;
