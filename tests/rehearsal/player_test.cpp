@@ -97,6 +97,7 @@ TEST(Player, AnActWithoutMeansMakesTheScenarioUnusable) {
         {R"({"tray message": 517})", "stage: do[0]: no tray icon is shown"},
         {R"({"dress": 0})", "stage: do[0]: the add-in offers no form for this item"},
         {R"({"click": "EmailMonitor"})", "stage: do[0]: no such button"},
+        {R"({"run": "Calculator.exe"})", "stage: do[0]: there is no such program"},
     };
     for (const auto& [act, refused] : without_means) {
         Performance stage(std::string(R"({"items": [{}], "do": [)") + act + "]}");
@@ -130,6 +131,21 @@ TEST(Player, TheUserAnswersMessageBoxesInTheirOrder) {
     EXPECT_EQ(windows[2]["icon"], "Information");
     EXPECT_FALSE(windows[2].contains("unexpected"));
     EXPECT_EQ(windows[3]["unexpected"], true);
+}
+
+TEST(Player, TheUserAnswersFileDialogsByAPathOrNotAtAll) {
+    Performance stage(R"({"do": ["connect", "start"], "user": [{"at": "Card", "answer": "C:\\jo.vcf"},
+                                                         {"at": "Card", "answer": null}]})");
+    auto& windows = stage.machine.addin_windows();
+    stage.addin.on_start = [&] {
+        EXPECT_EQ(windows.ask_for_path({.title = u"Card"}), u"C:\\jo.vcf");
+        EXPECT_EQ(windows.ask_for_path({.title = u"Card"}), std::nullopt);
+        EXPECT_EQ(windows.ask_for_path({.title = u"Card"}), std::nullopt);
+    };
+    const Json shown = stage.outcome()["windows"];
+    EXPECT_EQ(shown[0], (Json{{"file dialog", "Card"}, {"answer", "C:\\jo.vcf"}}));
+    EXPECT_EQ(shown[1], (Json{{"file dialog", "Card"}, {"answer", nullptr}}));
+    EXPECT_EQ(shown[2], (Json{{"file dialog", "Card"}, {"answer", nullptr}, {"unexpected", true}}));
 }
 
 TEST(Player, AnAnswerThatTheBoxDoesNotHaveMakesTheScenarioUnusable) {
