@@ -68,6 +68,7 @@ TEST_F(ListsWindow, TheKeyboardGoesWhereTheFormWantsIt) {
     form.on(u"lstGoods", Event::click, [&] { form.next_focus = u"txtNote"; });
     show(form, {[](HWND window) {
                     EXPECT_EQ(GetFocus(), control(window, L"cboSize"));
+                    SendMessageW(control(window, L"lstGoods"), LB_SETCURSEL, 0, 0);
                     notify(window, L"lstGoods", LBN_SELCHANGE);
                 },
                 [](HWND window) { EXPECT_EQ(GetFocus(), control(window, L"txtNote")); }});
