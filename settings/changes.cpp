@@ -10,6 +10,11 @@ bool write(Store& store, const Change& change) noexcept {
     return value ? store.save(key.section, key.name, *value) : store.remove(key.section, key.name);
 }
 
+/// What fails once, as while another program holds the key, must not leave half of the changes.
+void put_back(Store& store, const Change& before) noexcept {
+    if (!write(store, before)) write(store, before);
+}
+
 /// The values that stand there now, in the order of the changes.
 std::vector<Change> as_they_are(const Store& store, const std::vector<Change>& changes) {
     std::vector<Change> before;
@@ -29,7 +34,7 @@ const Key* write_changes(Store& store, const std::vector<Change>& changes) noexc
     for (std::size_t i = 0; i < changes.size(); ++i) {
         if (write(store, changes[i])) continue;
         const Key& failed = changes[i].key;
-        while (i-- > 0) write(store, before[i]);
+        while (i-- > 0) put_back(store, before[i]);
         return &failed;
     }
     return nullptr;

@@ -14,8 +14,9 @@ public:
     }
 
     std::optional<Text> find(TextView section, TextView key) const noexcept override {
-        auto value = unsaved_.find(section, key);
-        return value ? value : store_.find(section, key);
+        // A copy would take memory, which nothing here may fail for.
+        if (auto value = unsaved_.find(section, key)) return value;
+        return store_.find(section, key);
     }
     bool save(TextView section, TextView key, TextView value) noexcept override {
         return unsaved_.save(section, key, value);

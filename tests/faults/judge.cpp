@@ -1,6 +1,7 @@
 #include "tests/faults/judge.h"
 
 #include "base/encoding.h"
+#include "rehearsal/machine.h"
 #include "rehearsal/report/reasons.h"
 
 #include <algorithm>
@@ -113,9 +114,13 @@ bool ends_disconnected(const Scenario& scenario) {
     return last == scenario.acts.rend() || last->kind == Act::Kind::disconnect;
 }
 
+/// In the order in which an outcome lists them.
 Json as_given(const SettingsTree& settings) {
-    Json json = Json::object();
+    ByName<ByName<SettingValue>> sorted;
     for (const auto& [section, keys] : settings)
+        for (const auto& [key, value] : keys) sorted[section].insert_or_assign(key, value);
+    Json json = Json::object();
+    for (const auto& [section, keys] : sorted)
         for (const auto& [key, value] : keys) {
             const Json text = to_json(stored_text(value));
             json[to_utf8(section)][to_utf8(key)] =
