@@ -123,6 +123,14 @@ void Connect::OptionsPagesAdd(const host::PropertyPages& pages) noexcept {
     });
 }
 
+std::unique_ptr<forms::frmPropPage> Connect::make_options_page(std::function<void()> on_status_change) {
+    const Platform& platform = session_->platform;
+    return std::make_unique<forms::frmPropPage>(forms::frmPropPage::Needs{
+        platform.settings, platform.files, platform.windows, platform.launcher, platform.addin_folder,
+        [this](TextView before, TextView now) { connect::change_mode(*session_, before, now); },
+        std::move(on_status_change)});
+}
+
 /// The active one; where the mail client was opened without any, the first that it opens.
 void Connect::hook_first_explorer() {
     HostReferences& host = session_->host;

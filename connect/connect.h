@@ -1,6 +1,7 @@
 #pragma once
 
 #include "connect/platform.h"
+#include "forms/frmPropPage.h"
 #include "host/application.h"
 
 #include <memory>
@@ -27,6 +28,10 @@ public:
     void OnBeginShutdown() noexcept;
     /// remove_mode: 0 when the mail client closes, another number when the user unloads the add-in.
     void OnDisconnection(int remove_mode) noexcept;
+
+    /// The page for the mail client's Options dialog. on_status_change is told each change that the user
+    /// makes on it. This outlives the page.
+    std::unique_ptr<forms::frmPropPage> make_options_page(std::function<void()> on_status_change);
 
 private:
     void OptionsPagesAdd(const host::PropertyPages& pages) noexcept;

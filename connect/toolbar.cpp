@@ -31,15 +31,13 @@ void myButtonSetting_Click(Session& session) noexcept {
     attempt([&] {
         const Text caption = session.host.myButtonSetting.caption();
         if (caption == on_caption(session)) {
-            set_mode(session, modes::off);
+            change_mode(session, modes::automatic, modes::off);
         } else if (caption == off_caption(session) && is_on(session.platform.settings, admin::eSignature)) {
-            set_mode(session, modes::signature);
-            write_signature_files(session);
+            change_mode(session, modes::off, modes::signature);
         } else if (caption == off_caption(session)) {
-            set_mode(session, modes::automatic);
+            change_mode(session, modes::off, modes::automatic);
         } else if (caption == modes::signature) {
-            set_mode(session, modes::automatic);
-            reset_host_signatures(session);
+            change_mode(session, modes::signature, modes::automatic);
         }
     });
 }
@@ -85,6 +83,14 @@ void set_mode(Session& session, TextView mode) noexcept {
     attempt([&] { session.host.myButtonSetting.set_caption(caption_of_mode(session, mode)); });
     save(session.platform.settings, user::SettingButtonBar, mode);
     follow_mode(session);
+}
+
+void change_mode(Session& session, TextView before, TextView now) noexcept {
+    set_mode(session, now);
+    if (now == modes::signature)
+        write_signature_files(session);
+    else if (before == modes::signature)
+        reset_host_signatures(session);
 }
 
 void add_buttons(Session& session) noexcept {

@@ -14,6 +14,10 @@ void add_buttons(Session& session) noexcept;
 /// Saves the mode, and shows it on the mode button, where there is one, and in the windows of messages.
 void set_mode(Session& session, TextView mode) noexcept;
 
+/// The same for a user who chooses another mode: the mail client's own signatures are written for the mode
+/// that uses them, and emptied when it is left.
+void change_mode(Session& session, TextView before, TextView now) noexcept;
+
 /// Takes the buttons off the toolbar: the user unloads the add-in.
 void remove_buttons(Session& session) noexcept;
 

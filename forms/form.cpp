@@ -61,7 +61,9 @@ void Form::take_room(Size room) {
     run(on_resize);
 }
 
-Control* Form::find(TextView control) {
+Control* Form::find(TextView control) { return const_cast<Control*>(std::as_const(*this).find(control)); }
+
+const Control* Form::find(TextView control) const {
     const auto found =
         std::ranges::find_if(controls_, [&](const Control& each) { return same_name(each.name, control); });
     return found == controls_.end() ? nullptr : &*found;

@@ -52,6 +52,7 @@ public:
     /// Throws Failure when the form has no control of this name. Names compare without case.
     Control& operator[](TextView control);
     Control* find(TextView control);
+    const Control* find(TextView control) const;
 
     /// What the user's own action on a control runs; code that changes a control runs nothing.
     void on(TextView control, Event event, Handler handler);

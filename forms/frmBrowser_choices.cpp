@@ -12,9 +12,6 @@ namespace {
 using namespace settings;
 using namespace preview_design;
 
-/// A file's name as the user chooses it: what stands before the first ".htm".
-Text display_name(TextView file) { return Text(file.substr(0, file.find(u".htm"))); }
-
 /// What a signature profile holds: the user's own fields, which it is copied over.
 constexpr const TextKey* profile_fields[] = {
     &admin::SigEmail,

@@ -3,6 +3,7 @@
 #include "base/flag.h"
 #include "diagnostics/about.h"
 #include "diagnostics/basSysInfo.h"
+#include "forms/about_box.h"
 #include "forms/captions.h"
 #include "forms/input_box.h"
 
@@ -91,7 +92,7 @@ frmSysTray::frmSysTray(Needs needs)
     form_.on_load = [this] { Form_Load(); };
     form_.on_unload = [this] { Form_Unload(); };
     form_.on(u"mnClose", Event::click, [this] { form_.unload(); });
-    form_.on(u"mnAbout", Event::click, [this] { mnAbout_Click(); });
+    form_.on(u"mnAbout", Event::click, [this] { show_about(needs_.windows); });
     form_.on(u"mnSite", Event::click, [this] { mnSite_Click(); });
     form_.on(u"mnSystemInfo", Event::click, [this] { mnSystemInfo_Click(); });
     form_.on(u"mnOptions", Event::click, [this] { mnOptions_Click(); });
@@ -129,10 +130,6 @@ void frmSysTray::pop_up() {
     const auto chosen = needs_.tray.pop_up(entries);
     // The mail client may have ended meanwhile.
     if (chosen && form_.is_loaded()) form_.fire(form_.controls()[*chosen].name, Event::click);
-}
-
-void frmSysTray::mnAbout_Click() {
-    needs_.windows.inform(u"About Ornavel", u"Ornavel" + Text(line_end) + u"Version: " + Text(version));
 }
 
 void frmSysTray::mnSite_Click() { needs_.launcher.launch(site, {}, WindowState::normal); }

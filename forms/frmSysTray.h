@@ -47,7 +47,6 @@ private:
     void Picture1_MouseMove(int message) noexcept;
     void pop_up();
 
-    void mnAbout_Click();
     void mnSite_Click();
     void mnSystemInfo_Click();
     void mnOptions_Click();

@@ -2,6 +2,8 @@
 
 namespace ornavel::forms {
 
+Text display_name(TextView file) { return Text(file.substr(0, file.find(u".htm"))); }
+
 std::vector<Text> stationery_in(const Files& files, TextView folder) {
     std::vector<Text> names = files.list(folder);
     std::erase_if(names, [](const Text& file) {

@@ -33,6 +33,13 @@ public:
     void add(const ObjectPtr& page, TextView title) const { call({u"Add"}, {page, Text(title)}); }
 };
 
+/// The dialog around a page.
+class PropertyPageSite : public ViewOf<u"PropertyPageSite"> {
+public:
+    using ViewOf::ViewOf;
+    void on_status_change() const { call({u"OnStatusChange"}); }
+};
+
 /// The page that the add-in adds to the Options dialog.
 ObjectPtr create_options_page(Objects& objects);
 

@@ -1,11 +1,12 @@
 #include "programs/all_programs.h"
 
+#include "programs/options_assistant/options_assistant.h"
 #include "programs/site_assistant/site_assistant.h"
 
 namespace ornavel::programs {
 namespace {
 
-constexpr const Program* all[] = {&site_assistant};
+constexpr const Program* all[] = {&site_assistant, &options_assistant};
 
 } // namespace
 

@@ -58,7 +58,10 @@ void Player::play_act(const Act& act, Json& record) {
     case Kind::click:
         return click(act);
     case Kind::options:
-        return client_.ask_for_pages();
+        client_.ask_for_pages();
+        return;
+    case Kind::page:
+        return page(act);
     case Kind::new_explorer:
         return client_.add_explorers(act.number);
     case Kind::close_explorer:
@@ -115,6 +118,12 @@ void Player::click(const Act& act) {
     const auto button = client_.standard_bar->find(act.text);
     if (!button) refuse(act, "no such button");
     client_.click(*button);
+}
+
+void Player::page(const Act& act) {
+    const host::ObjectPtr page = client_.ask_for_pages();
+    if (!page) refuse(act, "the add-in offers no page");
+    addin_.show_page(page, act);
 }
 
 void Player::refuse(const Act& act, const std::string& reason) const {

@@ -13,6 +13,8 @@ public:
     virtual void update() = 0;
     virtual void shutdown() = 0;
     virtual void disconnect(int remove_mode) = 0;
+    /// Does what the user does in the Options dialog with the page that the add-in gave it.
+    virtual void show_page(const host::ObjectPtr& page, const Act& act) = 0;
 };
 
 /// Plays a scenario's acts, one by one, to the end or to the first exception that reaches the host.
@@ -33,6 +35,7 @@ private:
     void dress(const Act& act, Json& record);
     void run(const Act& act, Json& record);
     void click(const Act& act);
+    void page(const Act& act);
     [[noreturn]] void refuse(const Act& act, const std::string& reason) const;
 
     const Scenario& scenario_;

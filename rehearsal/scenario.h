@@ -62,6 +62,9 @@ struct Host {
     bool own_mails_raise_item_send = false;
 };
 
+/// Whether the scenario lets the class with this name be made.
+bool can_be_created(const Host& host, TextView prog_id);
+
 struct RecipientEntry {
     Text name, address; ///< an empty name shows the address
     int type = 1;       ///< 1 To, 2 Cc, 3 Bcc
@@ -94,6 +97,14 @@ struct Step {
     Text control, text;
     int first = 0, second = 0; ///< an entry's index; a width and height, or left and top, in twips
     bool ticked = false;
+};
+
+/// One thing that the user does in the Options dialog: on the add-in's page, or with one of the dialog's own
+/// buttons.
+struct PageStep {
+    enum class Kind { on_the_page, apply, ok, cancel };
+    Kind kind = Kind::on_the_page;
+    Step step{};
 };
 
 /// What the user does with one window.
@@ -145,6 +156,7 @@ struct Act {
         disconnect,
         set,
         clock,
+        page,
         run
     };
     Kind kind = Kind::connect;
@@ -153,6 +165,7 @@ struct Act {
     Text arguments; ///< of a program
     SettingsTree settings;
     LocalTime time;
+    std::vector<PageStep> page;
     Json given;       ///< as the scenario spells it
     std::string path; ///< where it stands in the scenario
 };

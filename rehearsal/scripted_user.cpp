@@ -20,8 +20,8 @@ std::optional<UserEntry> ScriptedUser::meet(TextView at) {
     return entry;
 }
 
-void ScriptedUser::complain(const UserEntry& entry, const std::string& reason) {
-    if (!complaint_) complaint_ = source_ + ": " + entry.path + ": " + reason;
+void ScriptedUser::complain(const std::string& path, const std::string& reason) {
+    if (!complaint_) complaint_ = source_ + ": " + path + ": " + reason;
 }
 
 Json answer_message_box(ScriptedUser& user, TextView title, TextView text, Buttons buttons) {

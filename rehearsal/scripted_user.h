@@ -17,7 +17,8 @@ public:
 
     /// Notes that what the script asks for can't be done; the first complaint is kept. A window is shown from
     /// inside the add-in, which would swallow an exception.
-    void complain(const UserEntry& entry, const std::string& reason);
+    void complain(const UserEntry& entry, const std::string& reason) { complain(entry.path, reason); }
+    void complain(const std::string& path, const std::string& reason);
     const std::optional<std::string>& complaint() const { return complaint_; }
 
 private:

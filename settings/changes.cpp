@@ -6,8 +6,10 @@ namespace ornavel::settings {
 namespace {
 
 bool write(Store& store, const Change& change) noexcept {
-    const auto& [key, value] = change;
-    return value ? store.save(key.section, key.name, *value) : store.remove(key.section, key.name);
+    const auto& [key, value, has_variables] = change;
+    if (!value) return store.remove(key.section, key.name);
+    return has_variables ? store.save_with_variables(key.section, key.name, *value)
+                         : store.save(key.section, key.name, *value);
 }
 
 /// What fails once, as while another program holds the key, must not leave half of the changes.
@@ -19,8 +21,13 @@ void put_back(Store& store, const Change& before) noexcept {
 std::vector<Change> as_they_are(const Store& store, const std::vector<Change>& changes) {
     std::vector<Change> before;
     before.reserve(changes.size());
-    for (const Change& change : changes)
-        before.push_back({change.key, store.find(change.key.section, change.key.name)});
+    for (const Change& change : changes) {
+        const auto stored = store.find_stored(change.key.section, change.key.name);
+        if (stored)
+            before.push_back({change.key, stored->text, stored->has_variables});
+        else
+            before.push_back({change.key, std::nullopt});
+    }
     return before;
 }
 

@@ -12,15 +12,6 @@ Text with_long_root(const Text& path) {
     return is_short ? Text(long_root) + path.substr(short_root.size()) : path;
 }
 
-/// What of the path stands below the area; nothing for a key elsewhere.
-std::optional<Text> below_area(const Text& path) {
-    const Text whole = with_long_root(path);
-    if (!same_name(TextView(whole).substr(0, registry_area.size()), registry_area)) return {};
-    const TextView rest = TextView(whole).substr(registry_area.size());
-    if (!rest.empty() && rest.front() != u'\\') return {};
-    return Text(rest.substr(rest.empty() ? 0 : 1));
-}
-
 bool stands_above_area(const Text& path) {
     return same_name(registry_area.substr(0, path.size() + 1), path + u"\\");
 }
@@ -47,10 +38,18 @@ void take(std::vector<FileSetting>& settings, const Text& section, const RegValu
 
 } // namespace
 
+std::optional<Text> section_of(const Text& path) {
+    const Text whole = with_long_root(path);
+    if (!same_name(TextView(whole).substr(0, registry_area.size()), registry_area)) return {};
+    const TextView rest = TextView(whole).substr(registry_area.size());
+    if (!rest.empty() && rest.front() != u'\\') return {};
+    return Text(rest.substr(rest.empty() ? 0 : 1));
+}
+
 std::vector<FileSetting> settings_of(const RegFile& file) {
     std::vector<FileSetting> settings;
     for (const RegKey& key : file.keys) {
-        const auto section = below_area(key.path);
+        const auto section = section_of(key.path);
         if (key.removed && stands_above_area(with_long_root(key.path))) settings.clear();
         if (!section) continue;
         if (key.removed)

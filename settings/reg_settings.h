@@ -20,6 +20,9 @@ struct FileSetting {
 /// that are no texts read as absent, and so do texts with variables in settings that are no paths.
 std::vector<FileSetting> settings_of(const RegFile& file);
 
+/// The section that a registry key is, empty for the area itself; nothing for a key elsewhere.
+std::optional<Text> section_of(const Text& key);
+
 /// The catalogue's key with that section and name; nothing where there is none.
 const Key* find_key(TextView section, TextView name);
 

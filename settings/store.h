@@ -11,10 +11,26 @@ namespace ornavel::settings {
 /// can't be read is absent, what can't be written changes nothing and answers false.
 class Store {
 public:
+    /// A text as it is stored. Variables are names between per cent signs, such as %APPDATA%.
+    struct Stored {
+        Text text;
+        bool has_variables = false;
+        bool operator==(const Stored&) const = default;
+    };
+
     virtual ~Store() = default;
     /// The stored value, which may be empty; nothing when it is absent.
     virtual std::optional<Text> find(TextView section, TextView key) const noexcept = 0;
     virtual bool save(TextView section, TextView key, TextView value) noexcept = 0;
+    /// The value without anything in place of its variables; a store that knows none has texts only.
+    virtual std::optional<Stored> find_stored(TextView section, TextView key) const noexcept {
+        auto value = find(section, key);
+        return value ? std::optional(Stored{std::move(*value)}) : std::nullopt;
+    }
+    /// Saves a path whose variables stand for something each time it is read.
+    virtual bool save_with_variables(TextView section, TextView key, TextView value) noexcept {
+        return save(section, key, value);
+    }
     /// Afterwards the value is absent; one that is absent already is removed.
     virtual bool remove(TextView section, TextView key) noexcept = 0;
 };

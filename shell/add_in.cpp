@@ -77,6 +77,20 @@ connect::Platform Machine::platform(IUnknown* owner) {
             .tray = &tray_};
 }
 
+AddIn::~AddIn() {
+    if (connected_ == this) connected_ = nullptr;
+}
+
+void AddIn::connect(host::Application application, int mode) {
+    connected_ = this;
+    connect_.OnConnection(std::move(application), mode);
+}
+
+void AddIn::disconnect(int remove_mode) {
+    if (connected_ == this) connected_ = nullptr;
+    connect_.OnDisconnection(remove_mode);
+}
+
 HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {
     return answer(wanted == IID_IUnknown || wanted == IID_IDispatch || wanted == win32::IID_IDTExtensibility2,
                   object);
@@ -103,11 +117,11 @@ HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VAR
     return at_boundary(this, [&] {
         switch (id) {
         case on_connection:
-            connect_.OnConnection(host::Application(host::as_object_or_nothing(argument(parameters, 0))),
-                                  host::as_number(argument(parameters, 1)));
+            connect(host::Application(host::as_object_or_nothing(argument(parameters, 0))),
+                    host::as_number(argument(parameters, 1)));
             break;
         case on_disconnection:
-            connect_.OnDisconnection(host::as_number(argument(parameters, 0)));
+            disconnect(host::as_number(argument(parameters, 0)));
             break;
         case on_addins_update:
             connect_.OnAddInsUpdate();
@@ -123,12 +137,11 @@ HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VAR
 }
 
 HRESULT AddIn::OnConnection(IDispatch* Application, LONG ConnectMode, IDispatch*, SAFEARRAY**) {
-    return at_boundary(
-        this, [&] { connect_.OnConnection(host::Application(win32::object_of(Application)), ConnectMode); });
+    return at_boundary(this, [&] { connect(host::Application(win32::object_of(Application)), ConnectMode); });
 }
 
 HRESULT AddIn::OnDisconnection(LONG RemoveMode, SAFEARRAY**) {
-    return at_boundary(this, [&] { connect_.OnDisconnection(RemoveMode); });
+    return at_boundary(this, [&] { disconnect(RemoveMode); });
 }
 
 HRESULT AddIn::OnAddInsUpdate(SAFEARRAY**) {

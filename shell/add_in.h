@@ -34,6 +34,11 @@ private:
 /// The class that the mail client creates. Whatever happens inside, its handlers answer S_OK.
 class AddIn final : public win32::Counted<win32::IDTExtensibility2> {
 public:
+    ~AddIn() override;
+    /// The one that is connected to the mail client in this process; null where none is.
+    static AddIn* connected() { return connected_; }
+    connect::Connect& connection() { return connect_; }
+
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override;
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
@@ -52,6 +57,11 @@ public:
     HRESULT STDMETHODCALLTYPE OnBeginShutdown(SAFEARRAY** custom) override;
 
 private:
+    void connect(host::Application application, int mode);
+    void disconnect(int remove_mode);
+
+    static inline AddIn* connected_ = nullptr;
+
     Machine machine_;
     connect::Connect connect_{machine_.platform(this)};
 };

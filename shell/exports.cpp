@@ -1,4 +1,5 @@
 #include "shell/add_in.h"
+#include "shell/options_page.h"
 #include "shell/registration.h"
 #include "win32/this_module.h"
 #include "win32/wide.h"
@@ -9,7 +10,8 @@
 namespace ornavel::shell {
 namespace {
 
-class AddInFactory final : public win32::Counted<IClassFactory> {
+template <class Kind>
+class Factory final : public win32::Counted<IClassFactory> {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override {
         return answer(wanted == IID_IUnknown || wanted == IID_IClassFactory, object);
@@ -19,9 +21,9 @@ public:
         if (!object) return E_POINTER;
         *object = nullptr;
         if (outer) return CLASS_E_NOAGGREGATION;
-        win32::ComPtr<AddIn> add_in;
-        if (!attempt([&] { add_in = win32::ComPtr<AddIn>::adopt(new AddIn); })) return E_OUTOFMEMORY;
-        return add_in->QueryInterface(wanted, object);
+        win32::ComPtr<Kind> made;
+        if (!attempt([&] { made = win32::ComPtr<Kind>::adopt(new Kind); })) return E_OUTOFMEMORY;
+        return made->QueryInterface(wanted, object);
     }
 
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
@@ -29,6 +31,12 @@ public:
         return S_OK;
     }
 };
+
+template <class Kind>
+HRESULT give_factory(REFIID wanted, void** object) {
+    const auto factory = win32::ComPtr<Factory<Kind>>::adopt(new (std::nothrow) Factory<Kind>);
+    return factory ? factory->QueryInterface(wanted, object) : E_OUTOFMEMORY;
+}
 
 } // namespace
 } // namespace ornavel::shell
@@ -39,9 +47,9 @@ using namespace ornavel::shell;
 STDAPI DllGetClassObject(REFCLSID class_id, REFIID wanted, void** object) {
     if (!object) return E_POINTER;
     *object = nullptr;
-    if (class_id != CLSID_Connect) return CLASS_E_CLASSNOTAVAILABLE;
-    const auto factory = win32::ComPtr<AddInFactory>::adopt(new (std::nothrow) AddInFactory);
-    return factory ? factory->QueryInterface(wanted, object) : E_OUTOFMEMORY;
+    if (class_id == CLSID_Connect) return give_factory<AddIn>(wanted, object);
+    if (class_id == CLSID_PropPage) return give_factory<OptionsPage>(wanted, object);
+    return CLASS_E_CLASSNOTAVAILABLE;
 }
 
 STDAPI DllCanUnloadNow() { return win32::ModuleUse::any() ? S_FALSE : S_OK; }

@@ -9,6 +9,9 @@ namespace {
 #define CLASS_ID u"{01F2687D-003D-4805-8744-2B3921019DBC}"
 #define CLASS_KEY u"Software\\Classes\\CLSID\\" CLASS_ID
 #define PROGRAM_KEY u"Software\\Classes\\Ornavel.Connect"
+#define PAGE_ID u"{7B4C9A52-6E1D-4F0B-9D37-5A28C1E6F493}"
+#define PAGE_CLASS_KEY u"Software\\Classes\\CLSID\\" PAGE_ID
+#define PAGE_KEY u"Software\\Classes\\BrevantPage.PropPage"
 #define HOST_KEY u"Software\\Microsoft\\Office\\Outlook\\Addins\\Ornavel.Connect"
 
 constexpr TextView dll = u"<the path of the DLL>";
@@ -26,6 +29,15 @@ constexpr TextRow texts[] = {
     {CLASS_KEY u"\\ProgID", u"", u"Ornavel.Connect"},
     {PROGRAM_KEY, u"", u"Ornavel"},
     {PROGRAM_KEY u"\\CLSID", u"", CLASS_ID},
+    {PAGE_CLASS_KEY, u"", u"Ornavel options page"},
+    {PAGE_CLASS_KEY u"\\InprocServer32", u"", dll},
+    {PAGE_CLASS_KEY u"\\InprocServer32", u"ThreadingModel", u"Apartment"},
+    {PAGE_CLASS_KEY u"\\ProgID", u"", u"BrevantPage.PropPage"},
+    {PAGE_CLASS_KEY u"\\Control", u"", u""},
+    {PAGE_CLASS_KEY u"\\MiscStatus", u"", u"0"},
+    {PAGE_CLASS_KEY u"\\MiscStatus\\1", u"", u"131473"}, // what the control says of itself
+    {PAGE_KEY, u"", u"Ornavel options page"},
+    {PAGE_KEY u"\\CLSID", u"", PAGE_ID},
     {HOST_KEY, u"FriendlyName", u"Ornavel"},
     {HOST_KEY, u"Description", u"Dresses outgoing messages in your stationery"},
 };
@@ -41,7 +53,7 @@ constexpr NumberRow numbers[] = {
     {HOST_KEY, u"CommandLineSafe", 0},
 };
 
-constexpr TextView own_keys[] = {HOST_KEY, PROGRAM_KEY, CLASS_KEY};
+constexpr TextView own_keys[] = {HOST_KEY, PAGE_KEY, PAGE_CLASS_KEY, PROGRAM_KEY, CLASS_KEY};
 
 /// Made by the registration where they were missing; the innermost comes first.
 constexpr TextView parent_keys[] = {

@@ -29,27 +29,35 @@ struct EmptyDialog {
     WORD menu = 0, window_class = 0, title = 0;
 };
 
-HWND create_dialog(const forms::Form& form, HWND owner, DLGPROC procedure, void* self) {
-    EmptyDialog empty;
-    empty.dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_NOIDLEMSG |
-                         (form.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : DS_MODALFRAME);
-    const HWND window = CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.dialog, owner, procedure,
-                                                   reinterpret_cast<LPARAM>(self));
-    if (!window) fail(form.name(), GetLastError());
-    return window;
+DWORD frame_of(const forms::Form& form) {
+    return WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_NOIDLEMSG |
+           (form.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : DS_MODALFRAME);
 }
 
 } // namespace
 
 FormWindow::FormWindow(forms::Form& form) : form_(form), font_(dialog_font(scale_)) {}
 
+void FormWindow::create_dialog(DWORD style, DWORD extended_style, HWND owner) {
+    EmptyDialog empty;
+    empty.dialog.style = style;
+    empty.dialog.dwExtendedStyle = extended_style;
+    window_ = CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.dialog, owner, procedure,
+                                         reinterpret_cast<LPARAM>(this));
+    if (!window_) fail(form_.name(), GetLastError());
+}
+
 void FormWindow::open(HWND owner) {
-    window_ = create_dialog(form_, owner, procedure, this);
-    give_name(window_, form_.name());
+    create_dialog(frame_of(form_), 0, owner);
     show_program_icon(window_);
     find_place();
     // Before there are tool tips: under Wine a window that owns another one never becomes topmost.
     show_frame();
+    fill();
+}
+
+void FormWindow::fill() {
+    give_name(window_, form_.name());
     tips_.emplace(window_);
     create_controls();
     if (form_.sizable) grip_.emplace(window_);
@@ -105,7 +113,7 @@ void FormWindow::run() {
 void FormWindow::refresh() {
     if (!window_) return;
     const bool before = std::exchange(refreshing_, true);
-    show_frame();
+    if (!is_within_) show_frame();
     fill_room();
     if (grip_) grip_->follow();
     for (std::size_t i = 0; i < controls_.size(); ++i) {

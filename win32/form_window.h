@@ -21,6 +21,17 @@ public:
     /// Makes the window, still hidden, in front of its owner. Throws Failure when the system has none to
     /// give.
     void open(HWND owner);
+    /// Makes the window within another one of the same thread, which is somebody else's: it has no frame, its
+    /// place is told by move, and the keys that a dialog has for itself are left to those around it. The
+    /// procedure is told when the user turns to it with the mouse.
+    void open_within(HWND parent, const RECT& place, std::function<void()> on_entered);
+    void move(const RECT& place);
+    /// Of a window within another one. Offers a key; whether it was used. The Tab key is not used where it
+    /// leads out.
+    bool takes_key(MSG& message);
+    /// Gives the keyboard to the first control, or to the last.
+    void take_keyboard(bool at_the_end);
+
     HWND window() const { return window_; }
     /// Shows the window and returns when the form is unloaded.
     void run();
@@ -34,6 +45,8 @@ private:
     bool translate_in_text_box(const ControlWindow& box, const MSG& message);
     bool translate_in_page(const ControlWindow& page, const MSG& message);
 
+    void create_dialog(DWORD style, DWORD extended_style, HWND owner);
+    void fill();
     void find_place();
     void create_controls();
     void refresh();
@@ -54,6 +67,8 @@ private:
     Scale scale_ = Scale::of_screen();
     Owned<&DeleteObject> font_;
     HWND window_ = nullptr;
+    bool is_within_ = false; ///< another window
+    std::function<void()> on_entered_;
     std::optional<ToolTips> tips_;
     std::optional<SizeGrip> grip_;
     std::vector<ControlWindow> controls_; ///< in the order of the form's own

@@ -69,8 +69,11 @@ bool FormWindow::handle(UINT message, WPARAM word, LPARAM pointer) {
         on_command(LOWORD(word), HIWORD(word));
         return true;
     case WM_CLOSE:
-        step([](FormUser user) { user.close(); });
+        if (!is_within_) step([](FormUser user) { user.close(); });
         return true;
+    case WM_MOUSEACTIVATE:
+        if (is_within_) attempt(on_entered_);
+        return false;
     case WM_MOVE:
     case WM_SIZE:
         on_moved();
@@ -85,8 +88,9 @@ bool FormWindow::handle(UINT message, WPARAM word, LPARAM pointer) {
             control.release_name();
         }
         window_ = nullptr;
-        // Windows that go with their owner take their form along, whether it may be closed or not.
-        step([this](FormUser) { form_.unload(); });
+        // Windows that go with their owner take their form along, whether it may be closed or not; a page may
+        // appear once more.
+        if (!is_within_) step([this](FormUser) { form_.unload(); });
         return false;
     default:
         return false;
@@ -95,7 +99,7 @@ bool FormWindow::handle(UINT message, WPARAM word, LPARAM pointer) {
 
 void FormWindow::on_command(int id, int notification) {
     if (refreshing_) return;
-    if (id == IDCANCEL) on_escape();
+    if (id == IDCANCEL && !is_within_) on_escape();
     const int index = id - first_id;
     if (index >= 0 && static_cast<std::size_t>(index) < controls_.size())
         on_notification(controls_[static_cast<std::size_t>(index)], notification);
@@ -142,6 +146,7 @@ void FormWindow::on_escape() {
 /// A maximised window is larger than its place, to which it returns, and an icon is nowhere.
 void FormWindow::on_moved() {
     if (refreshing_ || IsIconic(window_)) return;
+    if (is_within_) return void(attempt([&] { refresh(); }));
     RECT frame;
     GetWindowRect(window_, &frame);
     const RECT shown = scale_.pixels(place_);

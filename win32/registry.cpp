@@ -59,10 +59,14 @@ bool RegistryKey::tell_changes_of_names(HANDLE event) const {
     return RegNotifyChangeKeyValue(key_, TRUE, REG_NOTIFY_CHANGE_NAME, event, TRUE) == ERROR_SUCCESS;
 }
 
-void RegistryKey::set(TextView name, TextView text) {
+void RegistryKey::set(TextView name, TextView text) { set_text(name, text, REG_SZ); }
+
+void RegistryKey::set_expanding(TextView name, TextView text) { set_text(name, text, REG_EXPAND_SZ); }
+
+void RegistryKey::set_text(TextView name, TextView text, DWORD type) {
     std::wstring value = wide(text);
     value.push_back(L'\0');
-    check_key(RegSetValueExW(key_, wide(name).c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.data()),
+    check_key(RegSetValueExW(key_, wide(name).c_str(), 0, type, reinterpret_cast<const BYTE*>(value.data()),
                              byte_count(value)),
               name);
 }

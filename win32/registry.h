@@ -43,6 +43,8 @@ public:
     std::optional<Text> text(TextView name) const;
     void set(TextView name, TextView text);
     void set(TextView name, DWORD number);
+    /// A text with the names of environment variables in it.
+    void set_expanding(TextView name, TextView text);
     /// One that is not there is removed already.
     void remove(TextView name);
 
@@ -55,6 +57,7 @@ public:
 
 private:
     explicit RegistryKey(HKEY key) : key_(key) {}
+    void set_text(TextView name, TextView text, DWORD type);
 
     HKEY key_;
 };

@@ -16,12 +16,13 @@ const RegistryKey* RegistryStore::key_of(TextView section) const {
     return key ? &keys_.emplace(Text(section), std::move(*key)).first->second : nullptr;
 }
 
-std::optional<Text> RegistryStore::find(TextView section, TextView key) const noexcept {
+std::optional<settings::Store::Stored> RegistryStore::find_stored(TextView section,
+                                                                  TextView key) const noexcept {
     std::optional<RegistryKey::StoredText> stored;
     const auto look = [&] {
         if (const auto* values = key_of(section)) stored = values->stored_text(key);
     };
-    std::optional<Text> value;
+    std::optional<Stored> value;
     attempt([&] {
         try {
             look();
@@ -29,8 +30,17 @@ std::optional<Text> RegistryStore::find(TextView section, TextView key) const no
             keys_.clear();
             look();
         }
+        if (stored) value = Stored{std::move(stored->text), stored->expands};
+    });
+    return value;
+}
+
+std::optional<Text> RegistryStore::find(TextView section, TextView key) const noexcept {
+    auto stored = find_stored(section, key);
+    std::optional<Text> value;
+    attempt([&] {
         if (!stored) return;
-        if (!stored->expands)
+        if (!stored->has_variables)
             value = std::move(stored->text);
         else if (settings::is_path(section, key))
             value = expanded(stored->text);
@@ -42,6 +52,13 @@ bool RegistryStore::save(TextView section, TextView key, TextView value) noexcep
     return attempt([&] {
         RegistryKey::create(path_of(section)).set(key, value);
         // What was just saved is read next, also where the open key is no longer the section's.
+        forget(section);
+    });
+}
+
+bool RegistryStore::save_with_variables(TextView section, TextView key, TextView value) noexcept {
+    return attempt([&] {
+        RegistryKey::create(path_of(section)).set_expanding(key, value);
         forget(section);
     });
 }

@@ -17,6 +17,8 @@ public:
     std::optional<Text> find(TextView section, TextView key) const noexcept override;
     bool save(TextView section, TextView key, TextView value) noexcept override;
     bool remove(TextView section, TextView key) noexcept override;
+    std::optional<Stored> find_stored(TextView section, TextView key) const noexcept override;
+    bool save_with_variables(TextView section, TextView key, TextView value) noexcept override;
 
 private:
     struct NameOrder {

@@ -9,8 +9,10 @@ class UnsavedSettings final : public settings::Store {
 public:
     UnsavedSettings(const settings::Store& store, const std::vector<settings::Change>& changes)
         : store_(store) {
-        for (const auto& [key, value] : changes)
-            unsaved_.save(key.section, key.name, value.value_or(Text(key.default_value)));
+        for (const settings::Change& change : changes) {
+            const settings::Key& key = change.key;
+            unsaved_.save(key.section, key.name, change.value.value_or(Text(key.default_value)));
+        }
     }
 
     std::optional<Text> find(TextView section, TextView key) const noexcept override {

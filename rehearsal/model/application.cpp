@@ -100,8 +100,7 @@ constexpr MemberRow name_space_members[] = {
 };
 
 Value add_page(const Call& call) {
-    node_of(call.arguments[0]);
-    call.client.pages.push_back(call.given(1) ? call.text(1) : Text());
+    call.client.take_page(host::as_object(call.arguments[0]), call.given(1) ? call.text(1) : Text());
     return {};
 }
 

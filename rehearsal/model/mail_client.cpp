@@ -8,6 +8,7 @@
 #include "rehearsal/turn.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ornavel::rehearsal {
 namespace {
@@ -32,11 +33,6 @@ constexpr Creatable creatables[] = {
     {u"Scripting.FileSystemObject", make<FileSystemNode>},
 };
 
-bool is_there(const Host& host, TextView prog_id) {
-    return std::none_of(host.objects.begin(), host.objects.end(),
-                        [&](const auto& entry) { return same_name(entry.first, prog_id) && !entry.second; });
-}
-
 } // namespace
 
 bool Call::given(std::size_t index) const {
@@ -59,7 +55,7 @@ host::ObjectPtr MailClient::create(TextView prog_id) {
         const auto entry =
             std::find_if(std::begin(creatables), std::end(creatables),
                          [&](const Creatable& candidate) { return same_name(candidate.prog_id, prog_id); });
-        if (entry == std::end(creatables) || !is_there(host(), prog_id))
+        if (entry == std::end(creatables) || !can_be_created(host(), prog_id))
             throw host::Error(u"ActiveX component can't create object");
         return hand_out(entry->make());
     });
@@ -71,7 +67,7 @@ host::ObjectPtr MailClient::get(TextView moniker) {
         failures_.use(Failing::Kind::creation, moniker);
         const bool provider =
             moniker.starts_with(u"winmgmts:") && moniker.ends_with(u"\\root\\default:StdRegProv");
-        if (!provider || !is_there(host(), u"winmgmts"))
+        if (!provider || !can_be_created(host(), u"winmgmts"))
             throw host::Error(u"ActiveX component can't create object");
         return hand_out(std::make_shared<RegistryProviderNode>());
     });
@@ -146,9 +142,15 @@ void MailClient::close_window(const std::shared_ptr<InspectorNode>& window) {
     std::erase(windows_, window);
 }
 
-void MailClient::ask_for_pages() {
+host::ObjectPtr MailClient::ask_for_pages() {
     Value arguments[] = {hand_out(std::make_shared<PropertyPagesNode>())};
     raise_event(*this, *application_, u"OptionsPagesAdd", arguments);
+    return std::exchange(page_, nullptr);
+}
+
+void MailClient::take_page(host::ObjectPtr page, Text title) {
+    page_ = std::move(page);
+    pages.push_back(std::move(title));
 }
 
 void MailClient::add_explorers(int count) {

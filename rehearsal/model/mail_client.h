@@ -34,8 +34,9 @@ public:
     /// Sends without telling anyone.
     void send_silently(MailItemNode& item);
     void click(ButtonNode& button);
-    /// The Options dialog asks for pages.
-    void ask_for_pages();
+    /// The Options dialog asks for pages. Gives the one that was added; nothing where there is none.
+    host::ObjectPtr ask_for_pages();
+    void take_page(host::ObjectPtr page, Text title);
     /// Each tells the explorers' listeners.
     void add_explorers(int count);
     /// Raises Close while the window still counts among the explorers and, when it was the active one, still
@@ -95,6 +96,7 @@ private:
     std::vector<std::shared_ptr<InspectorNode>>
         windows_; ///< of items, in the order in which they were opened
     std::size_t active_ = 0;
+    host::ObjectPtr page_; ///< while the Options dialog asks
 };
 
 } // namespace ornavel::rehearsal

@@ -6,10 +6,7 @@
 
 namespace ornavel::rehearsal {
 
-namespace {
-
-/// What a handler throws ends that handler alone, as in a real window.
-void take(const Step& step, forms::Form& form) {
+void take_one_step(const Step& step, forms::Form& form) {
     try {
         const AddInsTurn turn;
         take_step(step, forms::FormUser(form));
@@ -21,12 +18,10 @@ void take(const Step& step, forms::Form& form) {
     }
 }
 
-} // namespace
-
 void take_steps(ScriptedUser& user, const UserEntry& entry, forms::Form& form) {
     try {
         refuse_answer(entry);
-        for (const auto& step : entry.steps) take(step, form);
+        for (const auto& step : entry.steps) take_one_step(step, form);
     } catch (const forms::UnusableStep& error) {
         user.complain(entry, to_utf8(error.description()));
     }

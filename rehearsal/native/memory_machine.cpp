@@ -10,6 +10,7 @@
 #include "rehearsal/menu_act.h"
 #include "rehearsal/native/form_player.h"
 #include "rehearsal/native/watching.h"
+#include "rehearsal/options_dialog.h"
 #include "rehearsal/turn.h"
 
 namespace ornavel::rehearsal {
@@ -162,6 +163,22 @@ void MemoryMachine::show_modal(forms::Form& form) {
     });
     windows_[place]["at close"] = changed_controls(windows_[place], form);
     if (!entry) windows_[place]["unexpected"] = true;
+}
+
+void MemoryMachine::show_page(forms::Form& page, const Act& act, const std::function<void()>& play) {
+    const MachinesTurn turn;
+    const forms::Unloading at_the_end(page);
+    page.take_frame({});
+    page.take_place(forms::centred({0, 0, page_width, page_height}, screen));
+    journal_.note(Deed::window, page.name(), page.properties.caption);
+    const std::size_t place = windows_.size();
+    windows_.push_back(form_record(page));
+    try {
+        play();
+    } catch (const forms::UnusableStep& error) {
+        user_.complain(act.path, to_utf8(error.description()));
+    }
+    windows_[place]["at close"] = changed_controls(windows_[place], page);
 }
 
 std::optional<Text> MemoryMachine::ask_for_path(const forms::PathQuestion& question) {

@@ -36,6 +36,10 @@ public:
 
     MemoryDisk& disk() { return disk_; }
 
+    /// Shows the add-in's loaded page in the Options dialog while play runs, and writes down what it looked
+    /// like.
+    void show_page(forms::Form& page, const Act& act, const std::function<void()>& play);
+
     /// The parts that the add-in is given.
     settings::Store& addin_settings() { return rehearsed_settings_; }
     Files& addin_files() { return rehearsed_disk_; }

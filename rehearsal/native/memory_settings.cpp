@@ -4,14 +4,19 @@
 
 namespace ornavel::rehearsal {
 
-std::optional<Text> MemorySettings::find(TextView section, TextView key) const {
+std::optional<SettingValue> MemorySettings::find_stored(TextView section, TextView key) const {
     const auto values = sections_.find(section);
     if (values == sections_.end()) return {};
     const auto entry = values->second.find(key);
-    if (entry == values->second.end()) return {};
-    if (const auto* text = std::get_if<Text>(&entry->second)) return *text;
+    return entry == values->second.end() ? std::nullopt : std::optional(entry->second);
+}
+
+std::optional<Text> MemorySettings::find(TextView section, TextView key) const {
+    const auto value = find_stored(section, key);
+    if (!value) return {};
+    if (const auto* text = std::get_if<Text>(&*value)) return *text;
     if (!settings::is_path(section, key)) return {};
-    return expanded(stored_text(entry->second));
+    return expanded(stored_text(*value));
 }
 
 void MemorySettings::save(TextView section, TextView key, SettingValue value) {

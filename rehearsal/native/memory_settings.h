@@ -20,6 +20,8 @@ public:
     void save(TextView section, TextView key, SettingValue value);
     void remove(TextView section, TextView key);
 
+    std::optional<SettingValue> find_stored(TextView section, TextView key) const;
+
     const ByName<ByName<SettingValue>>& sections() const { return sections_; }
 
 private:
@@ -52,6 +54,28 @@ public:
             journal_.note(Deed::save_setting, named(section, key), value);
             failures_.use(Failing::Kind::save_setting, key);
             store_.save(section, key, Text(value));
+        });
+    }
+
+    std::optional<Stored> find_stored(TextView section, TextView key) const noexcept override {
+        const MachinesTurn turn;
+        std::optional<Stored> value;
+        attempt([&] {
+            failures_.use(Failing::Kind::read_setting, key);
+            if (const auto found = store_.find_stored(section, key))
+                value = Stored{stored_text(*found), std::holds_alternative<ExpandText>(*found)};
+            journal_.note(Deed::read_setting, named(section, key), value ? value->text : Text(),
+                          value.has_value());
+        });
+        return value;
+    }
+
+    bool save_with_variables(TextView section, TextView key, TextView value) noexcept override {
+        const MachinesTurn turn;
+        return attempt([&] {
+            journal_.note(Deed::save_setting, named(section, key), value);
+            failures_.use(Failing::Kind::save_setting, key);
+            store_.save(section, key, ExpandText{Text(value)});
         });
     }
 

@@ -2,8 +2,10 @@
 
 #include "connect/connect.h"
 #include "rehearsal/native/apart.h"
+#include "rehearsal/native/form_player.h"
 #include "rehearsal/native/memory_machine.h"
 #include "rehearsal/native/watching.h"
+#include "rehearsal/options_dialog.h"
 #include "rehearsal/outcome.h"
 #include "rehearsal/turn.h"
 
@@ -13,12 +15,33 @@
 namespace ornavel::rehearsal {
 namespace {
 
+/// The page of the add-in in this program; nothing that fails in it gets out, as in the DLL.
+class NativePage final : public HostedPage {
+public:
+    explicit NativePage(forms::frmPropPage& page) : page_(page) {}
+    void take(const Step& step) override { take_one_step(step, page_.form()); }
+    bool is_dirty() override {
+        const AddInsTurn turn;
+        bool dirty = false;
+        attempt([&] { dirty = page_.is_dirty(); });
+        return dirty;
+    }
+    void apply() override {
+        const AddInsTurn turn;
+        attempt([&] { page_.apply(); });
+    }
+
+private:
+    forms::frmPropPage& page_;
+};
+
 /// A disconnected add-in stays until the end, or until the next connection, so that what it failed to
 /// release is seen.
 class NativeAddIn final : public AddIn {
 public:
-    explicit NativeAddIn(connect::Platform platform)
-        : platform_(std::move(platform)), connect_(std::make_unique<connect::Connect>(platform_)) {}
+    NativeAddIn(connect::Platform platform, MemoryMachine& machine)
+        : platform_(std::move(platform)), machine_(machine),
+          connect_(std::make_unique<connect::Connect>(platform_)) {}
 
     void connect(const host::ObjectPtr& application, int mode) override {
         if (was_connected_) connect_ = std::make_unique<connect::Connect>(platform_);
@@ -42,9 +65,22 @@ public:
         const AddInsTurn turn;
         connect_->OnDisconnection(remove_mode);
     }
+    void show_page(const host::ObjectPtr&, const Act& act) override {
+        const AddInsTurn turn;
+        OptionsDialog dialog;
+        std::unique_ptr<forms::frmPropPage> page;
+        attempt([&] {
+            page = connect_->make_options_page([&] { dialog.status_changed(); });
+            page->form().load();
+        });
+        if (!page) return;
+        NativePage hosted(*page);
+        machine_.show_page(page->form(), act, [&] { dialog.play(hosted, act.page); });
+    }
 
 private:
     connect::Platform platform_;
+    MemoryMachine& machine_;
     std::unique_ptr<connect::Connect> connect_;
     bool was_connected_ = false;
 };
@@ -97,7 +133,8 @@ Json play_here(const Scenario& scenario, const std::string& source, Journal& jou
                           .user_folder = application_data(scenario.computer) + u"\\Brevant\\Ornavel",
                           .on_gate = on_gate,
                           .on_trap = on_trap,
-                          .tray = &machine.addin_tray()});
+                          .tray = &machine.addin_tray()},
+        machine);
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);

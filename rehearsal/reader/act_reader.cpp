@@ -30,6 +30,40 @@ void read_tray(Act& act, const JsonPlace& at) {
     at.fields({{"entry", [&](const JsonPlace& key) { act.text = key.text(); }}});
 }
 
+struct PageButton {
+    const char* name;
+    PageStep::Kind kind;
+    bool closes;
+};
+
+constexpr PageButton page_buttons[] = {
+    {"apply", PageStep::Kind::apply, false},
+    {"ok", PageStep::Kind::ok, true},
+    {"cancel", PageStep::Kind::cancel, true},
+};
+
+PageStep read_page_button(const JsonPlace& at, bool is_last) {
+    for (const PageButton& button : page_buttons) {
+        if (at.bytes() != button.name) continue;
+        if (button.closes && !is_last) at.refuse("it closes the dialog, so nothing can follow");
+        return {.kind = button.kind};
+    }
+    at.refuse("expected \"apply\", \"ok\", \"cancel\" or a step");
+}
+
+PageStep read_page_step(const JsonPlace& at) {
+    PageStep step{.step = read_step(at)};
+    if (step.step.control.empty()) at.refuse("a page has no frame of its own");
+    return step;
+}
+
+void read_page(Act& act, const JsonPlace& at) {
+    at.each_element([&](const JsonPlace& step) {
+        const bool is_last = act.page.size() + 1 == at.size();
+        act.page.push_back(step.is_text() ? read_page_button(step, is_last) : read_page_step(step));
+    });
+}
+
 constexpr ActShape bare_acts[] = {
     {"connect", Kind::connect, read_start_up_mode},
     {"start", Kind::start, nullptr},
@@ -51,6 +85,7 @@ constexpr ActShape valued_acts[] = {
     {"prompt", Kind::prompt, read_text},
     {"disconnect", Kind::disconnect, read_number},
     {"set", Kind::set, [](Act& act, const JsonPlace& at) { act.settings = read_settings(at); }},
+    {"page", Kind::page, read_page},
     {"clock", Kind::clock, [](Act& act, const JsonPlace& at) { act.time = at.time(); }},
     {"run", Kind::run, read_text},
 };

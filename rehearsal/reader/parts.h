@@ -14,6 +14,7 @@ Computer read_computer(const JsonPlace& place);
 Host read_host(const JsonPlace& place);
 Item read_item(const JsonPlace& place);
 std::vector<UserEntry> read_user(const JsonPlace& place);
+Step read_step(const JsonPlace& place);
 Failing read_failing(const JsonPlace& place);
 Act read_act(const JsonPlace& place);
 

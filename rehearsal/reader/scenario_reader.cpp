@@ -1,5 +1,6 @@
 #include "rehearsal/reader/parts.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
@@ -46,6 +47,11 @@ Scenario read_scenario(const Json& json, const std::string& source, Binding bind
     check_acts(scenario, source);
     if (binding != Binding::native) check_native_only(place);
     return scenario;
+}
+
+bool can_be_created(const Host& host, TextView prog_id) {
+    return std::ranges::none_of(
+        host.objects, [&](const auto& entry) { return same_name(entry.first, prog_id) && !entry.second; });
 }
 
 Json with_files_inside(Json json, const Scenario& scenario) {

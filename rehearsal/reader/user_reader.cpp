@@ -43,20 +43,6 @@ constexpr StepShape step_shapes[] = {
     {"close", Step::Kind::close, 1, [](Step&, const JsonPlace&) {}},
 };
 
-Step read_step(const JsonPlace& place) {
-    if (!place.is_array() || place.size() == 0) place.refuse("expected a step such as [\"close\"]");
-    const auto name = place.element(0).bytes();
-    const auto shape = std::find_if(std::begin(step_shapes), std::end(step_shapes),
-                                    [&](const StepShape& entry) { return entry.name == name; });
-    if (shape == std::end(step_shapes)) place.element(0).refuse("unknown step");
-    if (place.size() != shape->size)
-        place.refuse("\"" + name + "\" takes " + std::to_string(shape->size - 1) + " values");
-    Step step;
-    step.kind = shape->kind;
-    shape->read(step, place);
-    return step;
-}
-
 UserEntry read_entry(const JsonPlace& place) {
     UserEntry entry;
     entry.path = place.path();
@@ -77,6 +63,20 @@ UserEntry read_entry(const JsonPlace& place) {
 }
 
 } // namespace
+
+Step read_step(const JsonPlace& place) {
+    if (!place.is_array() || place.size() == 0) place.refuse("expected a step such as [\"close\"]");
+    const auto name = place.element(0).bytes();
+    const auto shape = std::find_if(std::begin(step_shapes), std::end(step_shapes),
+                                    [&](const StepShape& entry) { return entry.name == name; });
+    if (shape == std::end(step_shapes)) place.element(0).refuse("unknown step");
+    if (place.size() != shape->size)
+        place.refuse("\"" + name + "\" takes " + std::to_string(shape->size - 1) + " values");
+    Step step;
+    step.kind = shape->kind;
+    shape->read(step, place);
+    return step;
+}
 
 std::vector<UserEntry> read_user(const JsonPlace& place) {
     std::vector<UserEntry> entries;

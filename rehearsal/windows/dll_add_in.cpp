@@ -1,5 +1,6 @@
 #include "rehearsal/windows/dll_add_in.h"
 
+#include "win32/registry.h"
 #include "win32/wide.h"
 
 #include <cstdlib>
@@ -53,14 +54,16 @@ InstalledDll::InstalledDll(TextView folder) : path_(Text(folder) + u"\\Ornavel.d
     if (!is_installed_already()) must(call(module_, "DllRegisterServer"), u"DllRegisterServer");
 }
 
+void InstalledDll::forget_page() { win32::remove_key(u"Software\\Classes\\BrevantPage.PropPage"); }
+
 InstalledDll::~InstalledDll() {
     if (!is_installed_already()) call(module_, "DllUnregisterServer");
     CoFreeUnusedLibrariesEx(0, 0);
     FreeLibrary(module_);
 }
 
-DllAddIn::DllAddIn(std::shared_ptr<Subscriptions> subscriptions)
-    : subscriptions_(std::move(subscriptions)), add_in_(make_add_in()) {}
+DllAddIn::DllAddIn(std::shared_ptr<Subscriptions> subscriptions, WindowsMachine& machine)
+    : subscriptions_(std::move(subscriptions)), machine_(machine), add_in_(make_add_in()) {}
 
 void DllAddIn::connect(const host::ObjectPtr& application, int mode) {
     if (was_connected_) add_in_ = make_add_in();

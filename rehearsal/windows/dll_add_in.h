@@ -2,7 +2,7 @@
 
 #include "rehearsal/player.h"
 #include "rehearsal/windows/dispatch_server.h"
-#include "rehearsal/windows/launch_recorder.h"
+#include "rehearsal/windows/windows_machine.h"
 #include "win32/extensibility.h"
 
 namespace ornavel::rehearsal {
@@ -11,6 +11,8 @@ namespace ornavel::rehearsal {
 class InstalledDll {
 public:
     explicit InstalledDll(TextView folder);
+    /// The page's class can no longer be made by its name.
+    static void forget_page();
     ~InstalledDll();
     InstalledDll(const InstalledDll&) = delete;
     InstalledDll& operator=(const InstalledDll&) = delete;
@@ -25,16 +27,18 @@ private:
 /// until the next connection, so that what it failed to release is seen.
 class DllAddIn final : public AddIn {
 public:
-    explicit DllAddIn(std::shared_ptr<Subscriptions> subscriptions);
+    DllAddIn(std::shared_ptr<Subscriptions> subscriptions, WindowsMachine& machine);
 
     void connect(const host::ObjectPtr& application, int mode) override;
     void start() override;
     void update() override;
     void shutdown() override;
     void disconnect(int remove_mode) override;
+    void show_page(const host::ObjectPtr& page, const Act& act) override { machine_.show_page(page, act); }
 
 private:
     std::shared_ptr<Subscriptions> subscriptions_;
+    WindowsMachine& machine_;
     win32::ComPtr<win32::IDTExtensibility2> add_in_;
     bool was_connected_ = false;
 };

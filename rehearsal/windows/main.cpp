@@ -41,9 +41,10 @@ Json play(const Scenario& scenario, const std::string& source) {
     const auto subscriptions = std::make_shared<Subscriptions>();
     const ServedClasses classes(client, subscriptions);
     const InstalledDll dll(scenario.computer.addin_folder);
+    if (!can_be_created(scenario.host, u"BrevantPage.PropPage")) InstalledDll::forget_page();
     machine.watch(dll.module());
     const Snapshot before = machine.snapshot();
-    DllAddIn addin(subscriptions);
+    DllAddIn addin(subscriptions, machine);
     Player player(scenario, source, client, machine, addin);
     player.play();
     return write_outcome(scenario, player, client, machine, before);

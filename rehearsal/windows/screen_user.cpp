@@ -107,6 +107,16 @@ void ScreenUser::meet_input_box(HWND window, forms::Form& box) {
                         window);
 }
 
+void ScreenUser::begin_page(HWND page) {
+    page_record_ = windows_.size();
+    windows_.push_back(form_record(*read_form(page)));
+}
+
+void ScreenUser::end_page(HWND page) {
+    Json& record = windows_[page_record_];
+    record["at close"] = changed_controls(record, *read_form(page));
+}
+
 void ScreenUser::meet_menu(HWND window) {
     if (std::exchange(met_menu_, window) == window) return;
     menu_ = captions_in_menu(window);

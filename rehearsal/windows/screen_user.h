@@ -29,6 +29,10 @@ public:
     /// Keeps nothing of the windows so far; none of them is open.
     void forget() { windows_ = Json::array(); }
 
+    /// The add-in's page is shown in the Options dialog, and goes; its window stands in that of the dialog.
+    void begin_page(HWND page);
+    void end_page(HWND page);
+
     /// What the user chooses in the next menu; without this a menu is closed.
     void expect_menu(MenuChoice choice) {
         choice_ = std::move(choice);
@@ -73,6 +77,7 @@ private:
     std::list<OpenForm> open_; ///< the last one is in front
     Json windows_ = Json::array();
     Text pictures_; ///< where pictures go; empty where none are kept
+    std::size_t page_record_ = 0; ///< the page's place among the windows
     MenuChoice choice_;
     HWND met_menu_ = nullptr; ///< a menu that has got its keys, which may still be on their way
     std::vector<Text> menu_;

@@ -10,8 +10,7 @@
 namespace ornavel::rehearsal {
 namespace {
 
-constexpr TextView served[] = {u"Redemption.SafeMailItem",    u"BrevantPage.PropPage",
-                               u"ADODB.Connection",           u"winmgmts",
+constexpr TextView served[] = {u"Redemption.SafeMailItem", u"ADODB.Connection", u"winmgmts",
                                u"Scripting.FileSystemObject", u"InternetExplorer.Application"};
 
 /// Makes one class of the stand-in mail client; "winmgmts" is asked by moniker instead.

@@ -1,7 +1,11 @@
 #include "rehearsal/windows/windows_machine.h"
 
+#include "base/encoding.h"
+#include "forms/form_user.h"
 #include "programs/all_programs.h"
 #include "rehearsal/menu_act.h"
+#include "rehearsal/windows/page_host.h"
+#include "win32/dispatch_object.h"
 #include "win32/machine.h"
 #include "win32/registry_store.h"
 #include "win32/system_information.h"
@@ -67,6 +71,18 @@ bool WindowsMachine::tray(const Act& act) {
     check_choice(user_, act, screen_.choice());
     tray_.record.menu = screen_.menu();
     return true;
+}
+
+void WindowsMachine::show_page(const host::ObjectPtr& page, const Act& act) {
+    OptionsDialog dialog;
+    PageHost host(win32::dispatch_of(page).get(), [&] { dialog.status_changed(); });
+    screen_.begin_page(host.window());
+    try {
+        dialog.play(host, act.page);
+    } catch (const forms::UnusableStep& error) {
+        user_.complain(act.path, to_utf8(error.description()));
+    }
+    screen_.end_page(host.window());
 }
 
 std::optional<int> WindowsMachine::run(TextView file, TextView arguments, host::Objects& objects) {

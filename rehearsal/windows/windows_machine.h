@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/value.h"
 #include "rehearsal/windows/disk_world.h"
 #include "rehearsal/windows/launch_recorder.h"
 #include "rehearsal/windows/registry_world.h"
@@ -40,6 +41,9 @@ public:
         launches_.forget();
         screen_.forget();
     }
+
+    /// Does what the user does in the Options dialog with the add-in's page.
+    void show_page(const host::ObjectPtr& page, const Act& act);
 
     /// All that can be done when the add-in takes the process along.
     void put_back_registry() { registry_.put_back(); }

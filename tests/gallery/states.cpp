@@ -1,6 +1,7 @@
 #include "tests/gallery/states.h"
 
 #include "forms/form_user.h"
+#include "tests/gallery/options_program.h"
 
 namespace ornavel::gallery {
 namespace {
@@ -99,6 +100,16 @@ void change_everything(Form& form) {
     form[u"txtSigWebsite"].text = u"www.example.org";
 }
 
+constexpr std::string_view foreign_file =
+    "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Another Maker\\Another "
+    "Program]\r\n\"Colour\"=\"red\"\r\n\r\n"
+    "[HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\Ornavel\\Admin Settings]\r\n"
+    "\"AutoPreview\"=\"True\"\r\n\"HTM Files Path\"=\"\\\\\\\\server\\\\stationery\\\\templates\"\r\n"
+    "\"Invented\"=\"x\"\r\n";
+
+void look_at_a_path(Form& form) { FormUser(form).set_text(u"txtSearch", admin::ErrorFileLocation.name); }
+void look_at_a_choice(Form& form) { FormUser(form).set_text(u"txtSearch", user::SettingButtonBar.name); }
+
 constexpr State all[] = {
     {u"options", [](Stage& stage) { stage.show_options(); }},
     {u"options-folded", [](Stage& stage) { stage.show_options(fold); }},
@@ -171,6 +182,37 @@ constexpr State all[] = {
      }},
     {u"setup-ready", [](Stage& stage) { with_identity(stage), stage.show_setup(3); }},
     {u"setup-ready-long", [](Stage& stage) { with_identity(stage), stage.show_setup(3, change_everything); }},
+    {u"page", [](Stage& stage) { show_page(stage); }},
+    {u"page-modes", [](Stage& stage) { show_page(stage); }, u"cboMode"},
+    {u"page-long-names",
+     [](Stage& stage) {
+         stage.write(long_name, "x");
+         stage.set(user::Template, long_name);
+         stage.set(user::Signature, long_name);
+         stage.set(admin::AutoPreview, on);
+         show_page(stage);
+     }},
+    {u"all-settings", [](Stage& stage) { show_options_program(stage); }},
+    {u"all-settings-changed",
+     [](Stage& stage) {
+         with_kept_choices(stage);
+         stage.set(admin::SigFullname, Text(300, u'w') + u"\r\nthe end");
+         show_options_program(stage, [](Form& form) { FormUser(form).select(u"lstGroups", 0); });
+     }},
+    {u"all-settings-path", [](Stage& stage) { show_options_program(stage, look_at_a_path); }},
+    {u"all-settings-choice", [](Stage& stage) { show_options_program(stage, look_at_a_choice); }},
+    {u"all-settings-smallest",
+     [](Stage& stage) {
+         show_options_program(stage, [](Form& form) {
+             look_at_a_path(form);
+             form.take_place({0, 0, 0, 0});
+         });
+     }},
+    {u"all-settings-import",
+     [](Stage& stage) {
+         stage.write(u"in.reg", foreign_file);
+         show_options_program(stage, [](Form& form) { FormUser(form).click(u"cmdImport"); });
+     }},
     {u"prompt-reply", [](Stage& stage) { stage.show_prompt(u"Reply"); }},
     {u"prompt-template", [](Stage& stage) { stage.show_prompt(u"Auto-no Template"); }},
     {u"prompt-signature", [](Stage& stage) { stage.show_prompt(u"Auto-no signature"); }},

@@ -28,6 +28,7 @@ struct NotingAddIn final : AddIn {
     }
     void update() override { told.push_back("update"); }
     void shutdown() override { told.push_back("shutdown"); }
+    void show_page(const host::ObjectPtr&, const Act&) override { told.push_back("page"); }
     void disconnect(int remove_mode) override { told.push_back("disconnect " + std::to_string(remove_mode)); }
 };
 

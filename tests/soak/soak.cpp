@@ -88,7 +88,7 @@ public:
         classes_.emplace(*client_, subscriptions_);
         dll_.emplace(scenario_.computer.addin_folder);
         machine_.watch(dll_->module());
-        add_in_.emplace(subscriptions_);
+        add_in_.emplace(subscriptions_, machine_);
     }
 
 private:

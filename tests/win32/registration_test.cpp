@@ -84,6 +84,7 @@ using Lines = std::vector<std::string>;
 TEST_F(Registration, WritesEveryValueForTheCurrentUserAndNothingElse) {
     EXPECT_EQ(dll.call("DllRegisterServer"), S_OK);
     const std::string class_key = "\\Software\\Classes\\CLSID\\{01F2687D-003D-4805-8744-2B3921019DBC}";
+    const std::string page_key = "\\Software\\Classes\\CLSID\\{7B4C9A52-6E1D-4F0B-9D37-5A28C1E6F493}";
     const std::string host_key = "\\Software\\Microsoft\\Office\\Outlook\\Addins\\Ornavel.Connect";
     Lines expected{
         "\\Software",
@@ -96,6 +97,23 @@ TEST_F(Registration, WritesEveryValueForTheCurrentUserAndNothingElse) {
         class_key + "\\InprocServer32 @ThreadingModel=Apartment",
         class_key + "\\ProgID",
         class_key + "\\ProgID @=Ornavel.Connect",
+        page_key,
+        page_key + " @=Ornavel options page",
+        page_key + "\\Control",
+        page_key + "\\Control @=",
+        page_key + "\\InprocServer32",
+        page_key + "\\InprocServer32 @=" + to_utf8(AddInDll::path()),
+        page_key + "\\InprocServer32 @ThreadingModel=Apartment",
+        page_key + "\\MiscStatus",
+        page_key + "\\MiscStatus @=0",
+        page_key + "\\MiscStatus\\1",
+        page_key + "\\MiscStatus\\1 @=131473",
+        page_key + "\\ProgID",
+        page_key + "\\ProgID @=BrevantPage.PropPage",
+        "\\Software\\Classes\\BrevantPage.PropPage",
+        "\\Software\\Classes\\BrevantPage.PropPage @=Ornavel options page",
+        "\\Software\\Classes\\BrevantPage.PropPage\\CLSID",
+        "\\Software\\Classes\\BrevantPage.PropPage\\CLSID @={7B4C9A52-6E1D-4F0B-9D37-5A28C1E6F493}",
         "\\Software\\Classes\\Ornavel.Connect",
         "\\Software\\Classes\\Ornavel.Connect @=Ornavel",
         "\\Software\\Classes\\Ornavel.Connect\\CLSID",

@@ -43,6 +43,21 @@ protected:
     InRegistry registry_;
 };
 
+TEST_F(RegistryValues, APathKeepsItsVariablesAndReadsAsWhatTheyStandFor) {
+    SetEnvironmentVariableW(L"ORNAVEL_TEST_PLACE", L"C:\\there");
+    const auto& key = settings::admin::HTMFilesPath;
+    settings::Store& store = registry_.store();
+    const auto before = store.find_stored(key.section, key.name);
+    EXPECT_TRUE(store.save_with_variables(key.section, key.name, u"%ORNAVEL_TEST_PLACE%\\t"));
+    EXPECT_EQ(store.find(key.section, key.name), u"C:\\there\\t");
+    const auto stored = store.find_stored(key.section, key.name);
+    ASSERT_TRUE(stored);
+    EXPECT_EQ(stored->text, u"%ORNAVEL_TEST_PLACE%\\t");
+    EXPECT_TRUE(stored->has_variables);
+    EXPECT_TRUE(before ? store.save(key.section, key.name, before->text)
+                       : store.remove(key.section, key.name));
+}
+
 TEST_F(RegistryValues, AStringStoredWithoutItsNulIsWhole) {
     plant(REG_SZ, L"True");
     EXPECT_EQ(planted(), u"True");

@@ -1,0 +1,209 @@
+#include "forms/frmPropPage.h"
+
+#include "forms/about_box.h"
+#include "forms/measures.h"
+#include "forms/stationery.h"
+#include "settings/modes.h"
+
+#include <algorithm>
+
+namespace ornavel::forms {
+namespace {
+
+using namespace settings;
+
+constexpr TextView none = u"none"; ///< the signature of those who want none
+
+struct Mode {
+    TextView value, words;
+};
+
+constexpr Mode modes[] = {
+    {settings::modes::automatic, u"Dress automatically"},
+    {settings::modes::on, u"Ask me for each message"},
+    {settings::modes::off, u"Off"},
+    {settings::modes::signature, u"The mail client's own signature"},
+};
+
+constexpr int label_width = 1350, box_left = window_margin + label_width + label_gap;
+constexpr int row_height = box_height + control_gap;
+constexpr int label_drop = (box_height - label_height) / 2; ///< its text stands on the line of the box's
+constexpr int button_width = 1650;
+
+constexpr int row(int number) { return window_margin + number * row_height; }
+constexpr int first_check = row(3) + control_gap;
+constexpr int second_check = first_check + check_height + control_gap;
+constexpr int buttons_top = second_check + check_height + window_margin;
+
+Control label(TextView name, int number, TextView caption) {
+    return {.kind = ControlKind::label,
+            .name = Text(name),
+            .place = {window_margin, row(number) + label_drop, label_width, label_height},
+            .caption = Text(caption)};
+}
+
+Control list(TextView name, int number) {
+    return {
+        .kind = ControlKind::combo_box, .name = Text(name), .place = {box_left, row(number), 0, box_height}};
+}
+
+Control check_box(TextView name, int top, TextView caption) {
+    return {.kind = ControlKind::check_box,
+            .name = Text(name),
+            .place = {window_margin, top, 0, check_height},
+            .caption = Text(caption)};
+}
+
+Control button(TextView name, int left, TextView caption) {
+    return {.kind = ControlKind::command_button,
+            .name = Text(name),
+            .place = {left, buttons_top, button_width, button_size.height},
+            .caption = Text(caption)};
+}
+
+std::vector<Control> designed_controls() {
+    return {
+        label(u"lblMode", 0, u"&When I send"),
+        list(u"cboMode", 0),
+        label(u"lblTemplates", 1, u"&Template"),
+        list(u"cboTemplates", 1),
+        label(u"lblSignatures", 2, u"&Signature"),
+        list(u"cboSignatures", 2),
+        check_box(u"chkAutoPreview", first_check, u"Show each message &before it is sent"),
+        check_box(u"chkReplyAsIs", second_check, u"Send &replies as they are"),
+        button(u"cmdSetup", window_margin, u"Ornavel S&etup"),
+        button(u"cmdAbout", window_margin + button_width + control_gap, u"Abo&ut Ornavel"),
+    };
+}
+
+} // namespace
+
+const frmPropPage::Choice frmPropPage::choices[2] = {
+    {u"cboTemplates", admin::HTMFilesPath, user::Template, false},
+    {u"cboSignatures", admin::SignaturesPath, user::Signature, true},
+};
+
+frmPropPage::frmPropPage(Needs needs)
+    : needs_(std::move(needs)), form_({.name = u"frmPropPage", .caption = u"Ornavel"}, designed_controls()) {
+    form_.make_room({5670, buttons_top + button_size.height + window_margin});
+    form_.on_load = [this] { Form_Load(); };
+    form_.on_resize = [this] { Form_Resize(); };
+    form_.on(u"cmdSetup", Event::click, [this] { cmdSetup_Click(); });
+    form_.on(u"cmdAbout", Event::click, [this] { show_about(needs_.windows); });
+    const auto tell = [this] {
+        show_whole_names();
+        needs_.on_status_change();
+    };
+    for (const TextView control : {u"cboMode", u"cboTemplates", u"cboSignatures"}) {
+        form_.on(control, Event::click, tell);
+        form_.on(control, Event::change, tell);
+    }
+    for (const TextView control : {u"chkAutoPreview", u"chkReplyAsIs"}) form_.on(control, Event::click, tell);
+}
+
+void frmPropPage::Form_Load() {
+    Form_Resize();
+    list_modes();
+    for (std::size_t i = 0; i < std::size(choices); ++i) list_files(i);
+    show_whole_names();
+    form_[u"chkAutoPreview"].ticked = is_on(needs_.settings, admin::AutoPreview);
+    form_[u"chkReplyAsIs"].ticked = settings::is_ticked(needs_.settings, user::ReplyAsIs);
+}
+
+/// A long name is cut off in its box.
+void frmPropPage::show_whole_names() {
+    for (const Choice& choice : choices) form_[choice.control].tool_tip = form_[choice.control].text;
+}
+
+/// The lists and the check boxes take the width that the dialog gives.
+void frmPropPage::Form_Resize() {
+    const int right = form_.room().width - window_margin;
+    for (Control& control : form_.controls())
+        if (control.kind == ControlKind::combo_box || control.kind == ControlKind::check_box)
+            control.place.width = std::max(0, right - control.place.left);
+}
+
+/// The mail client's own signature is offered where the toolbar offers it, too.
+void frmPropPage::list_modes() {
+    Control& list = form_[u"cboMode"];
+    const Text now = read(needs_.settings, user::SettingButtonBar);
+    const bool all = is_on(needs_.settings, admin::eSignature);
+    list.text = now;
+    for (const Mode& mode : modes) {
+        if (mode.value == settings::modes::signature && !all && mode.value != now) continue;
+        modes_.push_back(mode.value);
+        list.items.emplace_back(mode.words);
+        if (mode.value == now) list.select(static_cast<int>(list.items.size()) - 1);
+    }
+}
+
+void frmPropPage::list_files(std::size_t choice) {
+    const auto& [control, folder, chosen, may_be_none] = choices[choice];
+    std::vector<Text>& files = files_[choice];
+    files = stationery_in(needs_.files, read(needs_.settings, folder));
+    if (may_be_none) files.insert(files.begin(), Text(none));
+    Control& list = form_[control];
+    for (const Text& file : files) list.items.push_back(display_name(file));
+    const Text now = trim(read(needs_.settings, chosen));
+    const auto entry = std::ranges::find_if(files, [&](const Text& file) { return same_name(file, now); });
+    if (entry == files.end())
+        list.text = display_name(now);
+    else
+        list.select(static_cast<int>(entry - files.begin()));
+}
+
+std::vector<Change> frmPropPage::changes() const {
+    std::vector<Change> changed;
+    add_mode(changed);
+    for (std::size_t i = 0; i < std::size(choices); ++i) add_file(changed, i);
+    const bool preview = is_ticked(u"chkAutoPreview"), as_is = is_ticked(u"chkReplyAsIs");
+    if (preview != is_on(needs_.settings, admin::AutoPreview))
+        changed.push_back({admin::AutoPreview, Text(preview ? on : off)});
+    if (as_is != settings::is_ticked(needs_.settings, user::ReplyAsIs))
+        changed.push_back({user::ReplyAsIs, Text(as_is ? u"1" : u"0")});
+    return changed;
+}
+
+/// What is typed and is none of the modes changes nothing.
+void frmPropPage::add_mode(std::vector<Change>& changed) const {
+    const int index = form_.find(u"cboMode")->index;
+    if (index < 0) return;
+    const TextView mode = modes_[static_cast<std::size_t>(index)];
+    if (mode != read(needs_.settings, user::SettingButtonBar))
+        changed.push_back({user::SettingButtonBar, Text(mode)});
+}
+
+void frmPropPage::add_file(std::vector<Change>& changed, std::size_t choice) const {
+    const Text file = chosen_file(choice), now = read(needs_.settings, choices[choice].chosen);
+    if (!file.empty() && !same_name(file, trim(now))) changed.push_back({choices[choice].chosen, file});
+}
+
+/// Typed words name a file as the entries do; an empty text names none.
+Text frmPropPage::chosen_file(std::size_t choice) const {
+    const Control& list = *form_.find(choices[choice].control);
+    if (list.index >= 0) return files_[choice][static_cast<std::size_t>(list.index)];
+    const Text typed = trim(list.text), now = trim(read(needs_.settings, choices[choice].chosen));
+    if (typed.empty() || typed == display_name(now)) return now;
+    return typed + u".htm";
+}
+
+bool frmPropPage::is_ticked(TextView check_box) const { return form_.find(check_box)->ticked; }
+
+void frmPropPage::apply() {
+    const std::vector<Change> changed = changes();
+    const Text mode_before = read(needs_.settings, user::SettingButtonBar);
+    if (const Key* refused = write_changes(needs_.settings, changed))
+        return needs_.windows.inform(u"Ornavel", u"Nothing was changed, because the setting " +
+                                                     Text(refused->name) + u" can't be written.");
+    const Text mode = read(needs_.settings, user::SettingButtonBar);
+    if (mode != mode_before) needs_.change_mode(mode_before, mode);
+}
+
+void frmPropPage::cmdSetup_Click() {
+    const auto start = [this] {
+        needs_.launcher.launch(needs_.program_folder + u"\\SiteAssistant.exe", {}, WindowState::normal);
+    };
+    if (!attempt(start)) needs_.windows.inform(u"Ornavel", u"Ornavel Setup could not be started.");
+}
+
+} // namespace ornavel::forms

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "base/files.h"
+#include "base/launcher.h"
+#include "forms/windows.h"
+#include "settings/changes.h"
+
+namespace ornavel::forms {
+
+/// The page in the mail client's Options dialog: the user's everyday choices. The dialog around it has the
+/// buttons; nothing is written before apply. The needs outlive it.
+class frmPropPage {
+public:
+    struct Needs {
+        settings::Store& settings;
+        const Files& files;
+        Windows& windows;
+        Launcher& launcher;
+        Text program_folder; ///< where the programs beside the add-in lie
+        /// Does what a click on the toolbar's mode button does besides saving the mode.
+        std::function<void(TextView before, TextView now)> change_mode;
+        std::function<void()> on_status_change; ///< told each change that the user makes
+    };
+    explicit frmPropPage(Needs needs);
+
+    Form& form() { return form_; }
+    /// Whether what is chosen differs from what is stored.
+    bool is_dirty() const { return !changes().empty(); }
+    /// Writes what differs, all of it or nothing; the user is told when it can't be written.
+    void apply();
+
+private:
+    /// A list of files, each shown by its display name.
+    struct Choice {
+        TextView control;
+        const settings::PathKey& folder;
+        const settings::TextKey& chosen;
+        bool may_be_none;
+    };
+    static const Choice choices[2];
+
+    void Form_Load();
+    void Form_Resize();
+    void show_whole_names();
+    void cmdSetup_Click();
+    void list_modes();
+    void list_files(std::size_t choice);
+    std::vector<settings::Change> changes() const;
+    void add_mode(std::vector<settings::Change>& changed) const;
+    void add_file(std::vector<settings::Change>& changed, std::size_t choice) const;
+    Text chosen_file(std::size_t choice) const;
+    bool is_ticked(TextView check_box) const;
+
+    Needs needs_;
+    std::vector<TextView> modes_; ///< in the order of their list
+    std::vector<Text> files_[2];  ///< in the order of the lists
+    Form form_;
+};
+
+} // namespace ornavel::forms

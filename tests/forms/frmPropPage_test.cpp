@@ -1,0 +1,127 @@
+#include "forms/frmPropPage.h"
+
+#include "base/encoding.h"
+#include "settings/modes.h"
+#include "tests/fakes/memory_files.h"
+#include "tests/fakes/recording_launcher.h"
+#include "tests/fakes/scripted_windows.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace ornavel::forms {
+namespace {
+
+using namespace settings;
+
+class OptionsPage : public ::testing::Test {
+protected:
+    OptionsPage() {
+        save(store, admin::HTMFilesPath, u"C:\\t");
+        save(store, admin::SignaturesPath, u"C:\\s");
+        save(store, user::SettingButtonBar, modes::automatic);
+        save(store, user::Template, u"letter.htm");
+        save(store, user::Signature, u"none");
+        files.contents = {{u"C:\\t\\card.htm", ""}, {u"C:\\t\\letter.htm", ""}, {u"C:\\s\\jo.htm", ""}};
+    }
+    frmPropPage& page() {
+        if (!page_)
+            page_ = std::make_unique<frmPropPage>(
+                frmPropPage::Needs{store, files, windows, launcher, u"C:\\app",
+                                   [this](TextView before, TextView now) {
+                                       modes.push_back({Text(before), Text(now)});
+                                   },
+                                   [this] { ++told; }});
+        page_->form().load();
+        return *page_;
+    }
+    FormUser user() { return FormUser(page().form()); }
+    std::optional<Text> stored(const Key& key) const { return store.find(key.section, key.name); }
+
+    MemoryStore store;
+    MemoryFiles files;
+    ScriptedWindows windows;
+    RecordingLauncher launcher;
+    std::vector<std::pair<Text, Text>> modes;
+    int told = 0;
+
+private:
+    std::unique_ptr<frmPropPage> page_;
+};
+
+TEST_F(OptionsPage, IsCleanUntilSomethingDiffersAndAgainWhenItNoLongerDoes) {
+    EXPECT_FALSE(page().is_dirty());
+    user().select(u"cboTemplates", 0);
+    EXPECT_TRUE(page().is_dirty());
+    user().select(u"cboTemplates", 1);
+    EXPECT_FALSE(page().is_dirty());
+    user().tick(u"chkReplyAsIs", true);
+    EXPECT_TRUE(page().is_dirty());
+}
+
+TEST_F(OptionsPage, TellsTheDialogOfEachChange) {
+    user().select(u"cboMode", 2);
+    user().set_text(u"cboSignatures", u"typed");
+    user().tick(u"chkAutoPreview", true);
+    user().tick(u"chkReplyAsIs", true);
+    user().select(u"cboTemplates", 0);
+    EXPECT_EQ(told, 5);
+}
+
+TEST_F(OptionsPage, WritesNothingBeforeItIsApplied) {
+    user().select(u"cboTemplates", 0);
+    EXPECT_EQ(stored(user::Template), u"letter.htm");
+    page().apply();
+    EXPECT_EQ(stored(user::Template), u"card.htm");
+    EXPECT_FALSE(page().is_dirty());
+}
+
+TEST_F(OptionsPage, LeavesAbsentWhatTheUserDidNotChange) {
+    user().select(u"cboTemplates", 0);
+    page().apply();
+    EXPECT_EQ(stored(admin::AutoPreview), std::nullopt);
+    EXPECT_EQ(stored(user::ReplyAsIs), std::nullopt);
+}
+
+TEST_F(OptionsPage, HandsAChangedModeOverWithTheOneBefore) {
+    user().select(u"cboMode", 3);
+    page().apply();
+    ASSERT_EQ(modes.size(), 1U);
+    EXPECT_EQ(modes[0], (std::pair<Text, Text>{u"auto", u"eSignature"}));
+    user().select(u"cboTemplates", 0);
+    page().apply();
+    EXPECT_EQ(modes.size(), 1U);
+}
+
+TEST_F(OptionsPage, KeepsTheSpellingOfANameThatDiffersInCaseOnly) {
+    save(store, user::Template, u"LETTER.HTM");
+    EXPECT_FALSE(page().is_dirty());
+    EXPECT_EQ(page().form()[u"cboTemplates"].index, 1);
+}
+
+TEST_F(OptionsPage, ListsGrowWithTheRoomThatTheDialogGives) {
+    Form& form = page().form();
+    form.take_room({4500, 4000});
+    const int narrow = form[u"cboMode"].place.width;
+    form.take_room({6000, 4000});
+    EXPECT_EQ(form[u"cboMode"].place.width, narrow + 1500);
+    for (const Control& control : form.controls())
+        EXPECT_LE(control.place.left + control.place.width, 6000 - 165) << to_utf8(control.name);
+}
+
+TEST_F(OptionsPage, HasAnAccessKeyOfItsOwnForEverythingThatTheUserReaches) {
+    std::set<char16_t> keys;
+    int wanted = 0;
+    for (const Control& control : page().form().controls()) {
+        if (!has_caption(control.kind)) continue;
+        ++wanted;
+        const auto mark = control.caption.find(u'&');
+        ASSERT_NE(mark, Text::npos) << to_utf8(control.caption);
+        keys.insert(lower_case(control.caption)[mark + 1]);
+    }
+    EXPECT_EQ(keys.size(), static_cast<std::size_t>(wanted));
+}
+
+} // namespace
+} // namespace ornavel::forms
