@@ -98,6 +98,7 @@ TEST(Player, AnActWithoutMeansMakesTheScenarioUnusable) {
         {R"({"tray message": 517})", "stage: do[0]: no tray icon is shown"},
         {R"({"dress": 0})", "stage: do[0]: the add-in offers no form for this item"},
         {R"({"click": "EmailMonitor"})", "stage: do[0]: no such button"},
+        {R"({"page": []})", "stage: do[0]: the add-in offers no page"},
         {R"({"run": "Calculator.exe"})", "stage: do[0]: there is no such program"},
     };
     for (const auto& [act, refused] : without_means) {
