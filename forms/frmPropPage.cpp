@@ -35,45 +35,55 @@ constexpr int first_check = row(3) + control_gap;
 constexpr int second_check = first_check + check_height + control_gap;
 constexpr int buttons_top = second_check + check_height + window_margin;
 
-Control label(TextView name, int number, TextView caption) {
-    return {.kind = ControlKind::label,
-            .name = Text(name),
-            .place = {window_margin, row(number) + label_drop, label_width, label_height},
-            .caption = Text(caption)};
+struct Row {
+    ControlKind kind;
+    TextView name;
+    Bounds place; ///< lists and check boxes grow with the page
+    TextView caption{};
+};
+
+constexpr Row label(TextView name, int number, TextView caption) {
+    return {ControlKind::label,
+            name,
+            {window_margin, row(number) + label_drop, label_width, label_height},
+            caption};
 }
 
-Control list(TextView name, int number) {
+constexpr Row list(TextView name, int number) {
+    return {ControlKind::combo_box, name, {box_left, row(number), 0, box_height}};
+}
+
+constexpr Row check_box(TextView name, int top, TextView caption) {
+    return {ControlKind::check_box, name, {window_margin, top, 0, check_height}, caption};
+}
+
+constexpr Row button(TextView name, int left, TextView caption) {
     return {
-        .kind = ControlKind::combo_box, .name = Text(name), .place = {box_left, row(number), 0, box_height}};
+        ControlKind::command_button, name, {left, buttons_top, button_width, button_size.height}, caption};
 }
 
-Control check_box(TextView name, int top, TextView caption) {
-    return {.kind = ControlKind::check_box,
-            .name = Text(name),
-            .place = {window_margin, top, 0, check_height},
-            .caption = Text(caption)};
-}
-
-Control button(TextView name, int left, TextView caption) {
-    return {.kind = ControlKind::command_button,
-            .name = Text(name),
-            .place = {left, buttons_top, button_width, button_size.height},
-            .caption = Text(caption)};
-}
+constexpr Row rows[] = {
+    label(u"lblMode", 0, u"&When I send"),
+    list(u"cboMode", 0),
+    label(u"lblTemplates", 1, u"&Template"),
+    list(u"cboTemplates", 1),
+    label(u"lblSignatures", 2, u"&Signature"),
+    list(u"cboSignatures", 2),
+    check_box(u"chkAutoPreview", first_check, u"Show each message &before it is sent"),
+    check_box(u"chkReplyAsIs", second_check, u"Send &replies as they are"),
+    button(u"cmdSetup", window_margin, u"Ornavel S&etup"),
+    button(u"cmdAbout", window_margin + button_width + control_gap, u"Abo&ut Ornavel"),
+};
 
 std::vector<Control> designed_controls() {
-    return {
-        label(u"lblMode", 0, u"&When I send"),
-        list(u"cboMode", 0),
-        label(u"lblTemplates", 1, u"&Template"),
-        list(u"cboTemplates", 1),
-        label(u"lblSignatures", 2, u"&Signature"),
-        list(u"cboSignatures", 2),
-        check_box(u"chkAutoPreview", first_check, u"Show each message &before it is sent"),
-        check_box(u"chkReplyAsIs", second_check, u"Send &replies as they are"),
-        button(u"cmdSetup", window_margin, u"Ornavel S&etup"),
-        button(u"cmdAbout", window_margin + button_width + control_gap, u"Abo&ut Ornavel"),
-    };
+    std::vector<Control> controls(std::size(rows));
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        controls[i].kind = rows[i].kind;
+        controls[i].name = rows[i].name;
+        controls[i].place = rows[i].place;
+        controls[i].caption = rows[i].caption;
+    }
+    return controls;
 }
 
 } // namespace

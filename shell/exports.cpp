@@ -10,9 +10,18 @@
 namespace ornavel::shell {
 namespace {
 
+/// Makes an object and gives the interface that is asked for.
+using Maker = HRESULT (*)(REFIID wanted, void** object);
+
 template <class Kind>
+HRESULT make(REFIID wanted, void** object) {
+    return win32::ComPtr<Kind>::adopt(new Kind)->QueryInterface(wanted, object);
+}
+
 class Factory final : public win32::Counted<IClassFactory> {
 public:
+    explicit Factory(Maker maker) : make_(maker) {}
+
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override {
         return answer(wanted == IID_IUnknown || wanted == IID_IClassFactory, object);
     }
@@ -21,20 +30,22 @@ public:
         if (!object) return E_POINTER;
         *object = nullptr;
         if (outer) return CLASS_E_NOAGGREGATION;
-        win32::ComPtr<Kind> made;
-        if (!attempt([&] { made = win32::ComPtr<Kind>::adopt(new Kind); })) return E_OUTOFMEMORY;
-        return made->QueryInterface(wanted, object);
+        HRESULT made = E_OUTOFMEMORY;
+        attempt([&] { made = make_(wanted, object); });
+        return made;
     }
 
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
         lock ? win32::ModuleUse::begin() : win32::ModuleUse::end();
         return S_OK;
     }
+
+private:
+    Maker make_;
 };
 
-template <class Kind>
-HRESULT give_factory(REFIID wanted, void** object) {
-    const auto factory = win32::ComPtr<Factory<Kind>>::adopt(new (std::nothrow) Factory<Kind>);
+HRESULT give_factory(Maker maker, REFIID wanted, void** object) {
+    const auto factory = win32::ComPtr<Factory>::adopt(new (std::nothrow) Factory(maker));
     return factory ? factory->QueryInterface(wanted, object) : E_OUTOFMEMORY;
 }
 
@@ -47,8 +58,8 @@ using namespace ornavel::shell;
 STDAPI DllGetClassObject(REFCLSID class_id, REFIID wanted, void** object) {
     if (!object) return E_POINTER;
     *object = nullptr;
-    if (class_id == CLSID_Connect) return give_factory<AddIn>(wanted, object);
-    if (class_id == CLSID_PropPage) return give_factory<OptionsPage>(wanted, object);
+    if (class_id == CLSID_Connect) return give_factory(make<AddIn>, wanted, object);
+    if (class_id == CLSID_PropPage) return give_factory(make<OptionsPage>, wanted, object);
     return CLASS_E_CLASSNOTAVAILABLE;
 }
 

@@ -63,9 +63,10 @@ BOOL CALLBACK note_tips(HWND window, LPARAM pointer) {
     return TRUE;
 }
 
-/// The window that shows the tool tips of a form's controls.
+/// The window that shows the tool tips of a form's controls. The system gives it to the window that the form
+/// stands in, where there is one.
 HWND tips_of(HWND form) {
-    Owned search{form, nullptr};
+    Owned search{GetAncestor(form, GA_ROOT), nullptr};
     EnumThreadWindows(GetCurrentThreadId(), note_tips, reinterpret_cast<LPARAM>(&search));
     return search.tips;
 }
