@@ -53,8 +53,9 @@ void frmOptionsAssistant::wire() {
     form_.on(u"txtValue", Event::change, [this] { take_value(form_[u"txtValue"].text); });
     form_.on(u"cboValue", Event::click, [this] { take_value(form_[u"cboValue"].text); });
     form_.on(u"cboValue", Event::change, [this] { take_value(form_[u"cboValue"].text); });
-    form_.on(u"chkValue", Event::click,
-             [this] { take_value(tick_of(*chosen(), form_[u"chkValue"].ticked)); });
+    form_.on(u"chkValue", Event::click, [this] {
+        if (const Description* setting = chosen()) take_value(tick_of(*setting, form_[u"chkValue"].ticked));
+    });
     form_.on(u"cmdBrowseValue", Event::click, [this] { cmdBrowseValue_Click(); });
     form_.on(u"cmdReset", Event::click, [this] { cmdReset_Click(); });
     form_.on(u"cmdSave", Event::click, [this] { cmdSave_Click(); });
@@ -94,14 +95,18 @@ bool frmOptionsAssistant::is_listed(const Description& setting) const {
 
 void frmOptionsAssistant::list_settings() {
     const Description* const before = chosen();
-    Control& list = form_[u"lstSettings"];
-    listed_.clear();
-    list.items.clear();
+    std::vector<const Description*> listed;
+    std::vector<Text> lines;
     for (const Description& setting : descriptions()) {
         if (!is_listed(setting)) continue;
-        listed_.push_back(&setting);
-        list.items.push_back(line_of(setting));
+        listed.push_back(&setting);
+        lines.push_back(line_of(setting));
     }
+    // Both or neither: a line is found by its place.
+    Control& list = form_[u"lstSettings"];
+    listed_.swap(listed);
+    list.items.swap(lines);
+    list.index = -1;
     list.select(place_of(before));
     show_setting();
 }
@@ -122,7 +127,8 @@ Text frmOptionsAssistant::line_of(const Description& setting) const {
 
 const Description* frmOptionsAssistant::chosen() const {
     const int index = form_.find(u"lstSettings")->index;
-    return index < 0 ? nullptr : listed_[static_cast<std::size_t>(index)];
+    const bool is_listed = index >= 0 && static_cast<std::size_t>(index) < listed_.size();
+    return is_listed ? listed_[static_cast<std::size_t>(index)] : nullptr;
 }
 
 void frmOptionsAssistant::show_setting() {
@@ -177,11 +183,12 @@ void frmOptionsAssistant::choose(const Description& setting) {
 }
 
 void frmOptionsAssistant::cmdReset_Click() {
-    draft_.set(chosen()->key, std::nullopt);
+    if (const Description* setting = chosen()) draft_.set(setting->key, std::nullopt);
     list_settings();
 }
 
 void frmOptionsAssistant::cmdBrowseValue_Click() {
+    if (!chosen()) return;
     const Description& setting = *chosen();
     PathQuestion question{.title = Text(setting.key.name), .proposed = form_[u"txtValue"].text};
     if (is_folder(setting)) question.kind = PathQuestion::Kind::folder;

@@ -66,10 +66,10 @@ public:
         connect_->OnDisconnection(remove_mode);
     }
     void show_page(const host::ObjectPtr&, const Act& act) override {
-        const AddInsTurn turn;
         OptionsDialog dialog;
         std::unique_ptr<forms::frmPropPage> page;
         attempt([&] {
+            const AddInsTurn turn;
             page = connect_->make_options_page([&] { dialog.status_changed(); });
             page->form().load();
         });

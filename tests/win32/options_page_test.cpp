@@ -36,9 +36,20 @@ protected:
     }
 
     HWND control(TextView name) const { return rehearsal::control_window(host->window(), name); }
-    void tick() { host->take({.kind = Step::Kind::tick, .control = u"chkReplyAsIs", .ticked = true}); }
+    void tick() {
+        Step step{.kind = Step::Kind::tick, .control = u"chkReplyAsIs", .text = {}};
+        step.ticked = true;
+        host->take(step);
+    }
+    static MSG pressed(HWND window, WPARAM key) {
+        MSG message{};
+        message.hwnd = window;
+        message.message = WM_KEYDOWN;
+        message.wParam = key;
+        return message;
+    }
     bool take_tab() {
-        MSG key{.hwnd = GetFocus(), .message = WM_KEYDOWN, .wParam = VK_TAB};
+        MSG key = pressed(GetFocus(), VK_TAB);
         return host->takes_key(key);
     }
 
@@ -88,7 +99,7 @@ TEST_F(OptionsPage, AnswersLateBoundCallsByNameAndByNumber) {
 }
 
 TEST_F(OptionsPage, TheTabKeyGoesInThroughAllControlsAndOut) {
-    MSG key{.hwnd = host->dialog(), .message = WM_KEYDOWN, .wParam = VK_TAB};
+    MSG key = pressed(host->dialog(), VK_TAB);
     host->enter(key);
     EXPECT_TRUE(host->site().is_active);
     const HWND list = control(u"cboMode");
@@ -105,10 +116,10 @@ TEST_F(OptionsPage, TheTabKeyGoesInThroughAllControlsAndOut) {
 }
 
 TEST_F(OptionsPage, LeavesEnterAndEscapeToTheDialog) {
-    MSG key{.hwnd = host->dialog(), .message = WM_KEYDOWN, .wParam = VK_TAB};
+    MSG key = pressed(host->dialog(), VK_TAB);
     host->enter(key);
-    for (const WPARAM pressed : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
-        MSG other{.hwnd = GetFocus(), .message = WM_KEYDOWN, .wParam = pressed};
+    for (const WPARAM each : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
+        MSG other = pressed(GetFocus(), each);
         EXPECT_FALSE(host->takes_key(other));
     }
     EXPECT_TRUE(IsWindow(host->window()));
