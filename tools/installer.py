@@ -20,6 +20,7 @@ SUMMARY, TIME = "\x05SummaryInformation", 64
 NEVER_OVERWRITTEN = 128
 NAMES = {
     "class": r"Software\Classes\CLSID\{01F2687D-003D-4805-8744-2B3921019DBC}",
+    "page": r"Software\Classes\CLSID\{7B4C9A52-6E1D-4F0B-9D37-5A28C1E6F493}",
     "host": r"Software\Microsoft\Office\Outlook\Addins\Ornavel.Connect",
     "once": r"Software\Microsoft\Active Setup\Installed Components\{8E5A6A0C-3E5B-4C0D-A3B7-5D8C1B1F4E62}",
 }
