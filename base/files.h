@@ -26,6 +26,9 @@ public:
     virtual void write(TextView path, std::string_view bytes) = 0;
     /// Creates the file when it is missing.
     virtual void append(TextView path, std::string_view bytes) = 0;
+    /// The same, and what is written outlives a machine that loses its power right afterwards, where the disk
+    /// keeps what it promises.
+    virtual void append_durably(TextView path, std::string_view bytes) { append(path, bytes); }
     virtual void remove(TextView path) = 0;
     /// In one step: who looks at the new place sees what was there before, or all of the file. What was there
     /// is replaced. Both places are on one drive.

@@ -3,6 +3,7 @@
 #include "bench/harness.h"
 #include "bench/peers.h"
 #include "bench/ratios.h"
+#include "bench/sending.h"
 #include "compose/filters.h"
 #include "compose/merge.h"
 #include "tests/compose/plain_passes.h"
@@ -121,6 +122,7 @@ int main() {
     bench::print_hostile_merges(store);
     bench::print_filters();
     bench::print_composition();
+    bench::print_sending();
     std::printf("%d rows short\n", bench::rows_short());
     return bench::rows_short() == 0 ? 0 : 1;
 }

@@ -10,6 +10,9 @@ namespace {
 
 using namespace settings;
 
+// The flag of bulk mail, as a row writes it.
+constexpr TextView single_message = u"0", bulk_mail = u"1";
+
 /// A field without "|" is its own value; what follows a second "|" doesn't count.
 Text value_of(const std::vector<Text>& fields, std::size_t index) {
     if (index >= fields.size()) return {};
@@ -69,9 +72,15 @@ void write_usage(const UsageLog& log, const UsageRow& row, const host::Recipient
                  host::Objects& objects) {
     OpenConnection connection(objects, log.connection_string);
     const int count = recipients.count();
-    const TextView bulk = count == 1 ? u"0" : u"1";
+    const TextView bulk = count == 1 ? single_message : bulk_mail;
     for (int i = 1; i <= count; ++i)
         connection.execute(statement(log, row, recipients.item(i).address(), bulk));
+    connection.close();
+}
+
+void write_bulk_usage(const UsageLog& log, const UsageRow& row, const Text& address, host::Objects& objects) {
+    OpenConnection connection(objects, log.connection_string);
+    connection.execute(statement(log, row, address, bulk_mail));
     connection.close();
 }
 

@@ -30,6 +30,9 @@ struct UsageRow {
 void write_usage(const UsageLog& log, const UsageRow& row, const host::Recipients& recipients,
                  host::Objects& objects);
 
+/// Writes the row of one message of many, as write_usage does.
+void write_bulk_usage(const UsageLog& log, const UsageRow& row, const Text& address, host::Objects& objects);
+
 /// The current user's address when it holds "@", else the name.
 Text sender_of(const host::Application& application);
 

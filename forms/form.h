@@ -59,6 +59,12 @@ public:
     Handler on_load, on_unload, on_resize;
     /// Asked when the user closes the form by its frame; without it every form may be closed so.
     std::function<bool()> may_close;
+    /// Shows at once what code changed, where a window shows the form: else that waits for the end of the
+    /// user's step.
+    void show_changes() const {
+        if (shows_changes) shows_changes();
+    }
+    std::function<void()> shows_changes; ///< the form's window; empty without one
     /// The control that gets the keyboard next; the form's window empties it.
     Text next_focus;
 

@@ -11,6 +11,8 @@ void pass_item_send(const ApplicationEvents& events, std::span<Value> arguments)
 
 } // namespace
 
+Application find_application(Objects& objects) { return Application(objects.create(u"Outlook.Application")); }
+
 ObjectPtr create_options_page(Objects& objects) { return objects.create(u"BrevantPage.PropPage"); }
 
 Subscription Explorers::on_new(std::function<void(Explorer explorer)> handler) const {

@@ -62,4 +62,7 @@ public:
     Subscription on_events(ApplicationEvents events) const;
 };
 
+/// The mail client that runs, or that is started for it. Throws Error where there is none.
+Application find_application(Objects& objects);
+
 } // namespace ornavel::host

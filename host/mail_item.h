@@ -81,6 +81,7 @@ public:
     bool is_sent() const { return as_flag(get({u"Sent"})); }
     Folder parent() const { return Folder(as_object(get({u"Parent"}))); }
 
+    void set_to(TextView addresses) const { put({u"To"}, Text(addresses)); }
     Text subject() const { return as_text(get({u"Subject"})); }
     void set_subject(TextView subject) const { put({u"Subject"}, Text(subject)); }
     Text body() const { return as_text(get({u"Body"})); }

@@ -1,12 +1,13 @@
 #include "programs/all_programs.h"
 
+#include "programs/mass_mailer/mass_mailer.h"
 #include "programs/options_assistant/options_assistant.h"
 #include "programs/site_assistant/site_assistant.h"
 
 namespace ornavel::programs {
 namespace {
 
-constexpr const Program* all[] = {&site_assistant, &options_assistant};
+constexpr const Program* all[] = {&site_assistant, &options_assistant, &mass_mailer};
 
 } // namespace
 

@@ -4,6 +4,7 @@
 #include "base/files.h"
 #include "base/launcher.h"
 #include "base/system_information.h"
+#include "base/waiting.h"
 #include "forms/windows.h"
 #include "host/object.h"
 #include "settings/changes.h"
@@ -24,6 +25,7 @@ struct Platform {
     Text user_folder{};
     Text scratch_folder{}; ///< for files that go with the program
     Text arguments{};
+    Waiting* waiting = nullptr; ///< of a program that works for long
 };
 
 /// A program that users start. Its body shows its forms and gives its exit code; it may throw.

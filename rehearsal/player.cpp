@@ -109,7 +109,9 @@ void Player::dress(const Act& act, Json& record) {
 }
 
 void Player::run(const Act& act, Json& record) {
+    client_.program_runs = true;
     const auto code = machine_.run(act.text, act.arguments, client_);
+    client_.program_runs = false;
     if (!code) refuse(act, "there is no such program");
     record["exit code"] = *code;
 }

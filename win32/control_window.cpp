@@ -23,7 +23,9 @@ struct Look {
 Look text_box_look(const Control& control) {
     const DWORD lines =
         control.several_lines ? ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL : DWORD{ES_AUTOHSCROLL};
-    return {L"EDIT", WS_TABSTOP | lines | (control.locked ? ES_READONLY : 0), WS_EX_CLIENTEDGE};
+    // The Enter key is the default button's where nothing can be written.
+    const DWORD writing = control.locked ? ES_READONLY : control.several_lines ? ES_WANTRETURN : 0;
+    return {L"EDIT", WS_TABSTOP | lines | writing, WS_EX_CLIENTEDGE};
 }
 
 DWORD combo_box_style(const Control& control) {
@@ -91,6 +93,8 @@ ControlWindow::ControlWindow(const Control& control, HWND parent, int id, HFONT 
     if (!window_) fail(control.name, GetLastError());
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font));
     give_name(window_, control.name);
+    // Without this the system cuts off what is pasted behind 30,000 characters.
+    if (control.several_lines) send(EM_SETLIMITTEXT);
     if (control.icon != forms::Icon::none)
         send(STM_SETICON, reinterpret_cast<WPARAM>(LoadIconW(nullptr, system_icon(control.icon))));
     if (control.kind == ControlKind::web_browser) make_browser(control.follows_links);

@@ -63,9 +63,11 @@ void FormWindow::fill() {
     if (form_.sizable) grip_.emplace(window_);
     refresh();
     refreshing_ = false;
+    form_.shows_changes = [this] { refresh(); };
 }
 
 FormWindow::~FormWindow() {
+    form_.shows_changes = {};
     for (ControlWindow& control : controls_) control.close();
     if (window_) DestroyWindow(window_);
 }

@@ -8,6 +8,8 @@
 
 #include <shellapi.h>
 
+#include <utility>
+
 namespace ornavel::win32 {
 namespace {
 
@@ -52,6 +54,18 @@ DWORD error_of(INT_PTR code) {
     for (const auto& row : shell_codes)
         if (row.code == code) return row.error;
     return static_cast<DWORD>(code);
+}
+
+/// Everything that waits in the thread's queue. Keys go to a dialog first, as in its own loop.
+void hand_out_messages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) return PostQuitMessage(static_cast<int>(message.wParam));
+        const HWND dialog = GetActiveWindow();
+        if (dialog && IsDialogMessageW(dialog, &message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
 }
 
 TextView folder_of(TextView program) {
@@ -112,6 +126,22 @@ std::optional<Text> DesktopWindows::ask_for_path(const forms::PathQuestion& ques
 void DesktopWindows::keep_on_top(int window) {
     SetWindowPos(reinterpret_cast<HWND>(static_cast<INT_PTR>(window)), HWND_TOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE);
+}
+
+long long MessageWaiting::milliseconds() {
+    const unsigned long tick = GetTickCount();
+    passed_ += tick - std::exchange(last_tick_, tick);
+    return passed_;
+}
+
+void MessageWaiting::wait(int milliseconds) {
+    const long long end = this->milliseconds() + milliseconds;
+    for (;;) {
+        hand_out_messages();
+        const long long left = end - this->milliseconds();
+        if (left <= 0) return;
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(left), QS_ALLINPUT);
+    }
 }
 
 std::optional<Text> ResourceStrings::find(int id) const {

@@ -2,6 +2,7 @@
 
 #include "base/clock.h"
 #include "base/launcher.h"
+#include "base/waiting.h"
 #include "forms/string_table.h"
 #include "forms/windows.h"
 
@@ -29,6 +30,17 @@ public:
     void show_modal(forms::Form& form) override;
     std::optional<Text> ask_for_path(const forms::PathQuestion& question) override;
     void keep_on_top(int window) override;
+};
+
+/// Waits in a loop that hands the thread's windows what the user does.
+class MessageWaiting final : public Waiting {
+public:
+    long long milliseconds() override;
+    void wait(int milliseconds) override;
+
+private:
+    long long passed_ = 0;
+    unsigned long last_tick_ = 0; ///< of the system's clock, which begins anew after 49 days
 };
 
 /// The numbered texts in a module's resources.

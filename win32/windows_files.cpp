@@ -33,6 +33,18 @@ void write_all(const Handle& file, TextView path, std::string_view bytes) {
     }
 }
 
+/// The file, with the bytes at its end.
+Handle appended(TextView path, std::string_view bytes) {
+    // Opened for nothing but appending, so that each line goes behind what another session has just written;
+    // and one at a time, because a share may look for the end before it writes there.
+    Handle file = open(path, FILE_APPEND_DATA | FILE_READ_DATA, OPEN_ALWAYS);
+    OVERLAPPED far_behind_the_end{};
+    far_behind_the_end.OffsetHigh = 0x7FFFFFFF;
+    LockFileEx(file.get(), LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &far_behind_the_end);
+    write_all(file, path, bytes);
+    return file;
+}
+
 Text with_backslash(TextView folder) { return Text(folder) + (folder.ends_with(u'\\') ? u"" : u"\\"); }
 
 /// The entries of a folder that are of this kind, in order.
@@ -85,14 +97,10 @@ void WindowsFiles::write(TextView path, std::string_view bytes) {
     write_all(open(path, GENERIC_WRITE, CREATE_ALWAYS), path, bytes);
 }
 
-void WindowsFiles::append(TextView path, std::string_view bytes) {
-    // Opened for nothing but appending, so that each line goes behind what another session has just written;
-    // and one at a time, because a share may look for the end before it writes there.
-    const Handle file = open(path, FILE_APPEND_DATA | FILE_READ_DATA, OPEN_ALWAYS);
-    OVERLAPPED far_behind_the_end{};
-    far_behind_the_end.OffsetHigh = 0x7FFFFFFF;
-    LockFileEx(file.get(), LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &far_behind_the_end);
-    write_all(file, path, bytes);
+void WindowsFiles::append(TextView path, std::string_view bytes) { appended(path, bytes); }
+
+void WindowsFiles::append_durably(TextView path, std::string_view bytes) {
+    if (!FlushFileBuffers(appended(path, bytes).get())) fail(path, GetLastError());
 }
 
 void WindowsFiles::remove(TextView path) {

@@ -14,6 +14,7 @@ public:
     std::string read(TextView path) const override;
     void write(TextView path, std::string_view bytes) override;
     void append(TextView path, std::string_view bytes) override;
+    void append_durably(TextView path, std::string_view bytes) override;
     void remove(TextView path) override;
     void move(TextView from, TextView to) override;
     void create_folder(TextView path) override;

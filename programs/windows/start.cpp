@@ -65,6 +65,7 @@ int run_here(const Program& program) {
     win32::ComObjects objects;
     win32::DesktopWindows windows;
     const win32::WindowsInformation machine;
+    win32::MessageWaiting waiting;
     return run(program, {.settings = settings,
                          .files = files,
                          .clock = clock,
@@ -75,7 +76,8 @@ int run_here(const Program& program) {
                          .folder = folder_of_program(),
                          .user_folder = folder_from(u"%APPDATA%", u"\\Brevant\\Ornavel"),
                          .scratch_folder = folder_from(u"%TEMP%", {}),
-                         .arguments = arguments()});
+                         .arguments = arguments(),
+                         .waiting = &waiting});
 }
 
 } // namespace

@@ -24,6 +24,7 @@ Value create_item(const Call& call) {
     if (call.number(0) != mail_item) throw host::Error(u"Could not complete the operation.");
     auto item = std::make_shared<MailItemNode>();
     item->made_by_addin = true;
+    item->made_by_program = call.client.program_runs;
     return call.client.hand_out(std::move(item));
 }
 

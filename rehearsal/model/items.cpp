@@ -25,15 +25,35 @@ Value save(const Call& call) {
     return {};
 }
 
+Value to(const Call& call) {
+    Text names;
+    for (const auto& node : call.as<MailItemNode>().recipient_nodes)
+        if (node->type == RecipientEntry{}.type) names += (names.empty() ? u"" : u"; ") + node->address;
+    return names;
+}
+
+/// In the place of those that the line had.
+void put_to(const Call& call, const Value& value) {
+    auto& nodes = call.as<MailItemNode>().recipient_nodes;
+    std::erase_if(nodes, [](const auto& node) { return node->type == RecipientEntry{}.type; });
+    for (const Text& address : split(host::as_text(value), u";"))
+        if (!trim(address).empty())
+            nodes.push_back(std::make_shared<RecipientNode>(RecipientEntry{{}, trim(address)}));
+}
+
+/// A program hears when its message was not let go; the add-in asks its own.
 Value send(const Call& call) {
     auto& item = call.as<MailItemNode>();
     item.through = call.used.what().name;
-    if (item.made_by_addin && !call.client.host().own_mails_raise_item_send)
-        call.client.send_silently(item);
-    else
+    const bool is_told =
+        !item.made_by_addin || item.made_by_program || call.client.host().own_mails_raise_item_send;
+    if (is_told)
         call.client.send(item);
+    else
+        call.client.send_silently(item);
     if (item.made_by_addin)
         call.client.sent_mails.push_back(std::static_pointer_cast<MailItemNode>(item.shared_from_this()));
+    if (item.made_by_program && item.cancelled) throw host::Error(u"Operation aborted");
     return {};
 }
 
@@ -73,6 +93,7 @@ constexpr MemberRow option(TextView name, Write write) {
 
 constexpr MemberRow mail_item_members[] = {
     property<MailItemNode, &Item::message_class>(u"MessageClass"),
+    {u"To", to, put_to},
     property<MailItemNode, &Item::subject>(u"Subject"),
     property<MailItemNode, &Item::body>(u"Body"),
     property<MailItemNode, &Item::html_body>(u"HTMLBody"),

@@ -49,8 +49,9 @@ struct MailItemNode final : Node, Item {
     int saves = 0;
     bool sent = false, cancelled = false;
     bool made_by_addin = false, delete_after_submit = false;
-    Text through = u"MailItem"; ///< the class by which the add-in sent it
-    int send_requests = 0;      ///< how often the add-in called Send, also where that failed
+    bool made_by_program = false; ///< by a program beside the add-in, as if the user wrote it
+    Text through = u"MailItem";   ///< the class by which the add-in sent it
+    int send_requests = 0;        ///< how often the add-in called Send, also where that failed
 
     void asked(TextView member) override { send_requests += same_name(member, u"Send"); }
 };

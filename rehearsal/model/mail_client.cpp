@@ -55,9 +55,10 @@ host::ObjectPtr MailClient::create(TextView prog_id) {
         const auto entry =
             std::find_if(std::begin(creatables), std::end(creatables),
                          [&](const Creatable& candidate) { return same_name(candidate.prog_id, prog_id); });
-        if (entry == std::end(creatables) || !can_be_created(host(), prog_id))
+        const bool is_itself = same_name(prog_id, u"Outlook.Application");
+        if ((entry == std::end(creatables) && !is_itself) || !can_be_created(host(), prog_id))
             throw host::Error(u"ActiveX component can't create object");
-        return hand_out(entry->make());
+        return hand_out(is_itself ? application_ : entry->make());
     });
 }
 

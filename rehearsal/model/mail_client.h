@@ -74,8 +74,9 @@ public:
     const std::shared_ptr<References>& references() { return references_; }
 
     std::vector<std::shared_ptr<MailItemNode>> items;
-    std::shared_ptr<BarNode> standard_bar;                 ///< one for all explorer windows
-    std::vector<std::shared_ptr<MailItemNode>> sent_mails; ///< that the add-in made itself
+    std::shared_ptr<BarNode> standard_bar; ///< one for all explorer windows
+    bool program_runs = false;             ///< what is made now one of the add-in's programs makes
+    std::vector<std::shared_ptr<MailItemNode>> sent_mails; ///< that the add-in or a program made itself
     std::vector<Text> pages, statements;
     std::vector<std::shared_ptr<ConnectionNode>> connections;
     Json browser = Json::array();

@@ -82,9 +82,24 @@ std::optional<Text> MemoryMachine::prompt(TextView mode) {
     return dialog.values().answer;
 }
 
+namespace {
+
+/// Time that passes as fast as somebody waits.
+class SwiftTime final : public Waiting {
+public:
+    long long milliseconds() override { return now_; }
+    void wait(int milliseconds) override { now_ += milliseconds; }
+
+private:
+    long long now_ = 0;
+};
+
+} // namespace
+
 std::optional<int> MemoryMachine::run(TextView file, TextView arguments, host::Objects& objects) {
     const programs::Program* program = programs::find_program(file);
     if (!program) return {};
+    SwiftTime waiting;
     const programs::Platform platform{.settings = addin_settings(),
                                       .files = addin_files(),
                                       .clock = addin_clock(),
@@ -95,7 +110,8 @@ std::optional<int> MemoryMachine::run(TextView file, TextView arguments, host::O
                                       .folder = computer_.addin_folder,
                                       .user_folder = application_data(computer_) + u"\\Brevant\\Ornavel",
                                       .scratch_folder = scratch_folder(computer_),
-                                      .arguments = Text(arguments)};
+                                      .arguments = Text(arguments),
+                                      .waiting = &waiting};
     const AddInsTurn turn;
     return programs::run(*program, platform);
 }

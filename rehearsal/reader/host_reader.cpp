@@ -6,8 +6,13 @@ namespace ornavel::rehearsal {
 namespace {
 
 constexpr TextView creatable[] = {
-    u"Redemption.SafeMailItem",      u"BrevantPage.PropPage",       u"ADODB.Connection",
-    u"InternetExplorer.Application", u"Scripting.FileSystemObject", u"winmgmts",
+    u"Outlook.Application",
+    u"Redemption.SafeMailItem",
+    u"BrevantPage.PropPage",
+    u"ADODB.Connection",
+    u"InternetExplorer.Application",
+    u"Scripting.FileSystemObject",
+    u"winmgmts",
 };
 
 std::uint64_t size_in_bytes(const JsonPlace& place) {

@@ -95,6 +95,7 @@ std::optional<int> WindowsMachine::run(TextView file, TextView arguments, host::
     win32::ShellLauncher launcher;
     WatchedWindows windows(screen_);
     const win32::WindowsInformation machine;
+    win32::MessageWaiting waiting;
     return programs::run(*program, {.settings = settings,
                                     .files = files,
                                     .clock = clock,
@@ -105,7 +106,8 @@ std::optional<int> WindowsMachine::run(TextView file, TextView arguments, host::
                                     .folder = computer_.addin_folder,
                                     .user_folder = application_data(computer_) + u"\\Brevant\\Ornavel",
                                     .scratch_folder = scratch_folder(computer_),
-                                    .arguments = Text(arguments)});
+                                    .arguments = Text(arguments),
+                                    .waiting = &waiting});
 }
 
 void WindowsMachine::hold(TextView path) {

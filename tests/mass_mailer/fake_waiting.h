@@ -1,0 +1,24 @@
+#pragma once
+
+#include "base/waiting.h"
+
+#include <functional>
+
+namespace ornavel::mass_mailer {
+
+/// Time that passes only where somebody waits for it. What a user does meanwhile is done in `at_wait`.
+class FakeWaiting final : public Waiting {
+public:
+    long long now = 1'000;
+    int turns = 0; ///< waits in which nothing but the user's turn passes
+    std::function<void()> at_wait = [] {};
+
+    long long milliseconds() override { return now; }
+    void wait(int milliseconds) override {
+        now += milliseconds;
+        turns += milliseconds == 0;
+        at_wait();
+    }
+};
+
+} // namespace ornavel::mass_mailer
