@@ -76,7 +76,7 @@ private:
     HHOOK hook_;
     std::list<OpenForm> open_; ///< the last one is in front
     Json windows_ = Json::array();
-    Text pictures_; ///< where pictures go; empty where none are kept
+    Text pictures_;               ///< where pictures go; empty where none are kept
     std::size_t page_record_ = 0; ///< the page's place among the windows
     MenuChoice choice_;
     HWND met_menu_ = nullptr; ///< a menu that has got its keys, which may still be on their way
