@@ -2,7 +2,6 @@
 
 #include "forms/frmPropPage.h"
 #include "programs/options_assistant/frmOptionsAssistant.h"
-#include "win32/system_information.h"
 
 namespace ornavel::gallery {
 namespace {
@@ -33,15 +32,7 @@ void show_page(Stage& stage) {
 
 void show_options_program(Stage& stage, const std::function<void(forms::Form&)>& act) {
     OneFile windows(stage.windows, stage.folder + u"in.reg");
-    const win32::WindowsInformation machine;
-    const programs::Platform platform{.settings = stage.store,
-                                      .files = stage.files,
-                                      .clock = stage.clock,
-                                      .launcher = stage.launcher,
-                                      .objects = stage.objects,
-                                      .windows = windows,
-                                      .machine = machine,
-                                      .folder = stage.folder};
+    const programs::Platform platform = stage.platform(windows);
     programs::frmOptionsAssistant options(platform);
     options.form().load();
     if (act) act(options.form());

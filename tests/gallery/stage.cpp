@@ -2,6 +2,7 @@
 
 #include "forms/form_user.h"
 #include "forms/frmSysTray.h"
+#include "programs/mass_mailer/frmMassMailer.h"
 #include "programs/site_assistant/frmSiteAssistant.h"
 #include "win32/notification_icon.h"
 
@@ -107,22 +108,37 @@ void Stage::show_tray(TextView entry) {
 
 void Stage::show_prompt(TextView mode) { forms::PromptDialog(windows, forms::built_in_strings()).ask(mode); }
 
+programs::Platform Stage::platform(forms::Windows& shown_by) {
+    return {.settings = store,
+            .files = files,
+            .clock = clock,
+            .launcher = launcher,
+            .objects = objects,
+            .windows = shown_by,
+            .machine = machine,
+            .folder = folder,
+            .scratch_folder = u"C:\\windows\\temp"};
+}
+
 void Stage::show_setup(int clicks, std::function<void(forms::Form&)> change) {
-    const programs::Platform platform{.settings = store,
-                                      .files = files,
-                                      .clock = clock,
-                                      .launcher = launcher,
-                                      .objects = objects,
-                                      .windows = windows,
-                                      .machine = machine,
-                                      .folder = folder,
-                                      .scratch_folder = u"C:\\windows\\temp"};
-    programs::frmSiteAssistant wizard(platform);
+    const programs::Platform given = platform(windows);
+    programs::frmSiteAssistant wizard(given);
     wizard.form().load();
     if (change) change(wizard.form());
     for (int click = 0; click < clicks; ++click) forms::FormUser(wizard.form()).click(u"cmdNext");
     wizard.form().may_close = {};
     windows.show_modal(wizard.form());
+}
+
+void Stage::show_send_to_many(TextView list) {
+    const programs::Platform given = platform(windows);
+    mass_mailer::frmMassMailer window(given, errors,
+                                      u"<html><body><p>Dear {{Name}},<p>see you in {{Town}}.</body></html>");
+    window.form().load();
+    if (!list.empty()) forms::FormUser(window.form()).set_text(u"txtList", list);
+    forms::FormUser(window.form()).set_text(u"txtSubject", u"Spring in {{Town}}");
+    window.form().may_close = {};
+    windows.show_modal(window.form());
 }
 
 } // namespace ornavel::gallery

@@ -30,6 +30,10 @@ struct Stage {
     void show_tray(TextView entry = {});
     /// Ornavel Setup, after so many clicks on Next.
     void show_setup(int clicks, std::function<void(forms::Form&)> change = {});
+    /// Send to Many with this list pasted into it.
+    void show_send_to_many(TextView list);
+    /// What a program is given whose windows are shown by this.
+    programs::Platform platform(forms::Windows& shown_by);
 
     Text folder = u"C:\\windows\\temp\\gallery\\";
     win32::WindowsFiles files;

@@ -182,6 +182,21 @@ constexpr State all[] = {
      }},
     {u"setup-ready", [](Stage& stage) { with_identity(stage), stage.show_setup(3); }},
     {u"setup-ready-long", [](Stage& stage) { with_identity(stage), stage.show_setup(3, change_everything); }},
+    {u"many-empty", [](Stage& stage) { stage.show_send_to_many({}); }},
+    {u"many",
+     [](Stage& stage) {
+         stage.show_send_to_many(
+             u"Name,E-mail,Town\r\nAnn,ann@example.com,Leeds\r\nBen,ben@example.com,York\r\n"
+             u"Cy,nobody,Hull\r\nAnn,ANN@example.com,Leeds\r\n");
+     }},
+    {u"many-long",
+     [](Stage& stage) {
+         Text list = u"Name,E-mail,Town\r\n";
+         for (int i = 0; i < 300; ++i)
+             list += Text(60, u'n') + u"," + Text(50, u'a') + to_text(i) + u"@example.com," + Text(40, u't') +
+                     u"\r\n" + Text(80, u'x') + u"\r\n";
+         stage.show_send_to_many(list);
+     }},
     {u"page", [](Stage& stage) { show_page(stage); }},
     {u"page-modes", [](Stage& stage) { show_page(stage); }, u"cboMode"},
     {u"page-long-names",
