@@ -75,7 +75,7 @@ void arrange_page(Form& form, int right, int bottom) {
 }
 
 void arrange_bottom(Form& form, int right, int top) {
-    constexpr int words = 1500, number = 600, test = 1500;
+    constexpr int words = 1950, number = 600, test = 1245;
     int at = left;
     form[u"lblPace"].place = {at, top + 75, words, label_height};
     form[u"txtPace"].place = {at += words + label_gap, top + 15, number, box_height};
