@@ -100,8 +100,46 @@ std::string files(const Story& story) {
            (removed.empty() ? "" : fold_out("Files removed", element("ul", "", removed)));
 }
 
+/// What a program was given to work on.
+std::string files_given(const Story& story) {
+    if (std::ranges::find(story.scenario.acts, Act::Kind::run, &Act::kind) == story.scenario.acts.end())
+        return {};
+    std::string shown;
+    for (const auto& [path, bytes] : story.scenario.files) {
+        const std::string name = to_utf8(path);
+        if (is_utf8(bytes)) shown += shown_file(story, name, name, bytes, estimated_height(bytes));
+    }
+    const std::size_t count = story.scenario.files.size();
+    return shown.empty() ? shown : fold_out(counted(count, "file") + " given", element("div", "pair", shown));
+}
+
+std::string recipients_of(const Json& mail) {
+    std::string names;
+    for (const auto& recipient : mail.value("Recipients", Json::array()))
+        names += (names.empty() ? "" : ", ") + words_of(recipient);
+    return names;
+}
+
+/// Messages that no user wrote: reports, and those of Send to Many.
+std::string mails(const Story& story) {
+    std::string shown;
+    const Json& sent = part_of(story, "mails");
+    for (const auto& mail : sent) {
+        const std::string subject = text_of(mail, "Subject"), html = text_of(mail, "HTMLBody");
+        const std::string caption = recipients_of(mail) + ": " + subject;
+        const std::string& text = html.empty() ? text_of(mail, "Body") : html;
+        shown +=
+            shown_file(story, caption, html.empty() ? "mail.txt" : "mail.html", text, estimated_height(text));
+    }
+    return shown.empty()
+               ? shown
+               : fold_out(counted(sent.size(), "message") + " of its own", element("div", "pair", shown));
+}
+
 } // namespace
 
-std::string changes_section(const Story& story) { return registry(story) + files(story); }
+std::string changes_section(const Story& story) {
+    return files_given(story) + mails(story) + registry(story) + files(story);
+}
 
 } // namespace ornavel::rehearsal::report

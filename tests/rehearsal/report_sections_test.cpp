@@ -53,6 +53,24 @@ TEST(ReportChanges, AFileStandsBesideTheOneThatItWasMadeFrom) {
     EXPECT_TRUE(holds(section, "<li>C:\\gone.txt</li>"));
 }
 
+TEST(ReportChanges, AMessageThatNoUserWroteIsShownWithItsRecipients) {
+    const Story story = story_with({{"mails",
+                                     {{{"Recipients", {"ann@example.com", "ben@example.com"}},
+                                       {"Subject", "Cake"},
+                                       {"Body", "at four"}}}}});
+    const std::string section = changes_section(story);
+    EXPECT_TRUE(holds(section, "1 message of its own"));
+    EXPECT_TRUE(holds(section, "ann@example.com, ben@example.com: Cake")) << section;
+}
+
+TEST(ReportChanges, WhatAProgramWasGivenIsShown) {
+    Story story = story_with(Json::object());
+    story.scenario.files = {{u"C:\\list.csv", "Name"}};
+    EXPECT_EQ(changes_section(story), "");
+    story.scenario.acts.emplace_back().kind = Act::Kind::run;
+    EXPECT_TRUE(holds(changes_section(story), "1 file given"));
+}
+
 TEST(ReportChanges, AStoryThatLeftNothingHasNoSuchSection) {
     EXPECT_EQ(changes_section(story_with({{"registry", Json::object()}, {"files", Json::object()}})), "");
 }
