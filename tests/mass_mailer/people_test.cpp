@@ -53,21 +53,21 @@ TEST(Addresses, AreComparedWithoutCaseAndBlanks) {
     EXPECT_NE(address_key(u"ann@example.com"), address_key(u"anne@example.com"));
 }
 
-TEST(Lists, TheFirstLineNamesTheColumnsAndOneWithMailInItIsTheAddress) {
+TEST(MailingLists, TheFirstLineNamesTheColumnsAndOneWithMailInItIsTheAddress) {
     const Table table = table_of("Name;E-Mail\nAnn;ann@example.com\nBob;bob@example.com\n");
     EXPECT_EQ(table.columns, (Texts{u"Name", u"E-Mail"}));
     EXPECT_EQ(likely_address_column(table), 1u);
     EXPECT_EQ(addresses(people_of(table, 1)), (Texts{u"ann@example.com", u"bob@example.com"}));
 }
 
-TEST(Lists, OfTwoColumnsWithMailTheOneThatHoldsAddressesIsProposed) {
+TEST(MailingLists, OfTwoColumnsWithMailTheOneThatHoldsAddressesIsProposed) {
     EXPECT_EQ(likely_address_column(table_of("Mailing street,E-mail\nHigh St 1,ann@example.com\n")), 1u);
     EXPECT_EQ(likely_address_column(table_of("Name,Write to\nAnn,ann@example.com\n")), 1u);
     EXPECT_EQ(likely_address_column(table_of("Name,Town\nAnn,Paris\n")), 0u);
     EXPECT_EQ(likely_address_column(table_of("Name,Mail\n")), 1u);
 }
 
-TEST(Lists, WhatCantBeSentToIsListedWithItsLineAndTheReason) {
+TEST(MailingLists, WhatCantBeSentToIsListedWithItsLineAndTheReason) {
     const People people = people_of(
         table_of("Mail,Name\nann@example.com,\"two\r\nlines\"\nnobody,Bob\n,Carol\nANN @example.com,Ann\n"
                  " Ann@Example.com,Ann\na@example.com,A,B\n"),
@@ -80,12 +80,12 @@ TEST(Lists, WhatCantBeSentToIsListedWithItsLineAndTheReason) {
                      u"8: a@example.com: The line has more cells than the first one has names"}));
 }
 
-TEST(Lists, AnAddressInPlaceOfTheNamesIsNotForgotten) {
+TEST(MailingLists, AnAddressInPlaceOfTheNamesIsNotForgotten) {
     EXPECT_THROW(table_of("ann@example.com\nbob@example.com\n"), FileError);
     EXPECT_THROW(table_of("Ann,ann@example.com\n"), FileError);
 }
 
-TEST(Lists, AListWithoutAnythingOrWithAnOpenQuoteIsNotReadInPart) {
+TEST(MailingLists, AListWithoutAnythingOrWithAnOpenQuoteIsNotReadInPart) {
     EXPECT_THROW(table_of(""), FileError);
     EXPECT_THROW(table_of("\r\n\r\n"), FileError);
     try {
@@ -96,20 +96,20 @@ TEST(Lists, AListWithoutAnythingOrWithAnOpenQuoteIsNotReadInPart) {
     }
 }
 
-TEST(Lists, ANulInALineRejectsThatLineAlone) {
+TEST(MailingLists, ANulInALineRejectsThatLineAlone) {
     using namespace std::string_view_literals;
     const People people = people_of(table_of("Mail,Name\na@example.com,x\0y\nb@example.com,B\n"sv), 0);
     EXPECT_EQ(addresses(people), Texts{u"b@example.com"});
     EXPECT_EQ(people.rejected.size(), 1u);
 }
 
-TEST(Lists, FormulasAreTexts) {
+TEST(MailingLists, FormulasAreTexts) {
     const Table table = table_of("Mail,Name\n=cmd@example.com,=1+1\n");
     EXPECT_EQ(addresses(people_of(table, 0)), Texts{u"=cmd@example.com"});
     EXPECT_EQ(table.rows[0].cells[1], u"=1+1");
 }
 
-TEST(Lists, AnyColumnMayBeTheAddress) {
+TEST(MailingLists, AnyColumnMayBeTheAddress) {
     const Table table = table_of("Mail,Private\na@example.com,b@example.org\n");
     EXPECT_EQ(addresses(people_of(table, 1)), Texts{u"b@example.org"});
     EXPECT_TRUE(people_of(table, 7).people.empty());
@@ -131,7 +131,7 @@ TEST(PastedLists, ATableIsPastedWithItsNames) {
     EXPECT_EQ(table.rows[0].cells[0], u"Jörg");
 }
 
-TEST(Lists, AHundredThousandLinesAndACellOfAMillionCharactersAreRead) {
+TEST(MailingLists, AHundredThousandLinesAndACellOfAMillionCharactersAreRead) {
     std::string bytes = "Mail,Text\nfirst@example.com," + std::string(1'000'000, 'x') + "\n";
     for (int i = 0; i < 100'000; ++i) bytes += "p" + std::to_string(i) + "@example.com,y\n";
     bytes += "last@example.com"; // without a line end
@@ -140,7 +140,7 @@ TEST(Lists, AHundredThousandLinesAndACellOfAMillionCharactersAreRead) {
     EXPECT_EQ(table.rows[0].cells[1].size(), 1'000'000u);
 }
 
-TEST(Lists, ALongWordInPlaceOfAnAddressIsRejected) {
+TEST(MailingLists, ALongWordInPlaceOfAnAddressIsRejected) {
     const People people = people_of(table_of("Mail\n" + std::string(1'000'000, 'x') + "@example.com\n"), 0);
     EXPECT_TRUE(people.people.empty());
 }

@@ -195,6 +195,7 @@ const std::set<Text> written = {
     u"Receipt",
     u"Sensitivity",
     u"ShowMessageBox",
+    u"Reply as is",
     u"SendAsIs",
     u"SendQuoteString",
     u"SendvCard",
