@@ -5,8 +5,6 @@
 namespace ornavel {
 namespace {
 
-constexpr std::string_view utf8_mark = "\xEF\xBB\xBF";
-
 bool is_utf16(std::string_view bytes) {
     return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
 }

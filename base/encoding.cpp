@@ -7,7 +7,6 @@ namespace ornavel {
 namespace {
 
 constexpr char32_t replacement = 0xFFFD;
-constexpr std::string_view utf8_mark = "\xEF\xBB\xBF";
 constexpr std::string_view utf16_le_mark = "\xFF\xFE";
 constexpr std::string_view utf16_be_mark = "\xFE\xFF";
 

@@ -6,6 +6,9 @@
 
 namespace ornavel {
 
+/// The byte-order mark that a UTF-8 file may begin with.
+inline constexpr std::string_view utf8_mark = "\xEF\xBB\xBF";
+
 /// A lone surrogate becomes U+FFFD; ill-formed bytes become U+FFFD, one for each.
 std::string to_utf8(TextView text);
 Text from_utf8(std::string_view bytes);

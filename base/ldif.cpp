@@ -13,7 +13,7 @@ std::string_view trimmed(std::string_view text) {
 } // namespace
 
 LdifReader::LdifReader(std::string_view bytes) : bytes_(bytes) {
-    if (bytes_.starts_with("\xEF\xBB\xBF")) bytes_.remove_prefix(3);
+    if (bytes_.starts_with(utf8_mark)) bytes_.remove_prefix(utf8_mark.size());
 }
 
 bool LdifReader::next_line(std::string& line) {

@@ -1,34 +1,18 @@
 # A room is one folder and one static library. KNOWS lists the rooms it may call; a room that is not
-# listed is not linked, and tools/check_layers refuses its headers. READS lists headers that take so long to read that
-# they are read once for the room; READS_AS names the room that has read them.
+# listed is not linked, and tools/check_layers refuses its headers. The presets compile a dozen files of a target as
+# one, because the standard library and the JSON library take longer to read than they do; a file whose private names
+# another one has too stands in ALONE. The fuzz targets compile each file alone, which shows that it includes what it
+# needs.
 function(ornavel_room name)
-  cmake_parse_arguments(ROOM "" "READS_AS" "SOURCES;KNOWS;READS" ${ARGN})
-  add_library(${name} STATIC ${ROOM_SOURCES})
+  cmake_parse_arguments(ROOM "" "" "SOURCES;ALONE;KNOWS" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES} ${ROOM_ALONE})
+  set_source_files_properties(${ROOM_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ROOM_KNOWS})
   ornavel_warnings(${name})
   # The add-in has a limit on its size; only what works on whole texts is built for speed. A debugger wants neither.
   if(WIN32 AND NOT name MATCHES "^(base|compose)$")
     target_compile_options(${name} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-Os>)
-  endif()
-  ornavel_read_once(${name})
-endfunction()
-
-# The standard library takes longer to read than most of our files. The fuzz targets read it each time, which shows
-# that each file includes what it needs.
-function(ornavel_read_once name)
-  set(first base)
-  if(WIN32 AND NOT name MATCHES "^(base|compose)$")
-    set(first host) # built as the others are
-  endif()
-  if(ROOM_READS)
-    target_precompile_headers(${name} PRIVATE ${ROOM_READS})
-  elseif(ROOM_READS_AS)
-    target_precompile_headers(${name} REUSE_FROM ${ROOM_READS_AS})
-  elseif(name STREQUAL first AND NOT ORNAVEL_FUZZ)
-    target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/standard_library.h)
-  elseif(NOT ORNAVEL_FUZZ)
-    target_precompile_headers(${name} REUSE_FROM ${first})
   endif()
 endfunction()
 

@@ -15,7 +15,7 @@ std::string inside(const Json& part) {
     return part.is_string() ? line.substr(1, line.size() - 2) : line;
 }
 
-class Comparison {
+class Check {
 public:
     std::vector<std::string> lines;
 
@@ -76,7 +76,7 @@ bool holds(const Json& part, const Json* actual) {
            actual->get<std::string>().find(part.get<std::string>()) != std::string::npos;
 }
 
-const Comparison::Test Comparison::tests[] = {
+const Check::Test Check::tests[] = {
     {"contains", Json::value_t::string, holds},
     {"absent", Json::value_t::string,
      [](const Json& part, const Json* actual) {
@@ -95,7 +95,7 @@ const Comparison::Test Comparison::tests[] = {
      [](const Json& missing, const Json* actual) { return (actual == nullptr) == missing.get<bool>(); }},
 };
 
-const Comparison::Test* Comparison::find_test(const Json& expected) {
+const Check::Test* Check::find_test(const Json& expected) {
     if (!expected.is_object() || expected.size() != 1) return nullptr;
     for (const Test& test : tests)
         if (expected.begin().key() == test.name && expected.begin().value().type() == test.argument)
@@ -106,9 +106,9 @@ const Comparison::Test* Comparison::find_test(const Json& expected) {
 } // namespace
 
 std::vector<std::string> mismatches(const Json& expected, const Json& outcome) {
-    Comparison comparison;
-    comparison.compare(expected, &outcome, {});
-    return comparison.lines;
+    Check check;
+    check.compare(expected, &outcome, {});
+    return check.lines;
 }
 
 } // namespace ornavel::rehearsal

@@ -202,7 +202,7 @@ private:
 } // namespace
 
 RegFile read_reg_file(std::string_view bytes, const CodePage& ansi) {
-    if (bytes.starts_with("\xEF\xBB\xBF"))
+    if (bytes.starts_with(utf8_mark))
         throw FileError(u"A registry editor reads no file in UTF-8; save it in UTF-16 (\"Unicode\")", {});
     const bool utf16 = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
     const Text text = utf16 ? decode(bytes, ansi) : ansi.decode(bytes);

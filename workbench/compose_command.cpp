@@ -9,7 +9,7 @@ namespace {
 
 using namespace settings;
 
-constexpr const char* example =
+constexpr const char* compose_example =
     "The template takes the place of the one in the settings, and its folder that of \"HTM Files Path\"; so "
     "does the\n"
     "signature (or \"none\"). A message that ends in .htm or .html is HTML, any other is text: with --editor "
@@ -21,7 +21,7 @@ constexpr const char* example =
     "  ornavel compose --settings samples/marlow-hale.reg --template samples/stationery/letterhead.htm \\\n"
     "          --signature samples/stationery/partner.htm --message reply.htm --reply -o out.html";
 
-struct Options {
+struct ComposeOptions {
     std::string settings, template_path, signature, message, body, boilerplate, out;
     std::string editor, host = "11", clock, subject;
     std::vector<std::string> to;
@@ -57,7 +57,7 @@ bool is_html_name(const std::string& path) {
     return name.ends_with(u".htm") || name.ends_with(u".html");
 }
 
-MemoryStore store_for(const Options& options, const Files& files) {
+MemoryStore store_for(const ComposeOptions& options, const Files& files) {
     MemoryStore store;
     if (!options.settings.empty()) store = load_settings(files, from_utf8(options.settings)).store;
     const auto choose = [&](const std::string& given, const Key& folder, const Key& name) {
@@ -73,7 +73,7 @@ MemoryStore store_for(const Options& options, const Files& files) {
     return store;
 }
 
-int editor_of(const Options& options) {
+int editor_of(const ComposeOptions& options) {
     const bool html = options.message.empty() || is_html_name(options.message);
     if (options.editor == "plain") return host::plain_text_editor;
     if (options.editor == "word") return host::word_editor;
@@ -81,7 +81,7 @@ int editor_of(const Options& options) {
     return html && options.editor.empty() ? host::html_editor : host::rich_text_editor;
 }
 
-Order order_of(const Options& options, const Files& files) {
+Order order_of(const ComposeOptions& options, const Files& files) {
     if (options.editor == "word" && !options.message.empty() && !is_html_name(options.message))
         throw Failure(u"--editor word takes an HTML message");
     Order order;
@@ -124,7 +124,7 @@ void explain(std::ostream& stream, const Dressed& dressed) {
 }
 
 /// What stands in the way of an output; empty where nothing does.
-TextView obstacle(const Options& options, const Dressed& dressed) {
+TextView obstacle(const ComposeOptions& options, const Dressed& dressed) {
     if (options.reply && !dressed.is_reply)
         return u"the message does not hold the reply marker, so Ornavel takes it for a new message";
     if (dressed.outcome == compose::Outcome::failed) return u"the message could not be composed";
@@ -132,7 +132,7 @@ TextView obstacle(const Options& options, const Dressed& dressed) {
     return {};
 }
 
-Exit compose(const Options& options, Context& context) {
+Exit compose(const ComposeOptions& options, Context& context) {
     const MemoryStore store = store_for(options, context.files);
     const Order order = order_of(options, context.files);
     const GivenClock given(options.clock.empty() ? context.clock.now() : time_of(options.clock));
@@ -156,7 +156,7 @@ Exit compose(const Options& options, Context& context) {
 } // namespace
 
 void add_compose(CLI::App& program, Task& task) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ComposeOptions>();
     CLI::App* command =
         program.add_subcommand("compose", "Composes a message as Ornavel does, byte for byte");
     command->add_option("--settings", options->settings, "The settings, a registry file")->type_name("S.reg");
@@ -180,7 +180,7 @@ void add_compose(CLI::App& program, Task& task) {
     command->add_flag("--json", options->json, "Prints what happened as JSON");
     command->add_option("-o", options->out, "The file for the result; without it the standard output")
         ->type_name("OUT.html");
-    command->footer(example);
+    command->footer(compose_example);
     command->callback(
         [options, &task] { task = [options](Context& context) { return compose(*options, context); }; });
 }

@@ -7,10 +7,11 @@
 namespace ornavel::workbench {
 namespace {
 
-constexpr const char* example = "It reads the registry, folders and files, and asks the usage database for a "
-                                "connection; it changes nothing.\n\n"
-                                "Example:\n"
-                                "  ornavel doctor";
+constexpr const char* doctor_example =
+    "It reads the registry, folders and files, and asks the usage database for a "
+    "connection; it changes nothing.\n\n"
+    "Example:\n"
+    "  ornavel doctor";
 
 const char* words_for(Diagnosis::State state) {
     constexpr const char* words[] = {"fine", "look at this", "broken"};
@@ -50,7 +51,7 @@ void add_doctor(CLI::App& program, Task& task) {
     CLI::App* command =
         program.add_subcommand("doctor", "Looks at the installation of this machine (on Windows)");
     command->add_flag("--json", *json, "Prints an array of JSON");
-    command->footer(example);
+    command->footer(doctor_example);
     command->callback(
         [json, &task] { task = [json](Context& context) { return examine_and_print(*json, context.out); }; });
 }

@@ -5,15 +5,16 @@
 namespace ornavel::workbench {
 namespace {
 
-constexpr const char* example = "The log is the file that ErrorFileLocation names, written while SystemCheck "
-                                "is on. Where it can't tell two ways\n"
-                                "out apart, both are named. Messages that leave before the records begin "
-                                "have no line: those of another mode, with\n"
-                                "a user property, or of another class.\n\n"
-                                "Example:\n"
-                                "  ornavel explain SupportLog.txt --message 3";
+constexpr const char* explain_example =
+    "The log is the file that ErrorFileLocation names, written while SystemCheck "
+    "is on. Where it can't tell two ways\n"
+    "out apart, both are named. Messages that leave before the records begin "
+    "have no line: those of another mode, with\n"
+    "a user property, or of another class.\n\n"
+    "Example:\n"
+    "  ornavel explain SupportLog.txt --message 3";
 
-struct Options {
+struct ExplainOptions {
     std::string log;
     std::size_t message = 0;
     bool json = false;
@@ -49,7 +50,7 @@ void print(std::ostream& stream, std::size_t number, const LoggedSend& send, con
     stream << (way.passed.empty() ? " no gate that leaves a record\n" : "\n");
 }
 
-Exit explain(const Options& options, Context& context) {
+Exit explain(const ExplainOptions& options, Context& context) {
     const auto sends = sends_in(read_text(context.files, from_utf8(options.log)));
     if (options.message > sends.size())
         throw Failure(u"The log has " + to_text(static_cast<long long>(sends.size())) + u" messages");
@@ -71,13 +72,13 @@ Exit explain(const Options& options, Context& context) {
 } // namespace
 
 void add_explain(CLI::App& program, Task& task) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ExplainOptions>();
     CLI::App* command =
         program.add_subcommand("explain", "Says in plain words what a log tells of each message");
     command->add_option("log", options->log, "The log")->required()->type_name("LOG");
     command->add_option("--message", options->message, "Only that message, counted from 1")->type_name("N");
     command->add_flag("--json", options->json, "Prints an array of JSON");
-    command->footer(example);
+    command->footer(explain_example);
     command->callback(
         [options, &task] { task = [options](Context& context) { return explain(*options, context); }; });
 }

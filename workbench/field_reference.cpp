@@ -32,7 +32,7 @@ const settings::Key* key_in(std::span<const MergeBlock> blocks, const Text& fiel
     return nullptr;
 }
 
-const settings::Key* key_of(const Text& field) {
+const settings::Key* setting_of(const Text& field) {
     for (const auto blocks :
          {compose::signature_fields(), compose::background_colour(), compose::signature_file_fields()})
         if (const auto* key = key_in(blocks, field)) return key;
@@ -69,7 +69,7 @@ Text while_empty(const Text& field, const settings::Key& key) {
 }
 
 FieldRow row_of(const Text& field) {
-    const settings::Key* key = key_of(field);
+    const settings::Key* key = setting_of(field);
     FieldRow row{field,
                  key ? Text(key->name) : Text(),
                  known_fields().filled.contains(field),

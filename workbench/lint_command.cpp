@@ -7,7 +7,7 @@
 namespace ornavel::workbench {
 namespace {
 
-constexpr const char* example =
+constexpr const char* lint_example =
     "A folder stands for the .htm, .html and .txt files in it, and a .reg file for settings. What a file is "
     "follows\n"
     "from the settings' folders, else from --as; without either a file with the marker is a template and any "
@@ -19,7 +19,7 @@ constexpr const char* example =
 
 constexpr std::size_t largest_page = 16'000'000;
 
-struct Options {
+struct LintOptions {
     std::vector<std::string> paths;
     std::string settings, as;
     bool rules = false, json = false;
@@ -48,7 +48,7 @@ void print_example(std::ostream& stream, const char* what, const Example& shown)
     stream << '\n';
 }
 
-Exit list_rules(const Options& options, std::ostream& stream) {
+Exit list_rules(const LintOptions& options, std::ostream& stream) {
     if (options.json) {
         Json list = Json::array();
         for (const Rule& rule : rules())
@@ -88,7 +88,7 @@ std::vector<Text> files_of(const std::vector<std::string>& paths, const Files& f
     return all;
 }
 
-std::optional<Role> told_role(const Options& options) {
+std::optional<Role> told_role(const LintOptions& options) {
     if (options.as == "template") return Role::letterhead;
     if (options.as == "signature") return Role::signature;
     if (options.as == "boilerplate") return Role::boilerplate;
@@ -97,7 +97,7 @@ std::optional<Role> told_role(const Options& options) {
 
 class Lint {
 public:
-    Lint(const Options& options, Context& context) : options_(options), context_(context) {
+    Lint(const LintOptions& options, Context& context) : options_(options), context_(context) {
         for (Text& path : files_of(options.paths, context.files))
             if (has_ending(path, {u".reg"}))
                 settings_ = path;
@@ -163,7 +163,7 @@ private:
                      << hints_ << " hints\n";
     }
 
-    const Options& options_;
+    const LintOptions& options_;
     Context& context_;
     Text settings_;
     std::vector<Text> pages_;
@@ -177,7 +177,7 @@ private:
 } // namespace
 
 void add_lint(CLI::App& program, Task& task) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<LintOptions>();
     CLI::App* command =
         program.add_subcommand("lint", "Checks templates, signatures, boilerplates and settings");
     command->add_option("paths", options->paths, "Files and folders")->type_name("PATH");
@@ -187,7 +187,7 @@ void add_lint(CLI::App& program, Task& task) {
         ->check(CLI::IsMember({"template", "signature", "boilerplate"}));
     command->add_flag("--rules", options->rules, "Lists the rules, each with an example");
     command->add_flag("--json", options->json, "Prints an array of JSON");
-    command->footer(example);
+    command->footer(lint_example);
     command->callback([options, &task] {
         task = [options](Context& context) {
             return options->rules ? list_rules(*options, context.out) : Lint(*options, context).run();

@@ -83,7 +83,7 @@ std::string string_row(const std::string& id, TextView text) {
     return "      <string id=\"" + id + "\">" + xml(text) + "</string>\n";
 }
 
-std::string strings(const std::vector<Policy>& policies) {
+std::string string_elements(const std::vector<Policy>& policies) {
     std::string lines = string_row("Ornavel", u"Ornavel") + string_row("Any", u"Any version"), last;
     for (const Policy& policy : policies) {
         const std::string group = group_id(policy.setting.group);
@@ -129,7 +129,7 @@ std::string adml_file(const std::vector<Policy>& policies) {
         std::string(opening) + "<policyDefinitionResources" + schema +
         "  <displayName>Ornavel</displayName>\n  <description>The settings of Ornavel</description>\n"
         "  <resources>\n" +
-        strings(policies) + "    <presentationTable>\n";
+        string_elements(policies) + "    <presentationTable>\n";
     for (const Policy& policy : policies)
         if (policy.setting.key.kind != SettingKind::switch_) lines += presentation(policy);
     return lines + "    </presentationTable>\n  </resources>\n</policyDefinitionResources>\n";

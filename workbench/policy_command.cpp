@@ -6,7 +6,7 @@
 namespace ornavel::workbench {
 namespace {
 
-constexpr const char* example =
+constexpr const char* policy_example =
     "Writes Ornavel.adm for Windows 2000 to 2003, and Ornavel.admx with en-US\\Ornavel.adml for later ones. "
     "Both write\n"
     "the values that Ornavel itself reads, for the user; what Ornavel remembers for itself is left out.\n\n"
@@ -19,7 +19,7 @@ void add_policy(CLI::App& program, Task& task) {
     const auto out = std::make_shared<std::string>();
     CLI::App* command = program.add_subcommand("policy", "Writes policy templates of the settings");
     command->add_option("-o", *out, "The folder for the files")->required()->type_name("FOLDER");
-    command->footer(example);
+    command->footer(policy_example);
     command->callback([out, &task] {
         task = [out](Context& context) {
             const Text folder = from_utf8(*out);

@@ -13,7 +13,7 @@ namespace {
 
 using namespace settings;
 
-constexpr const char* example =
+constexpr const char* presets_example =
     "Columns of a table or attributes of a directory become settings: displayName, title, mail, "
     "telephoneNumber,\n"
     "facsimileTelephoneNumber, mobile, o, ou, street, postalCode with l, wWWHomePage, and any key of the "
@@ -24,7 +24,7 @@ constexpr const char* example =
     "Example:\n"
     "  ornavel presets people.csv --base samples/marlow-hale.reg -o presets";
 
-struct Options {
+struct PresetsOptions {
     std::string people, base, map, out, name = "mail";
     bool escape = false, json = false;
 };
@@ -88,7 +88,7 @@ struct NameOrder {
 
 class Presets {
 public:
-    Presets(const Options& options, Context& context)
+    Presets(const PresetsOptions& options, Context& context)
         : options_(options), context_(context), folder_(from_utf8(options.out)),
           base_(read_registry_file(context.files, from_utf8(options.base)).keys) {
         if (!options.map.empty()) own_ = mappings_in(context.files, options.map);
@@ -210,7 +210,7 @@ private:
         context_.out << report.dump(2) << '\n';
     }
 
-    const Options& options_;
+    const PresetsOptions& options_;
     Context& context_;
     Text folder_;
     std::vector<RegKey> base_;
@@ -224,7 +224,7 @@ private:
 } // namespace
 
 void add_presets(CLI::App& program, Task& task) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<PresetsOptions>();
     CLI::App* command = program.add_subcommand("presets", "Writes a registry file for each person of a list");
     command->add_option("people", options->people, "The list")->required()->type_name("PEOPLE.csv|.ldif");
     command->add_option("--base", options->base, "What all have in common")
@@ -237,7 +237,7 @@ void add_presets(CLI::App& program, Task& task) {
     command->add_flag("--escape", options->escape,
                       "Writes \"&\", \"<\" and \">\" in values as entities of HTML");
     command->add_flag("--json", options->json, "Prints the report as JSON");
-    command->footer(example);
+    command->footer(presets_example);
     command->callback([options, &task] {
         task = [options](Context& context) { return Presets(*options, context).run(); };
     });

@@ -122,12 +122,12 @@ void print_fields(std::ostream& stream, const std::string& format) {
     stream << list.dump(2) << '\n';
 }
 
-struct Options {
+struct SettingsOptions {
     std::string format = "text", out;
     bool fields = false, json = false;
 };
 
-Exit print(const Options& options, Context& context) {
+Exit print(const SettingsOptions& options, Context& context) {
     const std::string format = options.json ? "json" : options.format;
     std::ostringstream page;
     if (options.fields)
@@ -143,7 +143,7 @@ Exit print(const Options& options, Context& context) {
 } // namespace
 
 void add_settings(CLI::App& program, Task& task) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<SettingsOptions>();
     CLI::App* command = program.add_subcommand("settings", "Prints what every setting means, or every field");
     command->add_option("--format", options->format, "How")
         ->check(CLI::IsMember({"text", "markdown", "json"}));

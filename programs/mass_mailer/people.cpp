@@ -68,7 +68,7 @@ Table read_pasted(TextView text) {
     const std::vector<Text> lines = lines_of(text);
     const auto first = std::ranges::find_if(lines, [](const Text& line) { return !trim(line).empty(); });
     if (first != lines.end() && contains(*first, u"@")) return read_addresses(lines);
-    return read_table("\xEF\xBB\xBF" + to_utf8(text), windows_1252());
+    return read_table(std::string(utf8_mark) + to_utf8(text), windows_1252());
 }
 
 std::size_t likely_address_column(const Table& table) {

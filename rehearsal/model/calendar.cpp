@@ -61,7 +61,7 @@ constexpr MemberRow appointment_members[] = {
     method(u"Start", [](const Call& call) -> Value { return date_of(call.as<AppointmentNode>().start); }),
 };
 
-constexpr MemberRow folder_members[] = {
+constexpr MemberRow calendar_members[] = {
     method(u"Name", [](const Call&) -> Value { return Text(u"Calendar"); }),
     method(u"Items",
            [](const Call& call) -> Value {
@@ -80,7 +80,7 @@ const Class& CalendarItemsNode::what() const {
     return table;
 }
 const Class& CalendarFolderNode::what() const {
-    static constexpr Class table{u"Folder", folder_members};
+    static constexpr Class table{u"Folder", calendar_members};
     return table;
 }
 

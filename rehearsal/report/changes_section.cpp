@@ -17,7 +17,7 @@ const Json& part_of(const Story& story, const char* name) {
     return part == story.outcome.end() || part->empty() ? nothing : *part;
 }
 
-std::string words_of(const Json& value) {
+std::string value_words(const Json& value) {
     return value.is_string() ? value.get<std::string>() : value.dump();
 }
 
@@ -25,7 +25,7 @@ std::string value_before(const Story& story, const std::string& key, const std::
     for (const auto& [known_key, values] : story.scenario.registry)
         for (const auto& [known, value] : values)
             if (same_name(known_key, from_utf8(key)) && same_name(known, from_utf8(name)))
-                return words_of(registry_outcome(value));
+                return value_words(registry_outcome(value));
     return "not there";
 }
 
@@ -36,7 +36,7 @@ std::string registry_rows(const Story& story) {
             rows += element("tr", "",
                             text_element("td", "what", key + "\\" + name) +
                                 text_element("td", "value", value_before(story, key, name)) +
-                                text_element("td", "", value.is_null() ? "removed" : words_of(value)));
+                                text_element("td", "", value.is_null() ? "removed" : value_words(value)));
     return rows;
 }
 
@@ -116,7 +116,7 @@ std::string files_given(const Story& story) {
 std::string recipients_of(const Json& mail) {
     std::string names;
     for (const auto& recipient : mail.value("Recipients", Json::array()))
-        names += (names.empty() ? "" : ", ") + words_of(recipient);
+        names += (names.empty() ? "" : ", ") + value_words(recipient);
     return names;
 }
 

@@ -42,7 +42,7 @@ class DispatchServer;
 
 /// The objects that the add-in holds now: asked for again, an object is the same one, as COM's identity wants
 /// it.
-std::vector<DispatchServer*> served;
+std::vector<DispatchServer*> servers;
 
 class DispatchServer final : public win32::Counted<IDispatch>,
                              public IConnectionPointContainer,
@@ -50,9 +50,9 @@ class DispatchServer final : public win32::Counted<IDispatch>,
 public:
     DispatchServer(host::ObjectPtr object, std::shared_ptr<Subscriptions> subscriptions)
         : object_(std::move(object)), subscriptions_(std::move(subscriptions)) {
-        served.push_back(this);
+        servers.push_back(this);
     }
-    ~DispatchServer() override { std::erase(served, this); }
+    ~DispatchServer() override { std::erase(servers, this); }
 
     host::ObjectPtr object() const override { return object_; }
     bool serves(const host::Object& object) const { return object_->is_same(object); }
@@ -135,8 +135,8 @@ DWORD Subscriptions::add(host::Subscription subscription) {
 
 win32::ComPtr<IDispatch> serve(host::ObjectPtr object, std::shared_ptr<Subscriptions> subscriptions) {
     if (!object) return {};
-    const auto known = std::ranges::find_if(served, [&](const auto* each) { return each->serves(*object); });
-    if (known != served.end()) return win32::ComPtr<IDispatch>(*known);
+    const auto known = std::ranges::find_if(servers, [&](const auto* each) { return each->serves(*object); });
+    if (known != servers.end()) return win32::ComPtr<IDispatch>(*known);
     return win32::ComPtr<IDispatch>::adopt(new DispatchServer(std::move(object), std::move(subscriptions)));
 }
 

@@ -10,8 +10,8 @@
 namespace ornavel::rehearsal {
 namespace {
 
-constexpr TextView served[] = {u"Redemption.SafeMailItem", u"ADODB.Connection", u"winmgmts",
-                               u"Scripting.FileSystemObject", u"InternetExplorer.Application"};
+constexpr TextView served_prog_ids[] = {u"Redemption.SafeMailItem", u"ADODB.Connection", u"winmgmts",
+                                        u"Scripting.FileSystemObject", u"InternetExplorer.Application"};
 
 /// Makes one class of the stand-in mail client; "winmgmts" is asked by moniker instead.
 class Factory final : public win32::Counted<IClassFactory>, public IParseDisplayName {
@@ -68,7 +68,7 @@ Text to_text(const GUID& id) {
 } // namespace
 
 ServedClasses::ServedClasses(MailClient& client, const std::shared_ptr<Subscriptions>& subscriptions) {
-    for (const TextView prog_id : served) {
+    for (const TextView prog_id : served_prog_ids) {
         if (is_left_to_the_machine(prog_id)) continue;
         CLSID id{};
         CoCreateGuid(&id);

@@ -9,6 +9,7 @@
 #include "tests/fakes/recording_object.h"
 #include "tests/fakes/recording_reports.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/overlap.h"
 
 #include <gtest/gtest.h>
 
@@ -76,11 +77,6 @@ protected:
     bool answer = true, vcard_chosen = false;
     std::vector<Text> boxes;
 };
-
-bool overlap(const Bounds& one, const Bounds& other) {
-    return one.left < other.left + other.width && other.left < one.left + one.width &&
-           one.top < other.top + other.height && other.top < one.top + one.height;
-}
 
 // What it looks like.
 

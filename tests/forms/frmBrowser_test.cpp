@@ -6,6 +6,7 @@
 #include "tests/fakes/recording_object.h"
 #include "tests/fakes/recording_reports.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/overlap.h"
 
 #include <gtest/gtest.h>
 
@@ -15,14 +16,6 @@ namespace ornavel::forms {
 namespace {
 
 using namespace settings;
-
-bool overlap(const Bounds& one, const Bounds& other) {
-    const auto apart = [](int begin, int size, int other_begin, int other_size) {
-        return begin + size <= other_begin || other_begin + other_size <= begin;
-    };
-    return !apart(one.left, one.width, other.left, other.width) &&
-           !apart(one.top, one.height, other.top, other.height);
-}
 
 bool is_hidden_list(TextView name) {
     return name == u"cboListTemplates" || name == u"cboPrevSigs" || name == u"cboListBplates" ||

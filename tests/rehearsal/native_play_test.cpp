@@ -19,10 +19,10 @@ TEST(Apart, AProcessThatCrashesLeavesAnErrorInAWholeOutcome) {
     const int code = run_apart([]() -> int { return std::raise(SIGKILL); });
     Scenario scenario;
     scenario.name = u"crash";
-    const Json outcome = collect_outcome(code, scratch / "none.json", scenario, "crash.json");
-    EXPECT_EQ(outcome["error"], "the add-in crashed (signal 9)");
-    EXPECT_EQ(outcome["name"], "crash");
-    EXPECT_EQ(outcome["references"]["held"], 0);
+    const Json collected = collect_outcome(code, scratch / "none.json", scenario, "crash.json");
+    EXPECT_EQ(collected["error"], "the add-in crashed (signal 9)");
+    EXPECT_EQ(collected["name"], "crash");
+    EXPECT_EQ(collected["references"]["held"], 0);
 }
 
 TEST(Apart, TheReasonOfAnUnusableScenarioComesBack) {

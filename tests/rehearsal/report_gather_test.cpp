@@ -20,14 +20,14 @@ Json scenario_in_mode(const char* mode) {
         {"do", {"connect", "start", {{"send", 0}}, "shutdown", {{"disconnect", 0}}}}};
 }
 
-Story played(const Json& scenario, const std::optional<Json>& dll_outcome = {}) {
+Story gathered(const Json& scenario, const std::optional<Json>& dll_outcome = {}) {
     return gather(read_scenario(scenario, "test", Binding::native), "test", dll_outcome);
 }
 
 } // namespace
 
 TEST(ReportGather, ADressedMessagePassesEveryGateToTheLast) {
-    const Story story = played(scenario_in_mode("auto"));
+    const Story story = gathered(scenario_in_mode("auto"));
     ASSERT_EQ(story.sends.size(), 1u);
     EXPECT_EQ(end_of_the_way(story.sends[0]), "all gates passed");
     EXPECT_EQ(fate_of(story, story.sends[0]), Fate::dressed);
@@ -37,18 +37,18 @@ TEST(ReportGather, ADressedMessagePassesEveryGateToTheLast) {
 }
 
 TEST(ReportGather, ASendThatLeavesTellsItsGateAndReason) {
-    const Story story = played(scenario_in_mode("off"));
+    const Story story = gathered(scenario_in_mode("off"));
     EXPECT_EQ(left_at(story.sends.at(0)), "entry mode");
     EXPECT_EQ(fate_of(story, story.sends[0]), Fate::untouched);
 }
 
 TEST(ReportGather, TheOutcomeOfTheDllIsToldAndCompared) {
     const Json scenario = scenario_in_mode("auto");
-    Json outcome = played(scenario).outcome;
-    EXPECT_TRUE(played(scenario, outcome).differences.empty());
+    Json outcome = gathered(scenario).outcome;
+    EXPECT_TRUE(gathered(scenario, outcome).differences.empty());
 
     outcome["items"][0]["Subject"] = "another";
-    const Story story = played(scenario, outcome);
+    const Story story = gathered(scenario, outcome);
     EXPECT_TRUE(story.with_dll);
     EXPECT_EQ(story.differences,
               std::vector<std::string>{"items[0].Subject: native \"\", real DLL \"another\""});
@@ -56,7 +56,7 @@ TEST(ReportGather, TheOutcomeOfTheDllIsToldAndCompared) {
 }
 
 TEST(ReportGather, ADllThatCrashedIsADifferenceAndTheNativePlayIsShown) {
-    const Story story = played(scenario_in_mode("auto"), Json{{"error", "the add-in crashed"}});
+    const Story story = gathered(scenario_in_mode("auto"), Json{{"error", "the add-in crashed"}});
     EXPECT_FALSE(story.with_dll);
     EXPECT_FALSE(story.differences.empty());
     EXPECT_EQ(fate_of(story, story.sends.at(0)), Fate::dressed);

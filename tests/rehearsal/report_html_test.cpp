@@ -1,17 +1,12 @@
 #include "rehearsal/report/frame.h"
 #include "rehearsal/report/html.h"
+#include "tests/rehearsal/holds.h"
 
 #include <gtest/gtest.h>
 
 using namespace ornavel;
 using namespace ornavel::rehearsal;
 using namespace ornavel::rehearsal::report;
-
-namespace {
-
-bool holds(const std::string& text, std::string_view part) { return text.find(part) != std::string::npos; }
-
-} // namespace
 
 TEST(ReportHtml, EscapesEveryCharacterThatCouldEndATextOrAQuote) {
     EXPECT_EQ(escape("<a href=\"x\" id='y'>R&D</a>"),

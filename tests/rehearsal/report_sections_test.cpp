@@ -1,5 +1,6 @@
 #include "rehearsal/report/page.h"
 #include "rehearsal/report/png.h"
+#include "tests/rehearsal/holds.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +9,6 @@ using namespace ornavel::rehearsal;
 using namespace ornavel::rehearsal::report;
 
 namespace {
-
-bool holds(const std::string& text, std::string_view part) { return text.find(part) != std::string::npos; }
 
 Json form_with(const Json& controls) {
     return {{"windows", {{{"form", "frmCake"}, {"caption", "Cakes"}, {"controls", controls}}}}};

@@ -19,7 +19,7 @@ Json expanded(const std::string& world, const std::string& one_case) {
     return expand(R"({"world": )" + world + R"(, "cases": [)" + one_case + "]}").at(0).json;
 }
 
-std::string refusal(const std::string& json) {
+std::string refusal_of_suite(const std::string& json) {
     try {
         for (const auto& whole : expand(json)) read_scenario(whole.json, whole.source, Binding::native);
     } catch (const Unusable& error) {
@@ -116,18 +116,18 @@ TEST(Suite, ACaseWithoutANameIsCalledByWhatTheSuiteIsAboutAndItsNumber) {
     EXPECT_EQ(expand(R"({"cases": [{}]})")[0].json["name"], "1");
 }
 
-struct Bad {
+struct RefusedSuite {
     const char* suite;
     const char* refused;
 };
 
-class BadSuite : public testing::TestWithParam<Bad> {};
+class BadSuite : public testing::TestWithParam<RefusedSuite> {};
 
 TEST_P(BadSuite, IsRefusedInOneLineThatNamesTheCaseAndTheMember) {
-    EXPECT_EQ(refusal(GetParam().suite), GetParam().refused);
+    EXPECT_EQ(refusal_of_suite(GetParam().suite), GetParam().refused);
 }
 
-constexpr Bad bad_suites[] = {
+constexpr RefusedSuite bad_suites[] = {
     {R"({"about": "a", "world": {}})", "gates.json: cases: missing"},
     {R"({"about": 1, "cases": []})", "gates.json: about: expected a text"},
     {R"({"cases": {}})", "gates.json: cases: expected an array"},

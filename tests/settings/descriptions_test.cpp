@@ -144,7 +144,7 @@ TEST(Descriptions, ASettingThatNothingReadsSaysThatItHasNoEffect) {
 }
 
 // What the add-in saves, written down a second time.
-const std::set<Text> written = {
+const std::set<Text> saved_by_the_add_in = {
     u"AutoPreview",
     u"Current Signature",
     u"ErrorFileLocation",
@@ -213,7 +213,7 @@ TEST(Descriptions, WritersStandWhereTheAddInSavesAValue) {
     std::set<Text> saved;
     for (const Description& description : descriptions())
         if (!description.writers.empty()) saved.insert(Text(description.key.name));
-    EXPECT_EQ(saved, written);
+    EXPECT_EQ(saved, saved_by_the_add_in);
 }
 
 TEST(Descriptions, WhatTheAddInRemembersIsWrittenByIt) {

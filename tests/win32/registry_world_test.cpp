@@ -9,7 +9,7 @@
 namespace ornavel::rehearsal {
 namespace {
 
-constexpr TextView folder = u"HKEY_CLASSES_ROOT\\OrnavelRehearsed";
+constexpr TextView rehearsed = u"HKEY_CLASSES_ROOT\\OrnavelRehearsed";
 constexpr TextView component = u"HKEY_CLASSES_ROOT\\OrnavelRehearsed\\Installer\\79AE92CC";
 
 Snapshot snapshot_of(const RegistryWorld& world) {
@@ -43,17 +43,17 @@ TEST(RegistryWorld, LeavesNothingOfARehearsalBehindInAnyRoot) {
 TEST(RegistryWorld, PutsBackWhatARehearsalChangedOrRemoved) {
     RegistryWorld outer;
     outer.set(component, u"name", Text(u"before"));
-    outer.set(folder, u"name", Text(u"before"));
+    outer.set(rehearsed, u"name", Text(u"before"));
     {
         RegistryWorld world;
-        world.set(folder, u"name", Text(u"after"));
-        world.set(folder, u"other", Text(u"after"));
+        world.set(rehearsed, u"name", Text(u"after"));
+        world.set(rehearsed, u"other", Text(u"after"));
         ASSERT_TRUE(world.remove_key(component));
         EXPECT_FALSE(snapshot_of(world).registry.contains(component));
     }
     EXPECT_EQ(outer.find(component, u"name"), RegistryValue(Text(u"before")));
-    EXPECT_EQ(outer.find(folder, u"name"), RegistryValue(Text(u"before")));
-    EXPECT_FALSE(outer.find(folder, u"other"));
+    EXPECT_EQ(outer.find(rehearsed, u"name"), RegistryValue(Text(u"before")));
+    EXPECT_FALSE(outer.find(rehearsed, u"other"));
 }
 
 TEST(RegistryWorld, AKeyWithoutARootIsNone) {
