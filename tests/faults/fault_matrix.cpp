@@ -1,9 +1,10 @@
-// fault_matrix [--samples N FILE] SCENARIO.json...: replays each scenario once for each use that the add-in
-// makes of the mail client, the files, the settings, other programs and windows, and for each kind of fault,
-// with that use going wrong. Prints what came of it; exit code 1 when anything did. With --samples it leaves
-// N of the replays in a file instead, as scenarios for every binding: those in which a member of the mail
-// client fails. Memory that the add-in asks for is refused in the same way: each piece in ten scenarios,
-// fifty spread ones in each other.
+// fault_matrix [--every N] [--samples N FILE] SCENARIO.json...: replays each scenario once for each use that
+// the add-in makes of the mail client, the files, the settings, other programs and windows, and for each kind
+// of fault, with that use going wrong. Prints what came of it; exit code 1 when anything did. With --samples
+// it leaves N of the replays in a file instead, as scenarios for every binding: those in which a member of
+// the mail client fails. Memory that the add-in asks for is refused in the same way: each piece in ten
+// scenarios, fifty spread ones in each other. With --every only each Nth replay is played, other ones in each
+// scenario.
 #include "rehearsal/native/apart.h"
 #include "rehearsal/native/loaded.h"
 #include "rehearsal/native/native_play.h"
@@ -29,6 +30,13 @@ constexpr Fault kinds[] = {Fault::failure, Fault::described_failure, Fault::disc
                            Fault::empty_value};
 constexpr const char* kind_names[] = {"failure", "described failure", "disconnected", "wrong type",
                                       "empty value"};
+
+/// Of step replays of a scenario one is played: the one behind those that are left out.
+struct Share {
+    std::size_t step, left_out;
+
+    bool takes(std::size_t replay) const { return replay % step == left_out; }
+};
 
 struct Count {
     const char* name;
@@ -127,23 +135,26 @@ std::size_t allocations_of(const Loaded& loaded) {
     return memory.asked();
 }
 
-void replay_without_memory(const Loaded& loaded, const Play& sound, bool whole, Tally& tally) {
+void replay_without_memory(const Loaded& loaded, const Play& sound, Share share, bool whole, Tally& tally) {
     constexpr std::size_t spread = 50;
     const std::size_t asked = allocations_of(loaded), tries = whole ? asked : std::min(spread, asked);
     for (std::size_t i = 0; i < tries; ++i) {
+        if (!share.takes(i)) continue;
         const std::size_t allocation = 1 + i * asked / tries;
         for (const auto lasts : {ScarceMemory::Lasts::once, ScarceMemory::Lasts::from_then_on})
             replay_without_memory(loaded, sound, allocation, lasts, tally);
     }
 }
 
-Tally replay_all(const Loaded& loaded, bool every_allocation) {
+Tally replay_all(const Loaded& loaded, Share share, bool every_allocation) {
     Failures failures(loaded.scenario.fail);
     const Play sound = play(loaded, failures);
     Tally tally;
+    std::size_t replays = 0;
     for (std::size_t use = 1; use <= failures.uses().size(); ++use)
-        for (const Fault fault : kinds) replay(loaded, sound, use, fault, tally);
-    replay_without_memory(loaded, sound, every_allocation, tally);
+        for (const Fault fault : kinds)
+            if (share.takes(replays++)) replay(loaded, sound, use, fault, tally);
+    replay_without_memory(loaded, sound, share, every_allocation, tally);
     return tally;
 }
 
@@ -170,7 +181,7 @@ std::size_t run_in_processes(std::size_t tasks, const std::function<void(std::si
     return bad;
 }
 
-Tally replay_everything(const std::vector<std::string>& files) {
+Tally replay_everything(const std::vector<std::string>& files, std::size_t step) {
     const auto all = load(files, Binding::native);
     constexpr std::size_t ten_wholly = 10;
     const ScratchFolder scratch;
@@ -178,7 +189,7 @@ Tally replay_everything(const std::vector<std::string>& files) {
     Tally sum;
     sum.escaped = run_in_processes(all.size(), [&](std::size_t i) {
         const bool every_allocation = i * ten_wholly / all.size() != (i + 1) * ten_wholly / all.size();
-        const Tally tally = replay_all(all[i], every_allocation);
+        const Tally tally = replay_all(all[i], {step, i % step}, every_allocation);
         std::ofstream(result(i), std::ios::binary).write(reinterpret_cast<const char*>(&tally), sizeof tally);
     });
     for (std::size_t i = 0; i < all.size(); ++i) {
@@ -252,10 +263,15 @@ int print(const Tally& tally) {
 
 int main(int count, char** arguments) {
     using namespace ornavel::faults;
-    const std::vector<std::string> words(arguments + 1, arguments + count);
+    std::vector<std::string> words(arguments + 1, arguments + count);
     if (words.size() > 3 && words[0] == "--samples") {
         leave_samples(std::stoul(words[1]), words[2], {words.begin() + 3, words.end()});
         return 0;
     }
-    return print(replay_everything(words));
+    std::size_t step = 1;
+    if (words.size() > 2 && words[0] == "--every") {
+        step = std::max(1ul, std::stoul(words[1]));
+        words.erase(words.begin(), words.begin() + 2);
+    }
+    return print(replay_everything(words, step));
 }
