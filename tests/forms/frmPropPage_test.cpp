@@ -50,6 +50,21 @@ private:
     std::unique_ptr<frmPropPage> page_;
 };
 
+TEST_F(OptionsPage, HasEachLabelInTheLineOfItsList) {
+    Form& form = page().form();
+    int above = 0;
+    for (const auto& [label, list] : {std::pair{u"lblMode", u"cboMode"},
+                                      {u"lblTemplates", u"cboTemplates"},
+                                      {u"lblSignatures", u"cboSignatures"}}) {
+        const Bounds beside = form[label].place, place = form[list].place;
+        EXPECT_GE(beside.top, place.top);
+        EXPECT_LE(beside.top + beside.height, place.top + place.height);
+        EXPECT_LE(beside.left + beside.width, place.left);
+        EXPECT_GE(place.top, above);
+        above = place.top + place.height;
+    }
+}
+
 TEST_F(OptionsPage, IsCleanUntilSomethingDiffersAndAgainWhenItNoLongerDoes) {
     EXPECT_FALSE(page().is_dirty());
     user().select(u"cboTemplates", 0);
