@@ -69,6 +69,7 @@ TEST(Encoding, ALoneSurrogateIsWrittenAsTheReplacementCharacter) {
     EXPECT_EQ(to_utf8(u"\xDC00z"), "\xEF\xBF\xBDz");
     EXPECT_EQ(to_utf8(u"\xD800\xE000"), "\xEF\xBF\xBD\xEE\x80\x80");
     EXPECT_EQ(to_utf8(u"\xDBFF\xDBFF"), "\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(to_utf8(u"\xDC00\xDC00"), "\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
 TEST(Encoding, HtmlIsAsciiAsItStandsOrUtf8WithAMark) {
