@@ -99,6 +99,18 @@ TEST_F(SendOptions, NothingOverlapsOrLeavesItsFrame) {
     });
 }
 
+TEST_F(SendOptions, ATickStandsInTheMiddleOfTheLineOfWhatItRules) {
+    set(user::vCard, u"Jo");
+    show([](Form& form, FormUser) {
+        for (const auto& [tick, ruled] : {std::pair{u"chkvCard", u"cbovCard"},
+                                          {u"chkUpdateCategories", u"txtCategories"},
+                                          {u"chkFollowUp", u"txtFollowUpFlag"}}) {
+            const Bounds one = form[tick].place, other = form[ruled].place;
+            EXPECT_EQ(2 * one.top + one.height, 2 * other.top + other.height) << to_utf8(tick);
+        }
+    });
+}
+
 TEST_F(SendOptions, EachHeightShowsItsPartWhole) {
     const auto bottom = [](Form& form, TextView name) {
         return form[name].place.top + form[name].place.height;
