@@ -30,6 +30,13 @@ std::string part_of_checkout(const char* name, const char* variable) {
     return path;
 }
 
+/// The Windows side, of 64 bits where the environment asks for such worlds of Wine.
+const char* built_player() {
+    const char* const bits = std::getenv("WINE_BITS");
+    const bool is_64_bit = bits && std::string_view(bits) == "64";
+    return is_64_bit ? "build/windows64/rehearsal/rehearse.exe" : "build/windows/rehearsal/rehearse.exe";
+}
+
 /// Replaces this process by the command. What it prints goes to the error stream.
 int become(const std::vector<std::string>& command) {
     std::vector<char*> arguments;
@@ -48,7 +55,7 @@ class Windows {
 public:
     explicit Windows(const std::vector<Loaded>& scenarios)
         : scenarios_(scenarios), runner_(part_of_checkout("tools/wine/run", "ORNAVEL_WINE_RUN")),
-          player_(part_of_checkout("build/windows/rehearsal/rehearse.exe", "ORNAVEL_WINE_REHEARSE")) {
+          player_(part_of_checkout(built_player(), "ORNAVEL_WINE_REHEARSE")) {
         for (std::size_t i = 0; i < scenarios.size(); ++i)
             std::ofstream(in(i), std::ios::binary)
                 << to_json_text(with_files_inside(scenarios[i].json, scenarios[i].scenario));

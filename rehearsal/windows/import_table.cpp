@@ -23,7 +23,7 @@ void redirect_in(BYTE* base, const IMAGE_IMPORT_DESCRIPTOR& library, const char*
     auto* slots = at<void*>(base, library.FirstThunk);
     for (; names->u1.AddressOfData; ++names, ++slots) {
         if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal)) continue;
-        const auto* import = at<IMAGE_IMPORT_BY_NAME>(base, names->u1.AddressOfData);
+        const auto* import = at<IMAGE_IMPORT_BY_NAME>(base, static_cast<DWORD>(names->u1.AddressOfData));
         if (std::strcmp(reinterpret_cast<const char*>(import->Name), function) == 0) replace(slots, by);
     }
 }

@@ -13,9 +13,9 @@ protected:
     void SetUp() override {
         CoFreeUnusedLibrariesEx(0, 0);
         ASSERT_FALSE(GetModuleHandleW(L"Ornavel.dll")) << "the add-in must find the runtime when it comes";
-        runtime_ = LoadLibraryW(L"" ORNAVEL_SHARED_RUNTIME);
-        ASSERT_TRUE(runtime_) << ORNAVEL_SHARED_RUNTIME;
-        ASSERT_TRUE(GetModuleHandleW(L"libgcc_s_dw2-1.dll")) << "the name that start-up code asks for";
+        runtime_ = LoadLibraryW(L"" ORNAVEL_SHARED_RUNTIME_PATH);
+        ASSERT_TRUE(runtime_) << ORNAVEL_SHARED_RUNTIME_PATH;
+        ASSERT_TRUE(GetModuleHandleW(L"" ORNAVEL_SHARED_RUNTIME)) << "the name that start-up code asks for";
     }
     void TearDown() override {
         if (runtime_) FreeLibrary(runtime_);

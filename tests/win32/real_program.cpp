@@ -6,10 +6,12 @@ namespace {
 constexpr int tries = 200;
 constexpr DWORD pause = 100; // milliseconds
 
-/// The programs lie beside the tests in the build folder.
+/// The programs lie beside the tests in the build folder; tests of 64 bits start the same ones, which are
+/// of 32.
 Text built(TextView file) {
     Text folder = path_of(nullptr);
     for (int up = 0; up < 2; ++up) folder.erase(folder.find_last_of(u'\\'));
+    if (sizeof(void*) == 8) folder += u"\\..\\windows";
     return folder + u"\\programs\\" + Text(file);
 }
 

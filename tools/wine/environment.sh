@@ -1,25 +1,33 @@
 # The hermetic worlds of Wine: everything below build/wine of this checkout. Sourced by the scripts beside it.
 #
+# WINE_BITS=64 means the worlds below build/wine64, where programs of 64 bits run, and those of 32 as well, as on a
+# Windows of 64 bits. Otherwise programs and worlds are 32-bit.
+#
 #   model          the prefix that "prepare" makes; no session runs in it
 #   session        the world that "start" opens and "stop" ends
 #   world-XXXXXX   the world of one call of "with"
 here=$(dirname -- "$(readlink -f -- "$0")")
 root=${here%/tools/wine}
-worlds=$root/build/wine
+case ${WINE_BITS:-32} in
+32) worlds=$root/build/wine preset=windows compiler=i686-w64-mingw32-g++-win32 wine=wine ;;
+# Debian's "wine" is the 32-bit one where that is installed, too.
+64) worlds=$root/build/wine64 preset=windows64 compiler=x86_64-w64-mingw32-g++-win32 wine=/usr/lib/wine/wine64 ;;
+*) echo "WINE_BITS is $WINE_BITS; it may be 32 or 64" >&2 && exit 1 ;;
+esac
 model=$worlds/model
-helpers=$root/build/windows/tools/wine
+helpers=$root/build/$preset/tools/wine
 
 fail() {
     echo "$(basename "$0"): $*" >&2
     exit 1
 }
 
-for program in wine wineserver Xvfb i686-w64-mingw32-g++-win32; do
+for program in "$wine" wineserver Xvfb "$compiler"; do
     command -v "$program" >/dev/null || fail "$program is missing: run tools/provision"
 done
 
 # WINE_TRACE: what Wine writes to the error stream, in the words of its WINEDEBUG; nothing unless set.
-export WINEARCH=win32 WINEDEBUG="${WINE_TRACE:--all}" LC_ALL=C.UTF-8
+export WINEARCH="win${WINE_BITS:-32}" WINEDEBUG="${WINE_TRACE:--all}" LC_ALL=C.UTF-8
 # No prompts for a missing .NET or HTML engine, and no entries in the user's menus.
 export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 unset DISPLAY WAYLAND_DISPLAY XAUTHORITY

@@ -1,0 +1,21 @@
+# What mingw-w64's compilers for both widths share; the file that includes this names the processor and its own flags.
+# The win32 thread model: the posix model imports functions that Windows 2000 lacks.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR ${mingw_processor})
+set(CMAKE_SYSTEM_VERSION 5.0)
+set(CMAKE_C_COMPILER ${mingw_processor}-w64-mingw32-gcc-win32)
+set(CMAKE_CXX_COMPILER ${mingw_processor}-w64-mingw32-g++-win32)
+set(CMAKE_RC_COMPILER ${mingw_processor}-w64-mingw32-windres)
+set(CMAKE_FIND_ROOT_PATH /usr/${mingw_processor}-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+set(windows_flags "-D_WIN32_WINNT=0x0501 -DWINVER=0x0501 -DUNICODE -D_UNICODE -ffunction-sections -fdata-sections${mingw_flags}")
+set(CMAKE_C_FLAGS_INIT "${windows_flags}")
+set(CMAKE_CXX_FLAGS_INIT "${windows_flags}")
+foreach(kind EXE SHARED MODULE)
+  set(CMAKE_${kind}_LINKER_FLAGS_INIT "-static -static-libgcc -static-libstdc++ -Wl,--gc-sections")
+endforeach()
+set(CMAKE_RC_FLAGS_INIT "--codepage=65001")
