@@ -10,19 +10,18 @@ TextView folder_of(TextView file) {
     return end == TextView::npos ? TextView() : file.substr(0, end);
 }
 
-/// Whether a folder is the user's own or lies in it. One that leads out of it again does not.
-bool is_in(TextView folder, TextView own) {
-    return !own.empty() && same_name(folder.substr(0, own.size()), own) &&
-           (folder.size() == own.size() || folder[own.size()] == u'\\') && !contains(folder, u"..");
-}
-
 void make(Session& session, TextView folder) {
     Files& files = session.platform.files;
-    if (is_in(folder, session.platform.user_folder) && !files.folder_exists(folder))
+    if (is_in_user_folder(folder, session.platform.user_folder) && !files.folder_exists(folder))
         files.create_folder(folder);
 }
 
 } // namespace
+
+bool is_in_user_folder(TextView folder, TextView own) {
+    return !own.empty() && same_name(folder.substr(0, own.size()), own) &&
+           (folder.size() == own.size() || folder[own.size()] == u'\\') && !contains(folder, u"..");
+}
 
 void make_user_folders(Session& session) noexcept {
     const Store& settings = session.platform.settings;

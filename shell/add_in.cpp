@@ -39,12 +39,6 @@ Text addin_folder() {
     return path.substr(0, path.find_last_of(u'\\'));
 }
 
-/// Empty where the environment tells no place for data of the user's programs.
-Text user_folder() {
-    Text folder = win32::expanded(u"%APPDATA%\\Brevant\\Ornavel");
-    return folder.starts_with(u'%') ? Text() : folder;
-}
-
 /// Runs a handler on behalf of the mail client: nothing gets out, and the object stays until it has ended.
 template <class Body>
 HRESULT at_boundary(IUnknown* object, Body body) noexcept {
@@ -72,7 +66,7 @@ connect::Platform Machine::platform(IUnknown* owner) {
             .strings = strings_,
             .machine = information_,
             .addin_folder = addin_folder(),
-            .user_folder = user_folder(),
+            .user_folder = win32::user_folder(),
             .keep = keep,
             .tray = &tray_};
 }

@@ -13,4 +13,9 @@ Text expanded(TextView text) {
     return text_of(target.c_str());
 }
 
+Text user_folder() {
+    Text folder = expanded(u"%APPDATA%\\Brevant\\Ornavel");
+    return folder.starts_with(u'%') ? Text() : folder;
+}
+
 } // namespace ornavel::win32

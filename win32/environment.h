@@ -8,4 +8,8 @@ namespace ornavel::win32 {
 /// that is not known stays. Throws Failure.
 Text expanded(TextView text);
 
+/// The folder of the user's own where the add-in and its programs keep what belongs to nobody else. Empty
+/// where the environment does not tell it.
+Text user_folder();
+
 } // namespace ornavel::win32

@@ -31,9 +31,9 @@ Text folder_of_program() {
 }
 
 /// Empty where the environment does not tell it.
-Text folder_from(TextView variable, TextView below) {
-    const Text folder = win32::expanded(variable);
-    return folder.starts_with(u'%') ? Text() : folder + Text(below);
+Text scratch_folder() {
+    Text folder = win32::expanded(u"%TEMP%");
+    return folder.starts_with(u'%') ? Text() : folder;
 }
 
 /// The main window of a program that runs already, or the box that stands in front of it.
@@ -74,8 +74,8 @@ int run_here(const Program& program) {
                          .windows = windows,
                          .machine = machine,
                          .folder = folder_of_program(),
-                         .user_folder = folder_from(u"%APPDATA%", u"\\Brevant\\Ornavel"),
-                         .scratch_folder = folder_from(u"%TEMP%", {}),
+                         .user_folder = win32::user_folder(),
+                         .scratch_folder = scratch_folder(),
                          .arguments = arguments(),
                          .waiting = &waiting});
 }

@@ -7,8 +7,9 @@ namespace {
 
 class Key {
 public:
-    Key(HKEY root, TextView path) {
-        if (RegOpenKeyExW(root, win32::wide(path).c_str(), 0, KEY_READ, &key_) != ERROR_SUCCESS)
+    Key(HKEY root, TextView path, Bits programs) {
+        const REGSAM view = programs == Bits::x64 ? KEY_WOW64_64KEY : KEY_WOW64_32KEY;
+        if (RegOpenKeyExW(root, win32::wide(path).c_str(), 0, KEY_READ | view, &key_) != ERROR_SUCCESS)
             key_ = nullptr;
     }
     ~Key() {
@@ -60,28 +61,28 @@ Text text_of_bytes(const std::string& bytes) {
 
 } // namespace
 
-std::optional<Text> text_in(HKEY root, TextView key, TextView name) {
-    const auto data = Key(root, key).value(name);
+std::optional<Text> text_in(HKEY root, TextView key, TextView name, Bits programs) {
+    const auto data = Key(root, key, programs).value(name);
     if (!data || (data->type != REG_SZ && data->type != REG_EXPAND_SZ)) return {};
     const Text text = text_of_bytes(data->bytes);
     return text.substr(0, text.find(u'\0'));
 }
 
-std::optional<DWORD> number_in(HKEY root, TextView key, TextView name) {
-    const auto data = Key(root, key).value(name);
+std::optional<DWORD> number_in(HKEY root, TextView key, TextView name, Bits programs) {
+    const auto data = Key(root, key, programs).value(name);
     if (!data || data->type != REG_DWORD || data->bytes.size() != sizeof(DWORD)) return {};
     DWORD number = 0;
     memcpy(&number, data->bytes.data(), sizeof number);
     return number;
 }
 
-std::vector<Text> values_in(HKEY root, TextView path) {
-    const Key key(root, path);
-    std::vector<Text> all;
+std::vector<Entry> entries_in(HKEY root, TextView path) {
+    const Key key(root, path, Bits::x86);
+    std::vector<Entry> all;
     for (DWORD index = 0;; ++index) {
         const auto name = key.name(index);
         if (!name) return all;
-        if (const auto data = key.value(*name)) all.push_back(text_of_bytes(data->bytes));
+        if (const auto data = key.value(*name)) all.push_back({*name, text_of_bytes(data->bytes)});
     }
 }
 
