@@ -8,16 +8,15 @@ import shutil
 import struct
 import subprocess
 import sys
-import uuid
 from xml.sax.saxutils import quoteattr
+
+from package_bits import PLATFORMS, code, family, names, rows_of_bits
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PACKAGING = ROOT / "packaging"
 ACTIONS = ROOT / "build/windows/packaging/package_actions.dll"
-FAMILY = uuid.UUID("E0B5E4E7-7C5D-4E12-9C34-0B7A5F6C1D27")
 KEPT = ("templates", "signatures", "pictures")
 SUMMARY, TIME = "\x05SummaryInformation", 64
-NEVER_OVERWRITTEN = 128
 NAMES = {
     "class": r"Software\Classes\CLSID\{01F2687D-003D-4805-8744-2B3921019DBC}",
     "page": r"Software\Classes\CLSID\{7B4C9A52-6E1D-4F0B-9D37-5A28C1E6F493}",
@@ -28,11 +27,6 @@ NAMES = {
 
 def fail(words):
     sys.exit(f"package: {words}")
-
-
-def code(name):
-    """A code of the form that Windows Installer wants, the same for the same name."""
-    return str(uuid.uuid5(FAMILY, name)).upper()
 
 
 def run(*command, **options):
@@ -47,20 +41,20 @@ def key(file):
     return re.sub(r"[^\w.]", "_", file.name)
 
 
-def component(file):
+def component(file, bits):
     shortcut = ""
     if file.entry:
         shortcut = (f'<Shortcut Id="entry_{key(file)}" Directory="menu" Name={quoteattr(file.entry)} '
                     f'Target="[{file.folder}]{file.name}" WorkingDirectory="{file.folder}"/>')
-    return (f'<Component Id="{key(file)}" Guid="{code(f"{file.folder}/{file.name}")}"><File Id="{key(file)}" '
+    return (f'<Component Id="{key(file)}" Guid="{code(f"{file.folder}/{file.name}", bits)}"><File Id="{key(file)}" '
             f'Name="{file.name}" Source="{file.folder}/{file.name}" KeyPath="yes"/>{shortcut}</Component>')
 
 
-def fragment(files):
+def fragment(files, bits):
     """What wixl is told about the files."""
     folders = dict.fromkeys(file.folder for file in files)
     parts = [f'<DirectoryRef Id="{folder}">'
-             + "".join(component(file) for file in files if file.folder == folder) + "</DirectoryRef>"
+             + "".join(component(file, bits) for file in files if file.folder == folder) + "</DirectoryRef>"
              for folder in folders]
     group = "".join(f'<ComponentRef Id="{key(file)}"/>' for file in files)
     return ('<?xml version="1.0" encoding="utf-8"?>\n<Wix xmlns="http://schemas.microsoft.com/wix/2006/wi"><Fragment>'
@@ -84,8 +78,7 @@ def rows(file):
         yield f"UPDATE `File` SET `Version` = '{version_of(file)}', `Language` = '1033' WHERE `File` = '{key(file)}'"
         yield f"DELETE FROM `MsiFileHash` WHERE `File_` = '{key(file)}'"
     if file.folder in KEPT:
-        yield (f"UPDATE `Component` SET `ComponentId` = '', `Attributes` = {NEVER_OVERWRITTEN} "
-               f"WHERE `Component` = '{key(file)}'")
+        yield f"UPDATE `Component` SET `ComponentId` = '' WHERE `Component` = '{key(file)}'"
         yield ("INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `FileName`, `DirProperty`, `InstallMode`) "
                f"VALUES ('{key(file)}', 'registration', '{file.name}', 'unchanged_{key(file)}', 2)")
 
@@ -107,9 +100,9 @@ def package_code(package, scratch):
     return code(digest.hexdigest())
 
 
-def gather(files, moment, scratch):
+def gather(files, moment, scratch, bits):
     """All that wixl reads, in one folder: it takes no full paths."""
-    (scratch / "files.wxs").write_text(fragment(files), "utf-8")
+    (scratch / "files.wxs").write_text(fragment(files, bits), "utf-8")
     places = [(file.source, f"{file.folder}/{file.name}") for file in files]
     places += [(file, file.name) for file in (PACKAGING / "ornavel.wxs", PACKAGING / "ornavel.ico", ACTIONS)]
     for source, name in places:
@@ -136,18 +129,19 @@ def check(package, files, scratch):
         fail(f"{package.name} lacks something; it holds {', '.join(sorted(held))}")
 
 
-def make_package(files, version, moment, scratch, package):
+def make_package(files, version, moment, scratch, package, bits):
     """Writes the package and gives back its package code. A file has a source, a name, a folder and the words of its entry
-    in the start menu; the moment is that of everything inside."""
-    gather(files, moment, scratch)
-    words = {"version": version, "product": code(version), "family": str(FAMILY).upper(), **NAMES}
+    in the start menu; the moment is that of everything inside, the bits those of the mail client."""
+    gather(files, moment, scratch, bits)
+    words = {"version": version, "product": code(version, bits), "family": family(bits), **NAMES, **names(bits)}
     defined = [part for name, value in words.items() for part in ("-D", f"{name}={value}")]
     run("wixl", *defined, "-o", package, "ornavel.wxs", "files.wxs", cwd=scratch, env={**os.environ, "TZ": "UTC"})
     fixed = (PACKAGING / "rows.sql").read_text("utf-8").splitlines()
-    run("msibuild", package, *(part for row in [*fixed, *(row for file in files for row in rows(file))]
-                               for part in ("-q", row)))
+    kept = {key(file): file.folder in KEPT for file in files}
+    more = [*(row for file in files for row in rows(file)), *rows_of_bits(version, bits, kept)]
+    run("msibuild", package, *(part for row in [*fixed, *more] for part in ("-q", row)))
     own_code = package_code(package, scratch)
-    run("msibuild", package, "-s", f"Ornavel {version}", "Brevant", "Intel;1033", f"{{{own_code}}}")
+    run("msibuild", package, "-s", f"Ornavel {version}", "Brevant", PLATFORMS[bits], f"{{{own_code}}}")
     set_times(package, moment)
     check(package, files, scratch)
     return own_code
