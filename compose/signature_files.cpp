@@ -40,11 +40,9 @@ private:
 };
 
 /// The folder of the mail client's signatures, with a backslash at its end.
-Text target_folder(const Store& settings, const SystemInformation& machine) {
+Text target_folder(const Store& settings, const std::function<Text()>& host_folder) {
     Text folder = read(settings, admin::OutlookSignaturePath);
-    if (folder.empty())
-        folder = u"c:\\Documents and Settings\\" + machine.user_name() +
-                 u"\\application data\\Microsoft\\signatures\\";
+    if (folder.empty()) folder = host_folder();
     if (!folder.ends_with(u'\\')) folder += u'\\';
     return folder;
 }
@@ -164,11 +162,11 @@ std::string encode_rich_text(TextView text, const CodePage& ansi) {
     return bytes;
 }
 
-void write_signature_files(const Store& settings, Files& files, const SystemInformation& machine,
+void write_signature_files(const Store& settings, Files& files, const std::function<Text()>& host_folder,
                            diagnostics::ErrorReports& errors) noexcept {
     FirstErrorAsks sink(errors);
     trap(sink, signature_folder_trap, [&] {
-        const Text target = target_folder(settings, machine);
+        const Text target = target_folder(settings, host_folder);
         if (!files.folder_exists(target)) throw Failure(target + u": Path not found");
         write_all({settings, files, sink, target});
     });

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "base/files.h"
-#include "base/system_information.h"
 #include "compose/merge.h"
 #include "diagnostics/error_reports.h"
+
+#include <functional>
 
 namespace ornavel::compose {
 
@@ -14,8 +15,10 @@ inline constexpr TrapName text_signature_trap{u"write_signature_files", u"TextSi
 /// Writes the mail client's own signatures: from each HTML and each rich-text file in the folder of
 /// signatures one of the same kind, and a plain-text one from the settings alone. What was there before is
 /// replaced, file by file and each as a whole; one that can't be written is logged, and the others go on. The
-/// user is asked about the first error only.
-void write_signature_files(const settings::Store& settings, Files& files, const SystemInformation& machine,
+/// user is asked about the first error only. host_folder gives the folder of the mail client's signatures; it
+/// is asked where no setting names another.
+void write_signature_files(const settings::Store& settings, Files& files,
+                           const std::function<Text()>& host_folder,
                            diagnostics::ErrorReports& errors) noexcept;
 
 /// The plain-text signature: two columns, of which the left one is 45 units wide; each line ends in CR LF.

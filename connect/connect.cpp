@@ -2,6 +2,7 @@
 
 #include "connect/environment.h"
 #include "connect/message_windows.h"
+#include "connect/ribbon.h"
 #include "connect/scratch_files.h"
 #include "connect/send_pipeline.h"
 #include "connect/session.h"
@@ -41,7 +42,7 @@ Connect::~Connect() = default;
 
 void Connect::OnConnection(host::Application application, int mode) noexcept {
     Session& session = *session_;
-    session.started = false;
+    session.started = session.released = false;
     make_user_folders(session); // before the first record goes into its log
     record(session, u"Fired", u"", u"On Connection");
     session.host.oHostApp = std::move(application);
@@ -84,6 +85,7 @@ void Connect::start_up() noexcept {
     attempt([&] { session.start_up.usage_log = compose::Get_Marketing_Info(session.platform.settings); });
     session.dialog_answer = true;
     session.language = u"English";
+    refresh_ribbon(session); // the imports may have set what it shows
 }
 
 void Connect::OnAddInsUpdate() noexcept {
@@ -121,6 +123,22 @@ void Connect::OptionsPagesAdd(const host::PropertyPages& pages) noexcept {
         if (!is_on(session_->platform.settings, admin::ShowOptionsPage)) return;
         pages.add(host::create_options_page(session_->platform.objects), u"Ornavel");
     });
+}
+
+Text Connect::GetCustomUI(TextView ribbon_id) noexcept {
+    Text markup;
+    attempt([&] { markup = connect::GetCustomUI(ribbon_id); });
+    return markup;
+}
+
+std::optional<int> Connect::find_ribbon_callback(TextView name) noexcept {
+    std::optional<int> number;
+    attempt([&] { number = connect::find_ribbon_callback(name); });
+    return number;
+}
+
+host::Value Connect::run_ribbon_callback(int callback, const host::ObjectPtr& argument) noexcept {
+    return connect::run_ribbon_callback(*session_, callback, argument);
 }
 
 std::unique_ptr<forms::frmPropPage> Connect::make_options_page(std::function<void()> on_status_change) {
@@ -185,6 +203,8 @@ void Connect::VarCleanup() noexcept {
     host.mode_button_events.reset();
     host.setup_button_events.reset();
     forget_message_windows(session);
+    forget_ribbon(session);
+    session.released = true;
     host.myActiveExplorer.release();
 
     const std::pair<TextView, host::View*> members[] = {

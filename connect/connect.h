@@ -29,6 +29,12 @@ public:
     /// remove_mode: 0 when the mail client closes, another number when the user unloads the add-in.
     void OnDisconnection(int remove_mode) noexcept;
 
+    /// What the add-in puts on the ribbon, and its callbacks: see connect/ribbon.h. The markup is empty where
+    /// there is no memory for it.
+    static Text GetCustomUI(TextView ribbon_id) noexcept;
+    static std::optional<int> find_ribbon_callback(TextView name) noexcept;
+    host::Value run_ribbon_callback(int callback, const host::ObjectPtr& argument) noexcept;
+
     /// The page for the mail client's Options dialog. on_status_change is told each change that the user
     /// makes on it. This outlives the page.
     std::unique_ptr<forms::frmPropPage> make_options_page(std::function<void()> on_status_change);

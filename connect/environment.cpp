@@ -6,6 +6,7 @@
 #include "connect/user_folder.h"
 #include "host/file_system.h"
 #include "host/registry.h"
+#include "host/versions.h"
 
 #include <span>
 
@@ -56,19 +57,8 @@ constexpr TextView stationery_folders[] = {u"C:\\Program Files\\Common Files\\Mi
                                            u"C:\\Program Files\\Microsoft Office\\Stationery"};
 constexpr TextView stationery_component = u"Installer\\Components\\79AE92CC2CB71D119A12000A9CE1A22A";
 
-constexpr TextView reset_lines[] = {
-    u"REGEDIT4",
-    u"",
-    u"[HKEY_CURRENT_USER\\Software\\Microsoft\\Office\\10.0\\Common\\MailSettings]",
-    u"\"NewSignature\"=hex(2):00,00",
-    u"\"ReplySignature\"=hex(2):00,00",
-    u"\"NewStationery\"=hex(2):00,00",
-    u"",
-    u"[HKEY_CURRENT_USER\\Software\\Microsoft\\Office\\11.0\\Common\\MailSettings]",
-    u"\"NewSignature\"=hex(2):00,00",
-    u"\"ReplySignature\"=hex(2):00,00",
-    u"\"NewStationery\"=hex(2):00,00",
-};
+constexpr int always_reset[] = {10, 11}; ///< the versions that the reset file always stands for
+constexpr TextView values_reset[] = {u"NewSignature", u"ReplySignature", u"NewStationery"};
 
 /// Whether a file of that name was there, and has been imported.
 bool import_when_there(Session& session, TextView name) {
@@ -114,10 +104,32 @@ void remove_stationery(Session& session) {
     attempt([&] { registry_of(session).delete_class_key(stationery_component); });
 }
 
+/// An empty line, and the empty values of one version.
+Text reset_block(int version) {
+    Text block = Text(line_end) + u"[HKEY_CURRENT_USER\\Software\\Microsoft\\Office\\" + to_text(version) +
+                 u".0\\Common\\MailSettings]" + Text(line_end);
+    for (const TextView name : values_reset)
+        block += u"\"" + Text(name) + u"\"=hex(2):00,00" + Text(line_end);
+    return block;
+}
+
+/// For the versions of always, and for the mail client's own behind them.
 void write_reset_file(Session& session, const Text& path) {
-    std::string lines;
-    for (const TextView line : reset_lines) lines += to_utf8(Text(line) + Text(line_end));
-    write_whole(session.platform.files, path, lines);
+    Text text = u"REGEDIT4" + Text(line_end);
+    for (const int version : always_reset) text += reset_block(version);
+    const int own = host::major_version(session.host.oHostApp);
+    if (own >= host::first_with_mail_settings_of_its_own) text += reset_block(own);
+    write_whole(session.platform.files, path, to_utf8(text));
+}
+
+Text host_signature_folder(const Session& session) {
+    const Platform& platform = session.platform;
+    const bool moves =
+        host::major_version(session.host.oHostApp) >= host::first_with_signatures_below_application_data;
+    if (moves && !platform.application_data.empty())
+        return platform.application_data + u"\\Microsoft\\Signatures\\";
+    return u"c:\\Documents and Settings\\" + platform.machine.user_name() +
+           u"\\application data\\Microsoft\\signatures\\";
 }
 
 } // namespace
@@ -151,7 +163,8 @@ void reset_host_signatures(Session& session) noexcept {
 
 void write_signature_files(Session& session) noexcept {
     const Platform& platform = session.platform;
-    compose::write_signature_files(platform.settings, platform.files, platform.machine, session.errors);
+    compose::write_signature_files(
+        platform.settings, platform.files, [&] { return host_signature_folder(session); }, session.errors);
 }
 
 } // namespace ornavel::connect

@@ -2,6 +2,7 @@
 
 #include "connect/item_body.h"
 #include "connect/session.h"
+#include "host/versions.h"
 
 namespace ornavel::connect {
 
@@ -20,6 +21,8 @@ struct Send {
 
     /// The item being sent, or its wrapper.
     const host::MailItem& item() const { return session.host.MyMessItem; }
+    /// What kind of message it is; see host/versions.h.
+    int kind() const { return host::kind_of(item(), session.host.oHostApp); }
     settings::Store& settings() const { return session.platform.settings; }
 };
 

@@ -29,7 +29,7 @@ compose::Composed composed_from(Send& send, Text source, compose::Purpose purpos
 /// Dresses the item; one whose message is not composed keeps its body.
 compose::Outcome dress(Send& send) {
     const host::MailItem& item = send.item();
-    const bool plain_text = item.inspector().editor_type() == host::plain_text_editor;
+    const bool plain_text = send.kind() == host::plain_text_editor;
     auto [outcome, html] = composed_body(send, plain_text, send.preview.boilerplate, compose::Purpose::send);
     if (outcome != compose::Outcome::composed) return outcome;
     item.set_html_body(std::move(html));

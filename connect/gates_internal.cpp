@@ -65,9 +65,9 @@ void walk_wrapped(Send& send) {
     });
 }
 
-Verdict sign_and_leave(Send& send, int editor) {
+Verdict sign_and_leave(Send& send, int kind) {
     send.cancel = false;
-    compose::add_internal_signature(send.settings(), send.item(), editor, send.reply.marker);
+    compose::add_internal_signature(send.settings(), send.item(), kind, send.reply.marker);
     send.item().save();
     return tag_and_leave(send);
 }
@@ -76,8 +76,8 @@ Verdict sign_and_leave(Send& send, int editor) {
 
 Verdict internal_mail(Send& send) {
     if (!is_ticked(send.settings(), admin::SkipInternal)) return Verdict::next;
-    const int editor = send.item().inspector().editor_type();
-    if (editor == host::rich_text_editor) return Verdict::leave;
+    const int kind = send.kind();
+    if (kind == host::rich_text_editor) return Verdict::leave;
 
     const bool wrapped = is_on(send.settings(), admin::UseRedemption);
     wrapped ? walk_wrapped(send) : walk_unwrapped(send);
@@ -86,7 +86,7 @@ Verdict internal_mail(Send& send) {
         if (reply_test(send) == Verdict::leave) return Verdict::leave;
         record_gate(send, reply_was_tested);
     }
-    return send.session.internal ? sign_and_leave(send, editor) : Verdict::next;
+    return send.session.internal ? sign_and_leave(send, kind) : Verdict::next;
 }
 
 } // namespace ornavel::connect

@@ -27,7 +27,7 @@ void show_plain_text(Form& form) {
 Verdict auto_preview(Send& send) {
     if (!is_on(send.settings(), admin::AutoPreview)) return Verdict::next;
     Session& session = send.session;
-    const bool plain_text = send.item().inspector().editor_type() == host::plain_text_editor;
+    const bool plain_text = send.kind() == host::plain_text_editor;
     forms::frmBrowser preview(
         {session.platform.settings, session.platform.files, session.platform.windows, session.errors,
          session.platform.launcher, send.item(), session.platform.addin_folder},

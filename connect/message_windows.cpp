@@ -1,7 +1,9 @@
 #include "connect/message_windows.h"
 
+#include "connect/button_tags.h"
 #include "connect/send_options.h"
 #include "connect/session.h"
+#include "host/versions.h"
 #include "settings/modes.h"
 
 #include <utility>
@@ -10,8 +12,6 @@ namespace ornavel::connect {
 namespace {
 
 using namespace settings;
-
-constexpr TextView button_tag = u"SendOptions";
 
 bool is_mode_on(const Session& session) noexcept {
     bool on = false;
@@ -28,12 +28,6 @@ void log_once(Session& session, Body&& body) noexcept {
         session.button_failure_logged = !trap(session.quiet_errors, window_button_trap, body);
 }
 
-/// The window may close, and its entry go, while the form is open.
-void SendOptions_Click(Session& session, const host::MessageWindow& window) noexcept {
-    const auto kept = session.platform.kept();
-    attempt([&] { dress_by_hand(session, window.item()); });
-}
-
 bool is_unsent_message(const host::MessageWindow& window) {
     const host::MailItem item = window.item();
     return upper_case(item.message_class()) == u"IPM.NOTE" && !item.is_sent();
@@ -42,10 +36,10 @@ bool is_unsent_message(const host::MessageWindow& window) {
 void add_button(Session& session, WatchedWindow& watched) {
     if (watched.button || !is_unsent_message(watched.window)) return;
     const host::CommandBar bar = watched.window.command_bars().item(u"Standard");
-    host::CommandBarButton button = bar.find_button(button_tag);
+    host::CommandBarButton button = bar.find_button(button_tags::send_options);
     if (!button) {
         button = bar.add_temporary_button();
-        button.set_tag(button_tag);
+        button.set_tag(button_tags::send_options);
     }
     watched.button = button; // from here on it is taken away again, also when the next steps fail
     watched.button_events =
@@ -101,7 +95,20 @@ void remove_all(Session& session) noexcept {
 
 } // namespace
 
+bool offers_send_options(const Session& session, const host::MessageWindow& window) noexcept {
+    bool offered = is_mode_on(session);
+    if (offered) attempt([&] { offered = is_unsent_message(window); });
+    return offered;
+}
+
+/// The window may close, and its entry go, while the form is open.
+void SendOptions_Click(Session& session, const host::MessageWindow& window) noexcept {
+    const auto kept = session.platform.kept();
+    attempt([&] { dress_by_hand(session, window.item()); });
+}
+
 void watch_message_windows(Session& session) noexcept {
+    if (host::major_version(session.host.oHostApp) >= host::first_with_ribbon_in_message_windows) return;
     trap(session.quiet_errors, message_windows_trap, [&] {
         const host::MessageWindows windows = session.host.oHostApp.message_windows();
         host::Subscription events = windows.on_new([&session](host::MessageWindow window) {

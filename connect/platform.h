@@ -28,6 +28,9 @@ struct Platform {
     const forms::StringTable& strings;
     const SystemInformation& machine;
     Text addin_folder; ///< the folder of Ornavel.dll, without a backslash at its end
+    /// Where Windows has the data of the user's programs, without a backslash at its end; empty where it
+    /// doesn't tell.
+    Text application_data = {};
     /// The folder among the user's application data where folders may be made; empty where none is known.
     Text user_folder = {};
     /// Keeps the add-in and its machine for as long as the result lives: the mail client may let go of them

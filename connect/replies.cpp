@@ -1,12 +1,14 @@
 #include "connect/replies.h"
 
+#include "host/versions.h"
+
 namespace ornavel::connect {
 namespace {
 
 using namespace settings;
 
-bool is_plain_text(const host::MailItem& item) {
-    return item.inspector().editor_type() == host::plain_text_editor;
+bool is_plain_text(const Session& session, const host::MailItem& item) {
+    return host::kind_of(item, session.host.oHostApp) == host::plain_text_editor;
 }
 
 } // namespace
@@ -17,14 +19,14 @@ bool host_is_older(Session& session) {
     trap(session.errors, version_trap, [&] {
         const Text version = session.host.oHostApp.version();
         if (version.find_first_of(u"0123456789") != 0) throw Failure(u"Type mismatch");
-        major = numeric_value(TextView(version).substr(0, 2));
+        major = host::major_version(version);
     });
     return major < first_with_other_marks;
 }
 
 Text reply_marker(const Session& session, const host::MailItem& item, bool older_host) {
-    const TextKey& marker =
-        older_host || is_plain_text(item) ? system::MyReplySearchString : system::Office2003SearchString;
+    const TextKey& marker = older_host || is_plain_text(session, item) ? system::MyReplySearchString
+                                                                       : system::Office2003SearchString;
     return read(session.platform.settings, marker);
 }
 

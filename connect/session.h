@@ -7,6 +7,7 @@
 #include "forms/frmMessage.h"
 #include "forms/frmSysTray.h"
 #include "host/application.h"
+#include "host/ribbon.h"
 
 #include <list>
 
@@ -32,6 +33,7 @@ struct HostReferences {
     host::MailItem MyMessItem; ///< the current item: the one being sent, or its wrapper
 
     std::list<WatchedWindow> message_windows;
+    std::vector<host::RibbonUI> ribbons;
 
     host::Subscription application_events;
     host::Subscription explorers_events;
@@ -71,6 +73,8 @@ struct Session {
     bool dialog_answer = true; ///< the send-options form's answer
     bool sent_to_many = false; ///< another program reads the preview's page
     bool button_failure_logged = false;
+    bool released = false; ///< every reference is let go, and none is taken before the next connection
+    Text shown_mode;       ///< what the ribbon's mode button was last told to show
     Text language;
     std::shared_ptr<forms::frmSysTray> tray_form; ///< while the administrator's icon is shown
 };

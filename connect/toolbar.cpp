@@ -1,9 +1,12 @@
 #include "connect/toolbar.h"
 
+#include "connect/button_tags.h"
 #include "connect/environment.h"
 #include "connect/message_windows.h"
+#include "connect/ribbon.h"
 #include "connect/session.h"
 #include "connect/setup_program.h"
+#include "host/versions.h"
 #include "settings/modes.h"
 
 namespace ornavel::connect {
@@ -28,18 +31,7 @@ Text caption_of_mode(const Session& session, TextView mode) {
 
 /// The button's caption, not the setting, says where the cycle stands.
 void myButtonSetting_Click(Session& session) noexcept {
-    attempt([&] {
-        const Text caption = session.host.myButtonSetting.caption();
-        if (caption == on_caption(session)) {
-            change_mode(session, modes::automatic, modes::off);
-        } else if (caption == off_caption(session) && is_on(session.platform.settings, admin::eSignature)) {
-            change_mode(session, modes::off, modes::signature);
-        } else if (caption == off_caption(session)) {
-            change_mode(session, modes::off, modes::automatic);
-        } else if (caption == modes::signature) {
-            change_mode(session, modes::signature, modes::automatic);
-        }
-    });
+    attempt([&] { cycle_mode(session, session.host.myButtonSetting.caption()); });
 }
 
 host::CommandBarButton button_with_tag(const host::CommandBar& bar, TextView tag) {
@@ -51,7 +43,7 @@ host::CommandBarButton button_with_tag(const host::CommandBar& bar, TextView tag
 
 void add_setup_button(Session& session) {
     HostReferences& host = session.host;
-    host.MyButtonConfigWiz = button_with_tag(host.oStandardBar, u"ButtonWiz");
+    host.MyButtonConfigWiz = button_with_tag(host.oStandardBar, button_tags::setup);
     host.MyButtonConfigWiz.set_caption(
         forms::load_text(session.platform.strings, forms::text_ids::ornavel_setup));
     host.MyButtonConfigWiz.show_face_and_caption(setup_face);
@@ -65,10 +57,9 @@ void add_setup_button(Session& session) {
 
 void add_mode_button(Session& session) {
     HostReferences& host = session.host;
-    host.myButtonSetting = button_with_tag(host.oStandardBar, u"EmailMonitor");
+    host.myButtonSetting = button_with_tag(host.oStandardBar, button_tags::mode);
     host.myButtonSetting.show_caption();
-    host.myButtonSetting.set_caption(
-        caption_of_mode(session, read(session.platform.settings, user::SettingButtonBar)));
+    host.myButtonSetting.set_caption(mode_caption(session));
     trap(session.quiet_errors, {u"OnStartupComplete", u"Error hooking the mode button"}, [&] {
         host.mode_button_events = host.myButtonSetting.on_click([&session] {
             const auto kept = session.platform.kept();
@@ -79,10 +70,29 @@ void add_mode_button(Session& session) {
 
 } // namespace
 
+Text mode_caption(const Session& session) {
+    return caption_of_mode(session, read(session.platform.settings, user::SettingButtonBar));
+}
+
+void cycle_mode(Session& session, TextView caption) noexcept {
+    attempt([&] {
+        if (caption == on_caption(session)) {
+            change_mode(session, modes::automatic, modes::off);
+        } else if (caption == off_caption(session) && is_on(session.platform.settings, admin::eSignature)) {
+            change_mode(session, modes::off, modes::signature);
+        } else if (caption == off_caption(session)) {
+            change_mode(session, modes::off, modes::automatic);
+        } else if (caption == modes::signature) {
+            change_mode(session, modes::signature, modes::automatic);
+        }
+    });
+}
+
 void set_mode(Session& session, TextView mode) noexcept {
     attempt([&] { session.host.myButtonSetting.set_caption(caption_of_mode(session, mode)); });
     save(session.platform.settings, user::SettingButtonBar, mode);
     follow_mode(session);
+    refresh_ribbon(session);
 }
 
 void change_mode(Session& session, TextView before, TextView now) noexcept {
@@ -94,6 +104,7 @@ void change_mode(Session& session, TextView before, TextView now) noexcept {
 }
 
 void add_buttons(Session& session) noexcept {
+    if (host::major_version(session.host.oHostApp) >= host::first_with_ribbon_in_explorers) return;
     const bool on_a_toolbar = attempt([&] {
         session.host.oCommandBars = session.host.myActiveExplorer.command_bars();
         session.host.oStandardBar = session.host.oCommandBars.item(u"Standard");

@@ -8,8 +8,14 @@ struct Session;
 
 /// Puts the setup button and the mode button on the active explorer's Standard bar, each where its setting
 /// asks for it. A button that an earlier start-up left there is used again. Without an explorer there are
-/// none.
+/// none, nor where explorers have the ribbon, which carries them instead.
 void add_buttons(Session& session) noexcept;
+
+/// What the mode button shows for the mode that is set.
+Text mode_caption(const Session& session);
+
+/// The mode button was pressed while it showed this caption: the next mode is set. Never throws.
+void cycle_mode(Session& session, TextView caption) noexcept;
 
 /// Saves the mode, and shows it on the mode button, where there is one, and in the windows of messages.
 void set_mode(Session& session, TextView mode) noexcept;

@@ -84,7 +84,7 @@ void ErrorReporter::send_mail(const ErrorReport& report) {
     mail.set_subject(report.subject);
     mail.set_billing_information(host::stamps::preview_send);
     mail.set_delete_after_submit(true);
-    mail.set_body(report.text + editor_lines(item));
+    mail.set_body(report.text + editor_lines(item, services_.application));
     const auto recipient = mail.recipients().add(read(services_.settings, admin::EmailAddressNotify));
     attempt([&] { recipient.resolve(); });
     // A report whose log can't be attached is still worth sending.

@@ -2,6 +2,7 @@
 
 #include "diagnostics/about.h"
 #include "diagnostics/basSysInfo.h"
+#include "host/versions.h"
 
 namespace ornavel::diagnostics {
 namespace {
@@ -42,8 +43,8 @@ Text outlook_version(const host::Application& application) {
     return told;
 }
 
-TextView name_of_editor(int editor_type) {
-    switch (editor_type) {
+TextView name_of_editor(int kind) {
+    switch (kind) {
     case host::plain_text_editor:
         return u"Text";
     case host::html_editor:
@@ -81,7 +82,7 @@ Text report_text(const ErrorRecord& error, const ReportSources& sources) {
     return text;
 }
 
-Text editor_lines(const host::MailItem& item) {
+Text editor_lines(const host::MailItem& item, const host::Application& application) {
     Text lines;
     attempt([&] {
         const host::Inspector inspector = item.inspector();
@@ -89,7 +90,7 @@ Text editor_lines(const host::MailItem& item) {
             lines += Text(line_end) + u"Word as editor: " + (inspector.is_word_mail() ? u"true" : u"false");
         });
         attempt([&] {
-            lines += Text(line_end) + u"Editor type: " + Text(name_of_editor(inspector.editor_type()));
+            lines += Text(line_end) + u"Editor type: " + Text(name_of_editor(kind_of(item, application)));
         });
     });
     return lines;

@@ -25,6 +25,6 @@ Text report_text(const ErrorRecord& error, const ReportSources& sources);
 
 /// How the item is edited, as two lines for the report, each with its line end in front. What the mail
 /// client doesn't tell is left out.
-Text editor_lines(const host::MailItem& item);
+Text editor_lines(const host::MailItem& item, const host::Application& application);
 
 } // namespace ornavel::diagnostics

@@ -61,7 +61,8 @@ public:
     Recipient add(TextView address) const { return Recipient(as_object(call({u"Add"}, {Text(address)}))); }
 };
 
-/// What the editor of an item is, as the host numbers it; other numbers occur and count as HTML.
+/// What the editor of an item is, as the host numbers it; other numbers occur and count as HTML. The format
+/// of its body has the first three numbers as well.
 enum EditorType : int { plain_text_editor = 1, html_editor = 2, rich_text_editor = 3, word_editor = 4 };
 
 class Inspector : public ViewOf<u"Inspector"> {
@@ -88,6 +89,9 @@ public:
     void set_body(Text body) const { put({u"Body"}, std::move(body)); }
     Text html_body() const { return as_text(get({u"HTMLBody"})); }
     void set_html_body(Text body) const { put({u"HTMLBody"}, std::move(body)); }
+
+    /// What the body is: the numbers are those of its editor.
+    int body_format() const { return as_number(get({u"BodyFormat"})); }
 
     Text billing_information() const { return as_text(get({u"BillingInformation"})); }
     void set_billing_information(TextView text) const { put({u"BillingInformation"}, Text(text)); }

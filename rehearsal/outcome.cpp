@@ -2,6 +2,7 @@
 
 #include "base/encoding.h"
 #include "rehearsal/model/application.h"
+#include "rehearsal/model/versions.h"
 
 #include <algorithm>
 
@@ -50,15 +51,15 @@ Json word_outcome(const std::optional<WordDocument>& word) {
     return {{"Version", to_json(word->version)}, {"html", to_json(word->html)}};
 }
 
-Json item_outcome(const MailItemNode& item) {
-    return {
+Json item_outcome(const MailItemNode& item, const Host& host) {
+    Json json{
         {"MessageClass", to_json(item.message_class)},
         {"Parent", to_json(item.parent)},
         {"Subject", to_json(item.subject)},
         {"Body", to_json(item.body)},
         {"HTMLBody", to_json(item.html_body)},
         {"BillingInformation", to_json(item.billing_information)},
-        {"EditorType", item.editor_type},
+        {"EditorType", editor_type_of(item, host)},
         {"IsWordMail", item.is_word_mail},
         {"Recipients", list(item.recipient_nodes, recipient_outcome)},
         {"Attachments", attachments_of(item)},
@@ -75,6 +76,8 @@ Json item_outcome(const MailItemNode& item) {
         {"cancelled", item.cancelled},
         {"links", list(item.contacts, contact_outcome)},
     };
+    if (word_is_the_only_editor(host)) json["BodyFormat"] = body_format_of(item);
+    return json;
 }
 
 Json mail_outcome(const MailItemNode& item) {
@@ -94,6 +97,21 @@ Json mail_outcome(const MailItemNode& item) {
 
 Json button_outcome(const ButtonNode& button) {
     return {{"tag", to_json(button.tag)}, {"caption", to_json(button.caption)}, {"face", button.face}};
+}
+
+/// The number of a face is a toolbar's; on the ribbon a picture has a name.
+Json control_outcome(const ShownControl& control) {
+    return {{"tag", to_json(control.tag)},
+            {"caption", to_json(control.label)},
+            {"face", 0},
+            {"picture", to_json(control.picture)}};
+}
+
+/// The buttons of the explorers' toolbar, and those of the ribbon in whatever window has one.
+Json toolbar_outcome(MailClient& client) {
+    Json buttons = list(client.standard_bar->buttons, button_outcome);
+    for (const ShownControl& control : client.ribbons().shown()) buttons.push_back(control_outcome(control));
+    return buttons;
 }
 
 Json connection_outcome(const ConnectionNode& connection) {
@@ -126,12 +144,13 @@ Json write_outcome(const Scenario& scenario, const Player& player, MailClient& c
     return {
         {"name", to_json(scenario.name)},
         {"acts", player.acts()},
-        {"items", list(client.items, item_outcome)},
+        {"items",
+         list(client.items, [&](const MailItemNode& item) { return item_outcome(item, client.host()); })},
         {"settings", settings_outcome(after)},
         {"files", changed_files(before, after)},
         {"registry", changed_registry(before, after)},
         {"windows", machine.windows()},
-        {"toolbar", list(client.standard_bar->buttons, button_outcome)},
+        {"toolbar", toolbar_outcome(client)},
         {"tray", machine.tray_outcome()},
         {"pages", texts(client.pages)},
         {"launched", machine.launched()},

@@ -1,5 +1,7 @@
 #include "rehearsal/player.h"
 
+#include "rehearsal/model/versions.h"
+
 #include <chrono>
 
 namespace ornavel::rehearsal {
@@ -23,6 +25,7 @@ void Player::play() {
         const auto start = std::chrono::steady_clock::now();
         try {
             play_act(act, record);
+            client_.ribbons().draw();
         } catch (const Unusable&) {
             throw;
         } catch (...) {
@@ -39,8 +42,7 @@ void Player::play_act(const Act& act, Json& record) {
     using Kind = Act::Kind;
     switch (act.kind) {
     case Kind::connect:
-        connected_ = true;
-        return addin_.connect(client_.application(), act.number);
+        return connect(act.number);
     case Kind::start:
         return addin_.start();
     case Kind::update:
@@ -49,10 +51,7 @@ void Player::play_act(const Act& act, Json& record) {
         client_.close_documents();
         return addin_.shutdown();
     case Kind::disconnect:
-        client_.close_documents();
-        addin_.disconnect(act.number);
-        connected_ = false;
-        return;
+        return disconnect(act.number);
     case Kind::send:
         return send(act.number, record);
     case Kind::click:
@@ -87,6 +86,25 @@ void Player::play_act(const Act& act, Json& record) {
     }
 }
 
+/// The documentation leaves open whether the ribbon comes first: here it does so in Outlook 2010 alone.
+void Player::connect(int mode) {
+    constexpr int comes_first = 14;
+    Ribbons& ribbons = client_.ribbons();
+    addin_.make();
+    ribbons.serve(addin_);
+    if (major_version(client_.host()) == comes_first) ribbons.load_explorers();
+    connected_ = true;
+    addin_.connect(client_.application(), mode);
+    ribbons.load_explorers();
+}
+
+void Player::disconnect(int remove_mode) {
+    client_.close_documents();
+    addin_.disconnect(remove_mode);
+    client_.ribbons().let_go(remove_mode != 0);
+    connected_ = false;
+}
+
 void Player::send(int item, Json& record) {
     auto& node = *client_.items[static_cast<std::size_t>(item)];
     if (!connected_) {
@@ -100,11 +118,13 @@ void Player::send(int item, Json& record) {
 /// The form's answer shows in what the add-in asks of the item: to be sent, or nothing.
 void Player::dress(const Act& act, Json& record) {
     const auto& item = client_.items[static_cast<std::size_t>(act.number)];
-    client_.open_window(item);
-    const auto button = item->inspector_bar->find(u"SendOptions");
-    if (!button) refuse(act, "the add-in offers no form for this item");
+    const InspectorNode& window = client_.open_window(item);
     const int before = item->send_requests;
-    client_.click(*button);
+    if (!client_.ribbons().click(u"SendOptions", &window)) {
+        const auto button = item->inspector_bar->find(u"SendOptions");
+        if (!button) refuse(act, "the add-in offers no form for this item");
+        client_.click(*button);
+    }
     record["answer"] = item->send_requests > before;
 }
 
@@ -117,6 +137,7 @@ void Player::run(const Act& act, Json& record) {
 }
 
 void Player::click(const Act& act) {
+    if (client_.ribbons().click(act.text)) return;
     const auto button = client_.standard_bar->find(act.text);
     if (!button) refuse(act, "no such button");
     client_.click(*button);

@@ -5,9 +5,10 @@
 namespace ornavel::rehearsal {
 
 /// The add-in as the mail client sees it: in this program, or in a DLL. What it throws has reached the host.
-class AddIn {
+class AddIn : public RibbonAddIn {
 public:
-    virtual ~AddIn() = default;
+    /// The mail client makes the add-in's object, to connect it.
+    virtual void make() = 0;
     virtual void connect(const host::ObjectPtr& application, int mode) = 0;
     virtual void start() = 0;
     virtual void update() = 0;
@@ -31,6 +32,8 @@ public:
 
 private:
     void play_act(const Act& act, Json& record);
+    void connect(int mode);
+    void disconnect(int remove_mode);
     void send(int item, Json& record);
     void dress(const Act& act, Json& record);
     void run(const Act& act, Json& record);

@@ -82,6 +82,7 @@ struct Item {
     Text message_class = u"IPM.Note", parent = u"Drafts";
     Text subject{}, body{}, html_body{}, billing_information{}, categories{}, flag_request{};
     int editor_type = 2, importance = 1, sensitivity = 0;
+    std::optional<int> body_format{}; ///< nothing where it follows from the editor
     bool is_word_mail = false, read_receipt_requested = false, delivery_report_requested = false;
     std::vector<RecipientEntry> recipients{};
     std::vector<Text> attachments{};

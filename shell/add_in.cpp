@@ -1,9 +1,9 @@
 #include "shell/add_in.h"
 
+#include "shell/boundary.h"
 #include "win32/dispatch_object.h"
 #include "win32/environment.h"
 #include "win32/values.h"
-#include "win32/wide.h"
 
 namespace ornavel::shell {
 namespace {
@@ -27,30 +27,16 @@ constexpr HandlerName handlers[] = {
     {u"OnBeginShutdown", on_begin_shutdown},
 };
 
-DISPID find_handler(TextView name) {
+DISPID find_member(TextView name) {
     for (const auto& row : handlers)
         if (same_name(row.name, name)) return row.handler;
-    return DISPID_UNKNOWN;
+    return find_callback(name);
 }
 
 /// Without a backslash at its end.
 Text addin_folder() {
     const Text path = win32::path_of(win32::this_module());
     return path.substr(0, path.find_last_of(u'\\'));
-}
-
-/// Runs a handler on behalf of the mail client: nothing gets out, and the object stays until it has ended.
-template <class Body>
-HRESULT at_boundary(IUnknown* object, Body body) noexcept {
-    const win32::ComPtr<IUnknown> kept(object);
-    attempt(body);
-    return S_OK;
-}
-
-/// One argument of a late-bound call, counted from the first; one that is not there is empty.
-host::Value argument(const DISPPARAMS* parameters, UINT index) {
-    if (!parameters || index >= parameters->cArgs) return host::Empty{};
-    return win32::to_value(parameters->rgvarg[parameters->cArgs - 1 - index]);
 }
 
 } // namespace
@@ -66,6 +52,7 @@ connect::Platform Machine::platform(IUnknown* owner) {
             .strings = strings_,
             .machine = information_,
             .addin_folder = addin_folder(),
+            .application_data = win32::application_data(),
             .user_folder = win32::user_folder(),
             .keep = keep,
             .tray = &tray_};
@@ -86,6 +73,11 @@ void AddIn::disconnect(int remove_mode) {
 }
 
 HRESULT AddIn::QueryInterface(REFIID wanted, void** object) {
+    if (wanted == win32::IID_IRibbonExtensibility && object) {
+        *object = static_cast<win32::IRibbonExtensibility*>(&ribbon_);
+        AddRef();
+        return S_OK;
+    }
     return answer(wanted == IID_IUnknown || wanted == IID_IDispatch || wanted == win32::IID_IDTExtensibility2,
                   object);
 }
@@ -99,23 +91,30 @@ HRESULT AddIn::GetTypeInfoCount(UINT* count) {
 HRESULT AddIn::GetTypeInfo(UINT, LCID, ITypeInfo**) { return E_NOTIMPL; }
 
 HRESULT AddIn::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
-    if (!names || !ids || count == 0) return E_INVALIDARG;
-    // The first name is the handler's; its parameters have no names here.
-    for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
-    attempt([&] { ids[0] = find_handler(win32::text_of(names[0])); });
-    return count > 1 || ids[0] == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
+    return identify(find_member, names, count, ids);
 }
 
-HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) {
+HRESULT AddIn::run_callback(DISPID id, const DISPPARAMS* parameters, VARIANT* result) noexcept {
+    return at_boundary(this, [&] {
+        if (result) VariantInit(result);
+        const host::ObjectPtr asked = host::as_object_or_nothing(argument_of(parameters, 0));
+        const host::Value answer = connect_.run_ribbon_callback(id - first_callback, asked);
+        if (result) *result = win32::to_variant(answer).release();
+    });
+}
+
+HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO*,
+                      UINT*) {
+    if (is_callback(id)) return run_callback(id, parameters, result);
     if (id < on_connection || id > on_begin_shutdown) return DISP_E_MEMBERNOTFOUND;
     return at_boundary(this, [&] {
         switch (id) {
         case on_connection:
-            connect(host::Application(host::as_object_or_nothing(argument(parameters, 0))),
-                    host::as_number(argument(parameters, 1)));
+            connect(host::Application(host::as_object_or_nothing(argument_of(parameters, 0))),
+                    host::as_number(argument_of(parameters, 1)));
             break;
         case on_disconnection:
-            disconnect(host::as_number(argument(parameters, 0)));
+            disconnect(host::as_number(argument_of(parameters, 0)));
             break;
         case on_addins_update:
             connect_.OnAddInsUpdate();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "connect/connect.h"
+#include "shell/ribbon_face.h"
 #include "win32/com.h"
 #include "win32/com_objects.h"
 #include "win32/extensibility.h"
@@ -38,6 +39,8 @@ public:
     /// The one that is connected to the mail client in this process; null where none is.
     static AddIn* connected() { return connected_; }
     connect::Connect& connection() { return connect_; }
+    /// Runs the callback of the ribbon with this number. Whatever is passed, it ends well.
+    HRESULT run_callback(DISPID id, const DISPPARAMS* parameters, VARIANT* result) noexcept;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** object) override;
 
@@ -64,6 +67,7 @@ private:
 
     Machine machine_;
     connect::Connect connect_{machine_.platform(this)};
+    RibbonFace ribbon_{*this};
 };
 
 } // namespace ornavel::shell

@@ -13,9 +13,14 @@ Text expanded(TextView text) {
     return text_of(target.c_str());
 }
 
-Text user_folder() {
-    Text folder = expanded(u"%APPDATA%\\Brevant\\Ornavel");
+Text application_data() {
+    Text folder = expanded(u"%APPDATA%");
     return folder.starts_with(u'%') ? Text() : folder;
+}
+
+Text user_folder() {
+    const Text data = application_data();
+    return data.empty() ? Text() : data + u"\\Brevant\\Ornavel";
 }
 
 } // namespace ornavel::win32

@@ -3,6 +3,7 @@
 #include "rehearsal/model/calendar.h"
 #include "rehearsal/model/handle.h"
 #include "rehearsal/model/mail_client.h"
+#include "rehearsal/model/versions.h"
 
 namespace ornavel::rehearsal {
 namespace {
@@ -77,7 +78,9 @@ constexpr MemberRow inspectors_members[] = {
 constexpr MemberRow explorer_members[] = {
     method(u"CommandBars",
            [](const Call& call) -> Value {
-               return call.client.hand_out(std::make_shared<BarsNode>(call.client.standard_bar));
+               const bool has_it = !explorers_have_the_ribbon(call.client.host());
+               return call.client.hand_out(
+                   std::make_shared<BarsNode>(has_it ? call.client.standard_bar : nullptr));
            }),
 };
 

@@ -2,6 +2,7 @@
 
 #include "rehearsal/model/handle.h"
 #include "rehearsal/model/mail_client.h"
+#include "rehearsal/model/versions.h"
 #include "rehearsal/model/word.h"
 
 namespace ornavel::rehearsal {
@@ -91,12 +92,20 @@ constexpr MemberRow option(TextView name, Write write) {
     return {name, read_field<MailItemNode, field>, write};
 }
 
+/// Outlook 2000 to 2003 are played without it, as the add-in was made for them.
+Value body_format(const Call& call) {
+    if (!word_is_the_only_editor(call.client.host()))
+        throw host::Error(u"Object doesn't support this property or method");
+    return body_format_of(call.as<MailItemNode>());
+}
+
 constexpr MemberRow mail_item_members[] = {
     property<MailItemNode, &Item::message_class>(u"MessageClass"),
     {u"To", to, put_to},
     property<MailItemNode, &Item::subject>(u"Subject"),
     property<MailItemNode, &Item::body>(u"Body"),
     property<MailItemNode, &Item::html_body>(u"HTMLBody"),
+    method(u"BodyFormat", body_format),
     property<MailItemNode, &Item::billing_information>(u"BillingInformation"),
     option<&Item::importance>(u"Importance", put_choice<&Item::importance, 2>),
     option<&Item::sensitivity>(u"Sensitivity", put_choice<&Item::sensitivity, 3>),
@@ -141,12 +150,14 @@ Value word_editor(const Call& call) {
 Value inspector_bars(const Call& call) {
     if (!call.as<InspectorNode>().activated)
         throw host::Error(u"Method 'CommandBars' of object '_Inspector' failed");
-    return call.client.hand_out(std::make_shared<BarsNode>(item_of(call).inspector_bar));
+    const bool has_it = !message_windows_have_the_ribbon(call.client.host());
+    return call.client.hand_out(std::make_shared<BarsNode>(has_it ? item_of(call).inspector_bar : nullptr));
 }
 
 constexpr MemberRow inspector_members[] = {
     method(u"WordEditor", word_editor),
-    method(u"EditorType", [](const Call& call) -> Value { return item_of(call).editor_type; }),
+    method(u"EditorType",
+           [](const Call& call) -> Value { return editor_type_of(item_of(call), call.client.host()); }),
     method(u"CurrentItem",
            [](const Call& call) -> Value { return call.client.hand_out(call.as<InspectorNode>().item); }),
     method(u"IsWordMail", [](const Call& call) -> Value { return item_of(call).is_word_mail; }),

@@ -124,6 +124,7 @@ InspectorNode& MailClient::open_window(const std::shared_ptr<MailItemNode>& item
         window = windows_.emplace_back(std::make_shared<InspectorNode>(item));
         Value arguments[] = {hand_out(window)};
         raise_event(*this, *inspectors_node_, u"NewInspector", arguments);
+        ribbons_.open(window);
     }
     window->activated = true;
     raise_event(*this, *window, u"Activate");
@@ -140,6 +141,7 @@ std::shared_ptr<InspectorNode> MailClient::window_of(const MailItemNode& item) c
 void MailClient::close_window(const std::shared_ptr<InspectorNode>& window) {
     raise_event(*this, *window, u"Close");
     window->gone = true;
+    ribbons_.close(*window);
     std::erase(windows_, window);
 }
 
@@ -160,6 +162,7 @@ void MailClient::add_explorers(int count) {
         const auto& explorer = explorers_.emplace_back(std::make_shared<ExplorerNode>());
         Value arguments[] = {hand_out(explorer)};
         raise_event(*this, *explorers_node_, u"NewExplorer", arguments);
+        ribbons_.load_explorers();
     }
 }
 

@@ -4,6 +4,7 @@
 #include "rehearsal/journal.h"
 #include "rehearsal/machine.h"
 #include "rehearsal/model/items.h"
+#include "rehearsal/model/ribbon.h"
 #include "rehearsal/model/toolbars.h"
 #include "rehearsal/references.h"
 
@@ -71,6 +72,7 @@ public:
     void open_document(const MailItemNode& item, const Text& path, const std::string& text);
     void close_documents();
     const Host& host() const { return scenario_.host; }
+    Ribbons& ribbons() { return ribbons_; }
     const std::shared_ptr<References>& references() { return references_; }
 
     std::vector<std::shared_ptr<MailItemNode>> items;
@@ -97,6 +99,7 @@ private:
     std::vector<std::shared_ptr<InspectorNode>>
         windows_; ///< of items, in the order in which they were opened
     std::size_t active_ = 0;
+    Ribbons ribbons_{*this};
     host::ObjectPtr page_; ///< while the Options dialog asks
 };
 

@@ -47,7 +47,7 @@ Value find_control(const Call& call) {
 Value bar_at(const Call& call) {
     const auto& bars = call.as<BarsNode>();
     const auto* name = std::get_if<Text>(&call.arguments[0]);
-    if (name ? !same_name(*name, u"Standard") : call.number(0) != 1)
+    if (!bars.standard || (name ? !same_name(*name, u"Standard") : call.number(0) != 1))
         throw host::Error(u"Invalid procedure call or argument");
     return call.client.hand_out(bars.standard);
 }
@@ -86,7 +86,8 @@ constexpr MemberRow bar_members[] = {
 
 constexpr MemberRow bars_members[] = {
     method(u"Item", bar_at, 1, 1),
-    method(u"Count", [](const Call&) -> Value { return std::int32_t{1}; }),
+    method(u"Count",
+           [](const Call& call) -> Value { return std::int32_t{call.as<BarsNode>().standard ? 1 : 0}; }),
 };
 
 } // namespace

@@ -24,7 +24,8 @@ struct ControlsNode final : Node {
     std::shared_ptr<BarNode> bar;
 };
 
-/// The toolbars of a window; only the one named "Standard" is there.
+/// The toolbars of a window; only the one named "Standard" is there, and null where the window has the
+/// ribbon.
 struct BarsNode final : Node {
     explicit BarsNode(std::shared_ptr<BarNode> standard_bar) : standard(std::move(standard_bar)) {}
     const Class& what() const override;

@@ -43,9 +43,11 @@ public:
         : platform_(std::move(platform)), machine_(machine),
           connect_(std::make_unique<connect::Connect>(platform_)) {}
 
-    void connect(const host::ObjectPtr& application, int mode) override {
+    void make() override {
         if (was_connected_) connect_ = std::make_unique<connect::Connect>(platform_);
         was_connected_ = true;
+    }
+    void connect(const host::ObjectPtr& application, int mode) override {
         const AddInsTurn turn;
         connect_->OnConnection(host::Application(application), mode);
     }
@@ -64,6 +66,16 @@ public:
     void disconnect(int remove_mode) override {
         const AddInsTurn turn;
         connect_->OnDisconnection(remove_mode);
+    }
+    Text custom_ui(TextView ribbon_id) override {
+        const AddInsTurn turn;
+        return connect::Connect::GetCustomUI(ribbon_id);
+    }
+    host::Value run_callback(const Text& name, const host::ObjectPtr& argument) override {
+        const AddInsTurn turn;
+        const auto number = connect::Connect::find_ribbon_callback(name);
+        if (!number) throw host::Error(u"Object doesn't support this property or method");
+        return connect_->run_ribbon_callback(*number, argument);
     }
     void show_page(const host::ObjectPtr&, const Act& act) override {
         OptionsDialog dialog;
@@ -130,6 +142,7 @@ Json play_here(const Scenario& scenario, const std::string& source, Journal& jou
                           .strings = strings,
                           .machine = machine.addin_machine(),
                           .addin_folder = scenario.computer.addin_folder,
+                          .application_data = application_data(scenario.computer),
                           .user_folder = application_data(scenario.computer) + u"\\Brevant\\Ornavel",
                           .on_gate = on_gate,
                           .on_trap = on_trap,

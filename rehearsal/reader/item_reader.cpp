@@ -73,6 +73,7 @@ Item read_item(const JsonPlace& place) {
         {"HTMLBody", text(item.html_body)},
         {"BillingInformation", text(item.billing_information)},
         {"EditorType", number(item.editor_type)},
+        {"BodyFormat", [&](const JsonPlace& at) { item.body_format = at.small_number(); }},
         {"IsWordMail", flag(item.is_word_mail)},
         {"Recipients", each(add_recipient)},
         {"Attachments", each(add_attachment)},

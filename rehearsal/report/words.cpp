@@ -2,6 +2,7 @@
 
 #include "base/encoding.h"
 #include "host/stamps.h"
+#include "rehearsal/model/versions.h"
 #include "rehearsal/report/findings.h"
 #include "rehearsal/report/reasons.h"
 
@@ -12,7 +13,8 @@ namespace ornavel::rehearsal::report {
 namespace {
 
 constexpr std::pair<int, const char*> versions[] = {
-    {9, "Outlook 2000"}, {10, "Outlook 2002"}, {11, "Outlook 2003"}};
+    {9, "Outlook 2000"},  {10, "Outlook 2002"}, {11, "Outlook 2003"},         {12, "Outlook 2007"},
+    {14, "Outlook 2010"}, {15, "Outlook 2013"}, {16, "Outlook 2016 or later"}};
 
 constexpr std::pair<TextView, const char*> classes[] = {
     {u"IPM.SCHEDULE.MEETING.REQUEST", "a meeting request"},
@@ -25,18 +27,19 @@ std::string mail_client(TextView version) {
     return "Outlook " + to_utf8(version);
 }
 
-std::string kind(const Item& item) {
+std::string kind(const Item& item, const Host& host) {
     const Text upper = upper_case(item.message_class);
     for (const auto& [message_class, words] : classes)
         if (upper == message_class) return words;
     if (upper != u"IPM.NOTE") return "an item of the class " + to_utf8(item.message_class);
-    if (item.editor_type == 1) return "a plain-text message";
-    if (item.editor_type == 3) return "a rich-text message";
+    if (kind_of(item, host) == 1) return "a plain-text message";
+    if (kind_of(item, host) == 3) return "a rich-text message";
     return item.is_word_mail ? "a Word-written message" : "an HTML message";
 }
 
 std::string dressing(const Story& story, const Send& send) {
-    if (story.scenario.items.at(send.item).editor_type == 1) return "went out turned into HTML, and stamped";
+    if (kind_of(story.scenario.items.at(send.item), story.scenario.host) == 1)
+        return "went out turned into HTML, and stamped";
     const std::string sheet = template_read(story, send), signature = signature_read(story, send);
     const std::string signed_with =
         signature.empty() ? "without a signature" : "with the signature " + signature;
@@ -99,7 +102,7 @@ std::size_t held_by(const Story& story) {
 
 std::string what_came_in(const Story& story, const Send& send) {
     const Item& item = story.scenario.items.at(send.item);
-    return kind(item) + " from " + mail_client(story.scenario.host.version);
+    return kind(item, story.scenario.host) + " from " + mail_client(story.scenario.host.version);
 }
 
 std::string what_happened(const Story& story, const Send& send) {

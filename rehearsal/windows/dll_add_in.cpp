@@ -1,6 +1,8 @@
 #include "rehearsal/windows/dll_add_in.h"
 
+#include "rehearsal/windows/served_values.h"
 #include "win32/registry.h"
+#include "win32/values.h"
 #include "win32/wide.h"
 
 #include <cstdlib>
@@ -65,9 +67,37 @@ InstalledDll::~InstalledDll() {
 DllAddIn::DllAddIn(std::shared_ptr<Subscriptions> subscriptions, WindowsMachine& machine)
     : subscriptions_(std::move(subscriptions)), machine_(machine), add_in_(make_add_in()) {}
 
-void DllAddIn::connect(const host::ObjectPtr& application, int mode) {
+void DllAddIn::make() {
     if (was_connected_) add_in_ = make_add_in();
     was_connected_ = true;
+    ribbon_ = {};
+    must(add_in_->QueryInterface(win32::IID_IRibbonExtensibility, ribbon_.out_untyped()),
+         u"IRibbonExtensibility");
+}
+
+Text DllAddIn::custom_ui(TextView ribbon_id) {
+    const win32::Bstr id(ribbon_id);
+    win32::Variant markup; // owns the text
+    must(ribbon_->GetCustomUI(id.get(), &markup->bstrVal), u"GetCustomUI");
+    markup->vt = VT_BSTR;
+    return win32::text_of_bstr(markup->bstrVal);
+}
+
+/// As a mail client does it: by the name, late-bound.
+host::Value DllAddIn::run_callback(const Text& name, const host::ObjectPtr& argument) {
+    std::wstring wide_name = win32::wide(name);
+    LPOLESTR names[] = {wide_name.data()};
+    DISPID id = DISPID_UNKNOWN;
+    must(ribbon_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id), name);
+    win32::Variant passed = served_variant(argument, subscriptions_), answer;
+    DISPPARAMS parameters{passed.address(), nullptr, 1, 0};
+    must(ribbon_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, answer.address(),
+                         nullptr, nullptr),
+         name);
+    return win32::to_value(std::move(answer));
+}
+
+void DllAddIn::connect(const host::ObjectPtr& application, int mode) {
     must(add_in_->OnConnection(serve(application, subscriptions_).get(), mode, nullptr, nullptr),
          u"OnConnection");
 }

@@ -4,6 +4,7 @@
 #include "rehearsal/windows/dispatch_server.h"
 #include "rehearsal/windows/windows_machine.h"
 #include "win32/extensibility.h"
+#include "win32/ribbon_extensibility.h"
 
 namespace ornavel::rehearsal {
 
@@ -29,17 +30,21 @@ class DllAddIn final : public AddIn {
 public:
     DllAddIn(std::shared_ptr<Subscriptions> subscriptions, WindowsMachine& machine);
 
+    void make() override;
     void connect(const host::ObjectPtr& application, int mode) override;
     void start() override;
     void update() override;
     void shutdown() override;
     void disconnect(int remove_mode) override;
+    Text custom_ui(TextView ribbon_id) override;
+    host::Value run_callback(const Text& name, const host::ObjectPtr& argument) override;
     void show_page(const host::ObjectPtr& page, const Act& act) override { machine_.show_page(page, act); }
 
 private:
     std::shared_ptr<Subscriptions> subscriptions_;
     WindowsMachine& machine_;
     win32::ComPtr<win32::IDTExtensibility2> add_in_;
+    win32::ComPtr<win32::IRibbonExtensibility> ribbon_;
     bool was_connected_ = false;
 };
 

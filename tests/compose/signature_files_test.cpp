@@ -51,16 +51,8 @@ TEST(PhoneLabels, FollowTheNumberAndTheUsersLabel) {
         }
 }
 
-/// A machine of which only the user is known.
-class Machine final : public SystemInformation {
-    OperatingSystem operating_system() const override { return {}; }
-    int processor_type() const override { return 0; }
-    Memory memory() const override { return {}; }
-    Text computer_name() const override { return {}; }
-    Text user_name() const override { return u"jo"; }
-    Text registered_owner() const override { return {}; }
-    Text registered_organization() const override { return {}; }
-};
+/// A setting names the folder in every test.
+Text nowhere() { throw Failure(u"Nobody asks for it"); }
 
 TEST(SignatureFiles, ATextThatGrowsWithoutBoundIsLoggedAndTheOthersGoOn) {
     MemoryStore store;
@@ -76,7 +68,7 @@ TEST(SignatureFiles, ATextThatGrowsWithoutBoundIsLoggedAndTheOthersGoOn) {
     files.contents[u"C:\\source\\Many_template.htm"] = to_utf8(many);
     files.contents[u"C:\\source\\One_template.htm"] = "one";
     files.contents[u"C:\\target\\Many.html"] = "older";
-    write_signature_files(store, files, Machine(), reports);
+    write_signature_files(store, files, nowhere, reports);
     ASSERT_EQ(reports.entries.size(), 1u);
     EXPECT_EQ(reports.entries[0].section, u"SignatureFile_Err");
     EXPECT_EQ(files.contents[u"C:\\target\\Many.html"], "older");
@@ -94,7 +86,7 @@ TEST(SignatureFiles, NobodyEverSeesHalfOfOne) {
     files.contents[u"C:\\source\\A_template.htm"] = "new";
     files.contents[u"C:\\target\\A.html"] = "older";
     files.contents[u"C:\\target\\A.htm"] = "twin";
-    write_signature_files(store, files, Machine(), reports);
+    write_signature_files(store, files, nowhere, reports);
     EXPECT_EQ(files.contents[u"C:\\target\\A.html"], "older");
     EXPECT_EQ(files.contents[u"C:\\target\\A.htm"], "twin");
     EXPECT_EQ(reports.entries.size(), 1u);

@@ -59,7 +59,8 @@ std::vector<std::string> words_of(const std::string& html) {
 bool tells_another_text(const Planted& planted) {
     if (planted.fault != Fault::wrong_type && planted.fault != Fault::empty_value) return false;
     return planted.use.kind == Failing::Kind::read_file || planted.use.subject.ends_with(u".HTMLBody") ||
-           planted.use.subject.ends_with(u".Body") || planted.use.subject.ends_with(u".EditorType");
+           planted.use.subject.ends_with(u".Body") || planted.use.subject.ends_with(u".EditorType") ||
+           planted.use.subject.ends_with(u".BodyFormat");
 }
 
 bool lost_its_text(const std::string& body, const std::string& was, const std::string& sound) {

@@ -5,12 +5,12 @@
 namespace ornavel::rehearsal {
 namespace {
 
-const char* const outcome =
+const char* const an_outcome =
     R"({"name": "hello", "items": [{"Subject": "One", "saves": 1}, {"Subject": "Two"}],
                                 "error": null, "toolbar": []})";
 
 std::vector<std::string> compare(const char* expected) {
-    return mismatches(parse_json(expected, "expected"), parse_json(outcome, "outcome"));
+    return mismatches(parse_json(expected, "expected"), parse_json(an_outcome, "outcome"));
 }
 
 TEST(Expectation, IsMetByMoreThanItNames) {

@@ -219,5 +219,56 @@ TEST(ObjectModel, TheJournalTellsEachUseInOrder) {
     EXPECT_EQ(stage.journal.entries()[1].value, u"Hello!");
 }
 
+/// One item in front of a mail client of this version.
+std::string in_version(const std::string& version, const std::string& item) {
+    return R"({"do": [], "host": {"version": ")" + version + R"("}, "items": [{)" + item + "}]}";
+}
+
+TEST(ObjectModel, From2007OnTheEditorIsWordAndTheBodyTellsTheKind) {
+    for (const char* version : {"12.0", "14.0", "15.0", "16.0"}) {
+        struct Case {
+            const char* item;
+            int format;
+        };
+        constexpr Case cases[] = {{"", 2},
+                                  {R"("EditorType": 1)", 1},
+                                  {R"("EditorType": 3)", 3},
+                                  {R"("EditorType": 4)", 2},
+                                  {R"("EditorType": 1, "BodyFormat": 3)", 3}};
+        for (const auto& [item, format] : cases) {
+            Stage stage(in_version(version, item));
+            EXPECT_EQ(stage.item(0).inspector().editor_type(), 4) << item;
+            EXPECT_EQ(stage.item(0).body_format(), format) << item;
+        }
+    }
+}
+
+TEST(ObjectModel, UpTo2003ThereIsNoBodyFormat) {
+    for (const char* version : {"9.0", "10.0", "11.0", ""}) {
+        Stage stage(in_version(version, R"("EditorType": 3, "BodyFormat": 1)"));
+        EXPECT_EQ(stage.item(0).inspector().editor_type(), 3);
+        EXPECT_EQ(description_of([&] { stage.item(0).body_format(); }),
+                  u"Object doesn't support this property or method");
+    }
+}
+
+TEST(ObjectModel, AWindowWithTheRibbonHasNoStandardBar) {
+    struct Case {
+        const char* version;
+        bool explorer, message;
+    };
+    constexpr Case cases[] = {
+        {"11.0", true, true}, {"12.0", true, false}, {"14.0", false, false}, {"16.0", false, false}};
+    const auto has_bar = [](const host::CommandBars& bars) {
+        return description_of([&] { bars.item(u"Standard"); }) == u"nothing failed";
+    };
+    for (const auto& [version, explorer, message] : cases) {
+        Stage stage(in_version(version, ""));
+        stage.client.open_window(stage.client.items[0]);
+        EXPECT_EQ(has_bar(stage.application().active_explorer().command_bars()), explorer) << version;
+        EXPECT_EQ(has_bar(stage.application().message_windows().item(1).command_bars()), message) << version;
+    }
+}
+
 } // namespace
 } // namespace ornavel::rehearsal

@@ -1,5 +1,7 @@
 #include "rehearsal/player.h"
 
+#include "host/ribbon.h"
+
 #include "tests/rehearsal/stage.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +15,19 @@ struct NotingAddIn final : AddIn {
     host::Subscription events;
     bool cancels = false;
     std::function<void()> on_start = [] {};
+    Text markup;
+    std::function<host::Value(TextView, const host::ObjectPtr&)> answer =
+        [](TextView, const host::ObjectPtr&) { return host::Value(); };
 
+    void make() override {}
+    Text custom_ui(TextView ribbon_id) override {
+        told.push_back("ribbon " + to_utf8(ribbon_id));
+        return markup;
+    }
+    host::Value run_callback(const Text& name, const host::ObjectPtr& argument) override {
+        told.push_back(to_utf8(name));
+        return answer(name, argument);
+    }
     void connect(const host::ObjectPtr& application, int mode) override {
         told.push_back("connect " + std::to_string(mode));
         const auto send = [this](host::MailItem, bool& cancel) {
@@ -217,6 +231,105 @@ TEST(MemoryMachine, FailsWhatTheScenarioNames) {
     EXPECT_EQ(machine.launched(),
               parse_json(R"([{"program": "regedit.exe", "arguments": "/s a", "window": "minimised"}])",
                          "expected"));
+}
+
+using Calls = std::vector<std::string>;
+
+TEST(Player, In2010TheRibbonComesBeforeTheConnectionAndLaterBehindIt) {
+    const Calls first{"ribbon Microsoft.Mso.IMLayerUI", "ribbon Microsoft.Outlook.Explorer", "connect 1",
+                      "start"};
+    const Calls later{"connect 1", "ribbon Microsoft.Mso.IMLayerUI", "ribbon Microsoft.Outlook.Explorer",
+                      "start"};
+    const Calls never{"connect 1", "start"};
+    for (const auto& [version, told] : {std::pair{"11.0", never},
+                                        {"12.0", never},
+                                        {"14.0", first},
+                                        {"15.0", later},
+                                        {"16.0", later},
+                                        {"", never}}) {
+        Performance stage(R"({"do": ["connect", "start"], "host": {"version": ")" + std::string(version) +
+                          R"("}})");
+        stage.player.play();
+        EXPECT_EQ(stage.addin.told, told) << version;
+    }
+}
+
+/// Markup of one button, with a tag and callbacks of its own.
+Text markup_of(TextView tag) {
+    return u"<customUI xmlns='http://schemas.microsoft.com/office/2006/01/customui' "
+           u"onLoad='Load'><ribbon><tabs>"
+           u"<tab idMso='TabMail'><group id='g' label='G'><button id='b' tag='" +
+           Text(tag) +
+           u"' getLabel='Label' getVisible='Visible' onAction='Press'/></group></tab></tabs></ribbon>"
+           u"</customUI>";
+}
+
+/// An add-in with one button on every ribbon; its label counts how often it was asked.
+struct RibbonPerformance : Performance {
+    explicit RibbonPerformance(const std::string& acts, const std::string& more = "")
+        : Performance(
+              R"({"host": {"version": "16.0"}, "items": [{}, {"MessageClass": "IPM.TaskRequest"}], "do": )" +
+              acts + more + "}") {
+        addin.markup = markup_of(u"tag");
+        addin.answer = [this](TextView name, const host::ObjectPtr& argument) -> host::Value {
+            if (name == u"Load") ribbon = host::RibbonUI(argument);
+            if (name == u"Visible") return true;
+            if (name == u"Label") return u"asked " + to_text(++asked);
+            if (name == u"Press") pressed.push_back(host::RibbonControl(argument).tag());
+            return {};
+        };
+    }
+    host::RibbonUI ribbon;
+    int asked = 0;
+    std::vector<Text> pressed;
+};
+
+TEST(Player, ALabelIsAskedForAgainOnlyAfterAnInvalidationAndNotAtOnce) {
+    RibbonPerformance stage(R"(["connect", "start", "update", {"click": "tag"}])");
+    stage.addin.on_start = [&] {
+        stage.ribbon.invalidate();
+        stage.ribbon.invalidate();
+        EXPECT_EQ(stage.asked, 1);
+    };
+    const Json outcome = stage.outcome();
+    EXPECT_EQ(stage.asked, 2);
+    EXPECT_EQ(outcome.at("toolbar")[0].at("caption"), "asked 2");
+    EXPECT_EQ(stage.pressed, std::vector<Text>{u"tag"});
+    EXPECT_EQ(outcome.at("error"), Json());
+}
+
+TEST(Player, AWindowOfAMessageHasARibbonOfItsKindThatIsLoadedOnce) {
+    RibbonPerformance stage(R"(["connect", {"dress": 0}, {"dress": 0}])");
+    stage.addin.markup = markup_of(u"SendOptions");
+    stage.outcome();
+    EXPECT_EQ(std::ranges::count(stage.addin.told, "ribbon Microsoft.Outlook.Mail.Compose"), 1);
+    EXPECT_EQ(stage.pressed.size(), 2u);
+}
+
+TEST(Player, AWindowOfATaskHasAnotherRibbon) {
+    RibbonPerformance stage(R"(["connect", {"dress": 1}])");
+    stage.addin.markup = markup_of(u"SendOptions");
+    stage.outcome();
+    EXPECT_EQ(std::ranges::count(stage.addin.told, "ribbon Microsoft.Outlook.Task"), 1);
+}
+
+TEST(Player, MarkupThatBreaksTheSchemaReachesTheMailClientAsAnError) {
+    RibbonPerformance stage(R"(["connect", "start"])");
+    stage.addin.markup = u"<customUI><button/></customUI>";
+    EXPECT_NE(stage.outcome().at("error"), Json());
+}
+
+TEST(Player, AButtonThatNobodySeesCannotBePressed) {
+    RibbonPerformance stage(R"(["connect", {"click": "tag"}])");
+    stage.addin.answer = [](TextView, const host::ObjectPtr&) { return host::Value(false); };
+    EXPECT_EQ(stage.refusal(), "stage: do[1]: no such button");
+}
+
+TEST(Player, TheRibbonOfAnUnloadedAddInIsGoneAndAsksNobody) {
+    RibbonPerformance stage(R"(["connect", "start", {"disconnect": 1}])");
+    const Json outcome = stage.outcome();
+    EXPECT_EQ(outcome.at("toolbar"), Json::array());
+    EXPECT_EQ(description_of([&] { stage.ribbon.invalidate(); }), u"The object has been deleted or moved.");
 }
 
 } // namespace

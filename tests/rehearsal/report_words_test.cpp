@@ -107,6 +107,11 @@ TEST(ReportWords, WhatCameInNamesTheKindAndTheMailClient) {
     EXPECT_EQ(came_in(u"11.0.5608", {.is_word_mail = true}), "a Word-written message from Outlook 2003");
     EXPECT_EQ(came_in(u"11.0.5608", {.message_class = u"IPM.Schedule.Meeting.Request"}),
               "a meeting request from Outlook 2003");
+    EXPECT_EQ(came_in(u"12.0.4518", {.editor_type = 3}), "a rich-text message from Outlook 2007");
+    EXPECT_EQ(came_in(u"14.0.4760", {.body_format = 1}), "a plain-text message from Outlook 2010");
+    EXPECT_EQ(came_in(u"15.0.4420", {.editor_type = 1, .body_format = 2}),
+              "an HTML message from Outlook 2013");
+    EXPECT_EQ(came_in(u"16.0", {}), "an HTML message from Outlook 2016 or later");
 }
 
 TEST(ReportPage, NamesOfStoriesAreText) {
