@@ -3,6 +3,7 @@
 #include "forms/about_box.h"
 #include "forms/measures.h"
 #include "forms/stationery.h"
+#include "forms/unwritten_box.h"
 #include "settings/modes.h"
 
 #include <algorithm>
@@ -202,9 +203,8 @@ bool frmPropPage::is_ticked(TextView check_box) const { return form_.find(check_
 void frmPropPage::apply() {
     const std::vector<Change> changed = changes();
     const Text mode_before = read(needs_.settings, user::SettingButtonBar);
-    if (const Key* refused = write_changes(needs_.settings, changed))
-        return needs_.windows.inform(u"Ornavel", u"Nothing was changed, because the setting " +
-                                                     Text(refused->name) + u" can't be written.");
+    if (const auto unwritten = write_changes(needs_.settings, changed))
+        tell_unwritten(needs_.windows, u"Ornavel", *unwritten);
     const Text mode = read(needs_.settings, user::SettingButtonBar);
     if (mode != mode_before) needs_.change_mode(mode_before, mode);
 }

@@ -26,7 +26,7 @@ public:
     Form& form() { return form_; }
     /// Whether what is chosen differs from what is stored.
     bool is_dirty() const { return !changes().empty(); }
-    /// Writes what differs, all of it or nothing; the user is told when it can't be written.
+    /// Writes what differs. Where that fails, what was written is taken back, and the user is told.
     void apply();
 
 private:

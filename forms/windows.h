@@ -3,6 +3,7 @@
 #include "base/message_box.h"
 #include "forms/form.h"
 
+#include <functional>
 #include <optional>
 
 namespace ornavel::forms {
@@ -27,6 +28,8 @@ public:
     /// The full path that the user chose; nothing when the user cancelled. Throws Failure when there is no
     /// window to be had.
     virtual std::optional<Text> ask_for_path(const PathQuestion& question) = 0;
+    /// Runs what may take a while, as a look at a share does; meanwhile the user sees that something is done.
+    virtual void while_user_waits(const std::function<void()>& body) { body(); }
     /// Keeps another program's window above all others, where there is such a window.
     virtual void keep_on_top(int) {}
 };

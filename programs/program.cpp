@@ -1,5 +1,7 @@
 #include "programs/program.h"
 
+#include "forms/unwritten_box.h"
+
 namespace ornavel::programs {
 
 int run(const Program& program, const Platform& platform) noexcept {
@@ -16,12 +18,9 @@ int run(const Program& program, const Platform& platform) noexcept {
 
 bool save_or_tell(const Platform& platform, TextView title,
                   const std::vector<settings::Change>& changes) noexcept {
-    const settings::Key* failed = settings::write_changes(platform.settings, changes);
-    if (!failed) return true;
-    attempt([&] {
-        platform.windows.inform(title, u"Nothing was changed, because the setting " + Text(failed->name) +
-                                           u" can't be written.");
-    });
+    const auto unwritten = settings::write_changes(platform.settings, changes);
+    if (!unwritten) return true;
+    attempt([&] { forms::tell_unwritten(platform.windows, title, *unwritten); });
     return false;
 }
 

@@ -41,7 +41,8 @@ inline constexpr int ended = 0, gave_up = 1;
 /// Runs the program to its end. What it throws is told to the user, and gives the exit code gave_up.
 int run(const Program& program, const Platform& platform) noexcept;
 
-/// Writes all of the changes, or none and tells the user why in one sentence. Whether they are written.
+/// Writes all of the changes. Where one can't be written, what was written before it is taken back, and the
+/// user is told in one sentence. Whether they are written.
 bool save_or_tell(const Platform& platform, TextView title,
                   const std::vector<settings::Change>& changes) noexcept;
 

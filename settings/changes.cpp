@@ -13,8 +13,8 @@ bool write(Store& store, const Change& change) noexcept {
 }
 
 /// What fails once, as while another program holds the key, must not leave half of the changes.
-void put_back(Store& store, const Change& before) noexcept {
-    if (!write(store, before)) write(store, before);
+bool put_back(Store& store, const Change& before) noexcept {
+    return write(store, before) || write(store, before);
 }
 
 /// The values that stand there now, in the order of the changes.
@@ -33,18 +33,24 @@ std::vector<Change> as_they_are(const Store& store, const std::vector<Change>& c
 
 } // namespace
 
-const Key* write_changes(Store& store, const std::vector<Change>& changes) noexcept {
-    if (changes.empty()) return nullptr;
+std::optional<Unwritten> write_changes(Store& store, const std::vector<Change>& changes) noexcept {
+    if (changes.empty()) return {};
+    Unwritten unwritten{&changes.front().key, {}};
     std::vector<Change> before;
-    // What can't be put back is not begun.
-    if (!attempt([&] { before = as_they_are(store, changes); })) return &changes.front().key;
+    // Without memory to put everything back, and to tell what could not be, nothing is begun.
+    const auto prepare = [&] {
+        before = as_they_are(store, changes);
+        unwritten.changed.reserve(changes.size());
+    };
+    if (!attempt(prepare)) return unwritten;
     for (std::size_t i = 0; i < changes.size(); ++i) {
         if (write(store, changes[i])) continue;
-        const Key& failed = changes[i].key;
-        while (i-- > 0) put_back(store, before[i]);
-        return &failed;
+        unwritten.refused = &changes[i].key;
+        for (std::size_t written = 0; written < i; ++written)
+            if (!put_back(store, before[written])) unwritten.changed.push_back(&changes[written].key);
+        return unwritten;
     }
-    return nullptr;
+    return {};
 }
 
 } // namespace ornavel::settings

@@ -68,6 +68,18 @@ void hand_out_messages() {
     }
 }
 
+/// The pointer of the mouse is the system's sign for work, for as long as this lives.
+class WaitCursor {
+public:
+    WaitCursor() : before_(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) {}
+    ~WaitCursor() { SetCursor(before_); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+private:
+    HCURSOR before_;
+};
+
 TextView folder_of(TextView program) {
     const auto slash = program.find_last_of(u'\\');
     return slash == TextView::npos ? TextView() : program.substr(0, slash + 1);
@@ -121,6 +133,11 @@ void DesktopWindows::show_modal(forms::Form& form) {
 
 std::optional<Text> DesktopWindows::ask_for_path(const forms::PathQuestion& question) {
     return win32::ask_for_path(owner_of_boxes(), question);
+}
+
+void DesktopWindows::while_user_waits(const std::function<void()>& body) {
+    const WaitCursor shown;
+    body();
 }
 
 void DesktopWindows::keep_on_top(int window) {

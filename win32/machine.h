@@ -29,6 +29,7 @@ public:
     Answer show(TextView title, TextView text, Buttons buttons) override;
     void show_modal(forms::Form& form) override;
     std::optional<Text> ask_for_path(const forms::PathQuestion& question) override;
+    void while_user_waits(const std::function<void()>& body) override;
     void keep_on_top(int window) override;
 };
 

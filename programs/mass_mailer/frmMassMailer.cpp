@@ -11,6 +11,12 @@ namespace {
 /// As a label shows it: a "&" marks no access key.
 Text as_caption(TextView text) { return replace_all(Text(text), u"&", u"&&"); }
 
+/// What has no room in the label is read in its tool tip.
+void show_words(Control& label, const Text& words) {
+    label.caption = as_caption(words);
+    label.tool_tip = words;
+}
+
 Text counted(TextView words, std::size_t count) {
     return Text(words) + u": " + to_text(static_cast<long long>(count));
 }
@@ -163,8 +169,8 @@ void frmMassMailer::show_person(std::size_t person) {
     attempt([&] {
         Letter letter{{}, form_[u"txtSubject"].text, page_};
         if (count != 0) letter = letter_to(people_.people[shown_]);
-        form_[u"lblPreview"].caption =
-            as_caption(letter.address.empty() ? u"Preview" : letter.address + u": " + letter.subject);
+        show_words(form_[u"lblPreview"], letter.address.empty() ? u"Preview" : letter.address);
+        show_words(form_[u"lblPreviewSubject"], u"Subject: " + letter.subject);
         platform_.files.write(preview_path(), encode_html(letter.page));
         form_[u"brwPreview"].visit(preview_path());
     });

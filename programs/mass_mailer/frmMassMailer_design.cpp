@@ -9,6 +9,7 @@ using namespace forms;
 
 constexpr int left = window_margin, column_width = 5100, column_end = left + column_width;
 constexpr int page_left = column_end + window_margin;
+constexpr int subject_height = 2 * label_height; ///< a long subject goes on in another line
 constexpr int list_height = 1200, progress_height = 255, bottom_margin = 255;
 
 Control designed(ControlKind kind, TextView name, TextView caption = {}) {
@@ -65,9 +66,10 @@ void arrange_column(Form& form, int bottom) {
 }
 
 void arrange_page(Form& form, int right, int bottom) {
-    constexpr int top = window_margin + label_height + label_gap;
+    constexpr int subject = window_margin + label_height, top = subject + subject_height + label_gap;
     const int buttons = bottom - button_size.height;
     form[u"lblPreview"].place = {page_left, window_margin, right - page_left, label_height};
+    form[u"lblPreviewSubject"].place = {page_left, subject, right - page_left, subject_height};
     form[u"brwPreview"].place = {page_left, top, right - page_left, buttons - control_gap - top};
     form[u"cmdPrevious"].place = {page_left, buttons, button_size.width, button_size.height};
     form[u"cmdFollowing"].place = {page_left + button_size.width + control_gap, buttons, button_size.width,
@@ -111,6 +113,7 @@ std::vector<Control> controls() {
         label(u"lblRejected", u"&Not sent to"),
         designed(ControlKind::list_box, u"lstRejected"),
         label(u"lblPreview", u"Preview"),
+        label(u"lblPreviewSubject", {}),
         designed(ControlKind::web_browser, u"brwPreview"),
         button(u"cmdPrevious", u"&Previous"),
         button(u"cmdFollowing", u"&Following"),

@@ -83,12 +83,10 @@ void arrange_buttons(Form& form, int width, int top) {
 void arrange_import(Form& form, int width, int height) {
     const int inner = width - 2 * window_margin, bottom = height - window_margin - grip_margin;
     place(form, u"fraImport", {window_margin, window_margin, inner, bottom});
-    const int list = 2 * window_margin + label_height;
+    constexpr int label = window_margin + control_gap, list = label + label_height + label_gap;
     const int buttons = bottom - window_margin - button_size.height;
-    place(form, u"lblImport",
-          {window_margin, window_margin + control_gap, inner - 2 * window_margin, label_height});
-    place(form, u"lstImport",
-          {window_margin, list + control_gap, inner - 2 * window_margin, buttons - list - 2 * control_gap});
+    place(form, u"lblImport", {window_margin, label, inner - 2 * window_margin, label_height});
+    place(form, u"lstImport", {window_margin, list, inner - 2 * window_margin, buttons - control_gap - list});
     const int cancel = inner - window_margin - button_size.width;
     place(form, u"cmdTakeOver",
           {cancel - control_gap - button_size.width, buttons, button_size.width, button_size.height});
@@ -104,7 +102,7 @@ std::vector<Control> controls() {
     frame.visible = false;
     Control value_list = control(ControlKind::combo_box, u"cboValue");
     return {
-        control(ControlKind::label, u"lblSearch", u"Searc&h"),
+        control(ControlKind::label, u"lblSearch", u"Se&arch"),
         control(ControlKind::text_box, u"txtSearch"),
         control(ControlKind::label, u"lblGroups", u"&Groups"),
         control(ControlKind::list_box, u"lstGroups"),

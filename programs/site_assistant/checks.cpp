@@ -75,7 +75,7 @@ TextView attribute_value(TextView rest) {
 Text short_name(TextView path) {
     constexpr std::size_t longest = 60;
     const TextView name = path.substr(path.find_last_of(u'\\') + 1);
-    return name.size() <= longest ? Text(name) : Text(name.substr(0, longest - 3)) + u"...";
+    return name.size() <= longest ? Text(name) : Text(name.substr(0, longest - 1)) + u"…";
 }
 
 Text warning_about_marker(const Text& path, TextView html) {

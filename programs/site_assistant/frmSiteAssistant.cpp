@@ -135,12 +135,17 @@ void frmSiteAssistant::cmdNext_Click() {
 
 /// A warning is passed by a second click.
 bool frmSiteAssistant::page_may_be_left() {
-    if (const auto problem = refusal_of(form_, frame(), platform_.files)) {
+    std::optional<Problem> problem;
+    Text warning;
+    platform_.windows.while_user_waits([&] {
+        problem = refusal_of(form_, frame(), platform_.files);
+        if (!problem) warning = warning_of(form_, frame(), platform_.files);
+    });
+    if (problem) {
         tell(problem->sentence);
         form_.next_focus = problem->control;
         return false;
     }
-    const Text warning = warning_of(form_, frame(), platform_.files);
     if (warning.empty() || warning == warned_) return true;
     tell(warned_ = warning);
     return false;

@@ -96,7 +96,7 @@ void add_you(std::vector<Control>& all) {
     page.text_box(u"txtSigAddress2", u"A&ddress line 2", second, 4);
     page.text_box(u"txtSigAddress3", u"Address &line 3", second, 5);
     page.text_box(u"txtSigAddress4", u"Address l&ine 4", second, 6);
-    page.check_box(u"chkFrench", u"I have texts in F&rench, too", 8);
+    page.check_box(u"chkFrench", u"I have texts in F&rench, too", 7);
 }
 
 void add_french(std::vector<Control>& all) {
@@ -113,8 +113,8 @@ void add_french(std::vector<Control>& all) {
 
 void add_letterhead(std::vector<Control>& all) {
     Sheet page(all, u"fraLetterhead", u"Letterhead");
-    page.path_box(u"txtTemplatesFolder", u"&Templates in", u"cmdBrowseTemplates", u"B&rowse...", 0);
-    page.path_box(u"txtSignaturesFolder", u"&Signatures in", u"cmdBrowseSignatures", u"Br&owse...", 1);
+    page.path_box(u"txtTemplatesFolder", u"&Templates in", u"cmdBrowseTemplates", u"B&rowse…", 0);
+    page.path_box(u"txtSignaturesFolder", u"&Signatures in", u"cmdBrowseSignatures", u"Br&owse…", 1);
     page.labelled(ControlKind::combo_box, u"cboTemplates", u"Te&mplate", inner, 2, column_width);
     page.labelled(ControlKind::combo_box, u"cboSignatures", u"Si&gnature", second, 2, column_width);
     constexpr int top = row_top(3) + 30;
@@ -128,7 +128,7 @@ void add_sending(std::vector<Control>& all) {
         true;
     page.check_box(u"chkAutoPreview", u"Show a &preview before a message is sent", 1);
     page.check_box(u"chkReplyAsIs", u"Send &replies as they are, without a letterhead", 2);
-    page.path_box(u"txtvCard", u"&vCard file", u"cmdBrowsevCard", u"Br&owse...", 3);
+    page.path_box(u"txtvCard", u"&vCard file", u"cmdBrowsevCard", u"Br&owse…", 3);
     page.check_box(u"chkSendvCard", u"Offer to send the v&Card with a message", 4);
     page.check_box(u"chkInsertDate", u"Put the &date into messages", 5);
     page.check_box(u"chkSendQuote", u"Put the &quote of the day into messages", 6);

@@ -45,8 +45,11 @@ void frmSiteAssistant::open_letterhead() {
 void frmSiteAssistant::list_stationery() {
     const auto names_in = [&](TextView control) {
         std::vector<Text> names;
-        attempt(
-            [&] { names = forms::stationery_in(platform_.files, without_end(trim(form_[control].text))); });
+        attempt([&] {
+            const Text folder(without_end(trim(form_[control].text)));
+            platform_.windows.while_user_waits(
+                [&] { names = forms::stationery_in(platform_.files, folder); });
+        });
         return names;
     };
     fill(form_[u"cboTemplates"], names_in(u"txtTemplatesFolder"));
@@ -60,7 +63,9 @@ void frmSiteAssistant::render() {
     show_whole_names();
     attempt([&] {
         UnsavedSettings unsaved(platform_.settings, changes());
-        const Text html = sample_letter(unsaved, platform_.files, platform_.clock);
+        Text html;
+        platform_.windows.while_user_waits(
+            [&] { html = sample_letter(unsaved, platform_.files, platform_.clock); });
         platform_.files.create_folder(platform_.scratch_folder);
         platform_.files.write(page_of_preview(), encode_html(html));
         form_[u"brwPreview"].visit(page_of_preview());

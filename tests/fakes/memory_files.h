@@ -10,7 +10,8 @@
 
 namespace ornavel {
 
-/// A disk in memory. A path in `refused` can't be read, written or removed.
+/// A disk in memory. A path in `refused` can't be read, written or removed. `at_look` is told each path that
+/// is asked after or read.
 class MemoryFiles final : public Files {
 public:
     struct NameOrder {
@@ -20,11 +21,19 @@ public:
     std::set<Text, NameOrder> folders;
     std::set<Text, NameOrder> refused;
     std::set<Text, NameOrder> links; ///< folders that lead elsewhere
+    std::function<void(TextView path)> at_look = [](TextView) {};
 
-    bool file_exists(TextView path) const override { return contents.count(Text(path)) != 0; }
-    bool folder_exists(TextView path) const override { return folders.count(Text(path)) != 0; }
+    bool file_exists(TextView path) const override {
+        at_look(path);
+        return contents.count(Text(path)) != 0;
+    }
+    bool folder_exists(TextView path) const override {
+        at_look(path);
+        return folders.count(Text(path)) != 0;
+    }
 
     std::vector<Text> list(TextView folder) const override {
+        at_look(folder);
         std::vector<Text> names;
         const Text prefix = Text(folder) + u"\\";
         for (const auto& [path, bytes] : contents)
@@ -44,6 +53,7 @@ public:
     }
 
     std::string read(TextView path) const override {
+        at_look(path);
         require_access(path);
         const auto found = contents.find(Text(path));
         if (found == contents.end()) throw Failure(u"File not found");

@@ -35,7 +35,14 @@ public:
         return path;
     }
 
+    void while_user_waits(const std::function<void()>& body) override {
+        user_waits = true;
+        body();
+        user_waits = false;
+    }
+
     int forms_shown = 0;
+    bool user_waits = false;           ///< and sees so
     std::vector<Text> boxes;           ///< title and text of each message box
     std::function<bool(TextView)> yes; ///< which questions are answered so, by their text
     std::vector<Text> questions;       ///< titles of the file dialogs

@@ -5,6 +5,7 @@
 #include "tests/fakes/memory_files.h"
 #include "tests/fakes/recording_launcher.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/fakes/stubborn_store.h"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +40,7 @@ protected:
     FormUser user() { return FormUser(page().form()); }
     std::optional<Text> stored(const Key& key) const { return store.find(key.section, key.name); }
 
-    MemoryStore store;
+    StubbornStore store;
     MemoryFiles files;
     ScriptedWindows windows;
     RecordingLauncher launcher;
@@ -107,6 +108,18 @@ TEST_F(OptionsPage, HandsAChangedModeOverWithTheOneBefore) {
     user().select(u"cboTemplates", 0);
     page().apply();
     EXPECT_EQ(modes.size(), 1U);
+}
+
+TEST_F(OptionsPage, AModeThatCantBeTakenBackIsHandedOverAllTheSame) {
+    user().select(u"cboMode", 2);
+    user().select(u"cboTemplates", 0);
+    store.writes_left = 1;
+    page().apply();
+    EXPECT_EQ(stored(user::SettingButtonBar), modes::off);
+    EXPECT_EQ(modes, (std::vector<std::pair<Text, Text>>{{u"auto", u"off"}}));
+    EXPECT_EQ(windows.boxes,
+              std::vector<Text>{u"Ornavel: The setting Template can't be written, and what was written "
+                                u"before it can't be taken back: SettingButtonBar."});
 }
 
 TEST_F(OptionsPage, KeepsTheSpellingOfANameThatDiffersInCaseOnly) {

@@ -3,6 +3,7 @@
 #include "base/encoding.h"
 #include "rehearsal/windows/window_picture.h"
 #include "tests/gallery/states.h"
+#include "win32/wide.h"
 #include "win32/window_name.h"
 
 #include <algorithm>
@@ -54,6 +55,29 @@ bool open_list(HWND form) {
     return list_is_open = true;
 }
 
+Text beside_picture(TextView extension) { return folder + u"\\" + Text(shown->name) + Text(extension); }
+
+/// A page that nothing here can draw is left beside the picture, with its place in it.
+BOOL CALLBACK keep_page(HWND window, LPARAM frame) {
+    if (win32::name_of(window) != u"brwPreview" || !IsWindowVisible(window)) return TRUE;
+    wchar_t page[MAX_PATH] = {};
+    GetWindowTextW(window, page, MAX_PATH);
+    RECT room;
+    GetClientRect(window, &room);
+    POINT corner{};
+    ClientToScreen(window, &corner);
+    const RECT& whole = *reinterpret_cast<const RECT*>(frame);
+    const std::string place = std::to_string(room.right) + "x" + std::to_string(room.bottom) + "+" +
+                              std::to_string(corner.x - whole.left) + "+" +
+                              std::to_string(corner.y - whole.top);
+    attempt([&] {
+        win32::WindowsFiles files;
+        files.write(beside_picture(u".html"), files.read(win32::text_of(page)));
+        files.write(beside_picture(u".place"), place);
+    });
+    return FALSE;
+}
+
 /// The window has been drawn by now: a timer comes after everything else in the queue.
 void CALLBACK take_picture(HWND, UINT, UINT_PTR, DWORD) {
     HWND window = nullptr;
@@ -62,7 +86,8 @@ void CALLBACK take_picture(HWND, UINT, UINT_PTR, DWORD) {
     RECT frame;
     GetWindowRect(window, &frame);
     if (list_is_open) frame.bottom += 150;
-    attempt([&] { rehearsal::write_picture(frame, folder + u"\\" + Text(shown->name) + u".bmp"); });
+    attempt([&] { rehearsal::write_picture(frame, beside_picture(u".bmp")); });
+    EnumChildWindows(window, keep_page, reinterpret_cast<LPARAM>(&frame));
     close(window);
 }
 

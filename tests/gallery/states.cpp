@@ -1,7 +1,9 @@
 #include "tests/gallery/states.h"
 
 #include "forms/form_user.h"
+#include "programs/site_assistant/fields.h"
 #include "tests/gallery/options_program.h"
+#include "tests/programs/identity.h"
 
 namespace ornavel::gallery {
 namespace {
@@ -66,15 +68,7 @@ void show_attachment_names(forms::frmBrowser& preview) {
     form[u"txtAttachments"].enabled = false;
 }
 
-void with_identity(Stage& stage) {
-    stage.set(admin::SigFullname, u"Jo Sender");
-    stage.set(admin::SigPosition, u"Partner");
-    stage.set(admin::SigOrganizationName, u"Marlow &amp; Hale");
-    stage.set(admin::SigEmail, u"jo@example.com");
-    stage.set(admin::SigWebsite, u"www.example.com");
-    stage.set(admin::SigTelephone, u"+44 20 7946 0000");
-    stage.set(user::SettingButtonBar, u"auto");
-}
+void with_identity(Stage& stage) { programs::save_identity(stage.store); }
 
 /// Values as long as somebody may have them, in every box.
 void with_long_identity(Stage& stage) {
@@ -85,6 +79,24 @@ void with_long_identity(Stage& stage) {
     stage.set(admin::SigWebsite, u"www.marlow-hale-venables.example.com/partners/josephine");
     stage.set(admin::HTMFilesPath, stage.folder.substr(0, stage.folder.size() - 1));
     stage.set(user::vCardPath, u"\\\\server\\share\\people\\" + Text(80, u'v') + u".vcf");
+}
+
+/// The stationery of the samples, where the package puts it.
+void with_samples(Stage& stage) {
+    with_identity(stage);
+    stage.set(admin::HTMFilesPath, u"C:\\Stationery\\Templates");
+    stage.set(admin::SignaturesPath, u"C:\\Stationery\\Signatures");
+    stage.set(user::Template, u"letterhead.htm");
+    stage.set(user::Signature, u"partner.htm");
+}
+
+/// What a new user tells who has chosen from the samples.
+void tell_all(Form& form) {
+    settings::MemoryStore told;
+    programs::save_identity(told);
+    for (const programs::Field& field : programs::setup_fields())
+        if (const auto value = told.find(field.key.section, field.key.name))
+            programs::show_value(form, field, *value);
 }
 
 void clear_identity(Form& form) {
@@ -172,6 +184,7 @@ constexpr State all[] = {
          stage.set(user::Signature, long_name);
          stage.show_setup(2);
      }},
+    {u"setup-letterhead-samples", [](Stage& stage) { with_samples(stage), stage.show_setup(1); }},
     {u"setup-sending", [](Stage& stage) { with_identity(stage), stage.show_setup(2); }},
     {u"setup-sending-own-signature",
      [](Stage& stage) {
@@ -181,6 +194,7 @@ constexpr State all[] = {
          stage.show_setup(2);
      }},
     {u"setup-ready", [](Stage& stage) { with_identity(stage), stage.show_setup(3); }},
+    {u"setup-ready-new-user", [](Stage& stage) { stage.show_setup(3, tell_all); }},
     {u"setup-ready-long", [](Stage& stage) { with_identity(stage), stage.show_setup(3, change_everything); }},
     {u"many-empty", [](Stage& stage) { stage.show_send_to_many({}); }},
     {u"many",

@@ -1,11 +1,6 @@
 // Ends the real Send to Many at random moments, starts it again, and looks whether anybody got two messages
 // or was forgotten. Usage: kills MASSMAILER.exe [ENDS [PEOPLE [SEED]]]
-#include "programs/mass_mailer/journal.h"
-#include "tests/kills/mail_server.h"
-#include "tests/kills/program_window.h"
-#include "tests/mass_mailer/fake_mail_client.h"
-#include "win32/registry_store.h"
-#include "win32/windows_files.h"
+#include "tests/kills/sender.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -15,34 +10,15 @@
 namespace ornavel::kills {
 namespace {
 
-constexpr TextView list_path = u"C:\\kills\\list.csv";
-constexpr TextView subject = u"Hello {{Name}}", page = u"<p>Dear {{Name}}</p>";
-
-Text address(int person) { return u"p" + to_text(person) + u"@example.com"; }
-
-Text list_of(int people) {
-    Text list = u"Name,Mail\r\n";
-    for (int i = 0; i < people; ++i) list += u"N" + to_text(i) + u"," + address(i) + u"\r\n";
-    return list;
-}
-
 class Trial {
 public:
     Trial(Text program, int people, unsigned seed)
-        : program_(std::move(program)), people_(people), random_(seed) {
-        files_.remove_folder_if_there();
-        files_.disk.create_folder(u"C:\\kills");
-        files_.disk.write(list_path, to_utf8(list_of(people)));
-        files_.disk.write(u"C:\\kills\\myTestHtmlFile.html", to_utf8(page));
-        win32::RegistryStore settings;
-        save(settings, settings::admin::SendToManySubject, subject);
-        save(settings, settings::admin::BrowserPath, u"C:\\kills");
-    }
+        : sender_(std::move(program), people), people_(people), random_(seed) {}
 
     /// Starts the program, presses Start, and ends the program at some moment; false when it was done before.
     bool start_and_end() {
-        ProgramWindow window(program_, u"frmMassMailer");
-        open_list(window);
+        ProgramWindow window = sender_.window();
+        sender_.open_list(window, 0);
         const int last_message = sent() + between(0, 5);
         bool is_done = !press_start(window);
         const auto is_over = [&] { return sent() >= last_message || !window.box().empty(); };
@@ -59,26 +35,26 @@ public:
 
     /// Starts the program and lets it come to its end.
     int start_and_finish() {
-        ProgramWindow window(program_, u"frmMassMailer");
-        open_list(window);
+        ProgramWindow window = sender_.window();
+        sender_.open_list(window, 0);
         if (press_start(window)) window.answer(IDOK);
         window.close();
         pump_until([&] { return !window.runs(); }, u"the program's end");
         return window.exit_code();
     }
 
-    int sent() const { return static_cast<int>(client_.sent.size()); }
+    int sent() const { return static_cast<int>(sender_.client.sent.size()); }
 
     /// Prints what came of everybody; whether the promise was kept.
     bool is_kept(int ends) {
-        const mass_mailer::Journal journal(files_.disk, mass_mailer::journal_stems(list_path, {}),
-                                           mass_mailer::hash_of(subject, page, list_of(people_), 1));
-        const auto counts = client_.messages_by_address();
+        const mass_mailer::Journal journal = sender_.journal();
+        const auto counts = sender_.client.messages_by_address();
         int with_one = 0, with_two = 0, unknown = 0, unknown_with_one = 0, forgotten = 0;
         for (int i = 0; i < people_; ++i) {
-            const auto found = counts.find(address(i));
+            const auto found = counts.find(Sender::address(i));
             const int messages = found == counts.end() ? 0 : found->second;
-            const bool is_unknown = journal.state_of(address(i)) == mass_mailer::Journal::State::unknown;
+            const bool is_unknown =
+                journal.state_of(Sender::address(i)) == mass_mailer::Journal::State::unknown;
             with_one += messages == 1;
             with_two += messages > 1;
             unknown += is_unknown;
@@ -93,20 +69,7 @@ public:
     }
 
 private:
-    struct Disk {
-        win32::WindowsFiles disk;
-        void remove_folder_if_there() {
-            if (disk.folder_exists(u"C:\\kills")) disk.remove_folder(u"C:\\kills");
-        }
-    };
-
     int between(int least, int most) { return std::uniform_int_distribution<int>(least, most)(random_); }
-
-    void open_list(const ProgramWindow& window) const {
-        window.type(u"txtList", list_path);
-        window.type(u"txtPace", u"0");
-        pump_until([&] { return window.entries_of(u"lstPeople") == people_; }, u"the list");
-    }
 
     /// Agrees to everything but a second message to anybody; false when everybody has theirs.
     static bool press_start(const ProgramWindow& window) {
@@ -123,12 +86,9 @@ private:
         return asks;
     }
 
-    Text program_;
+    Sender sender_;
     int people_;
     std::mt19937 random_;
-    Disk files_;
-    mass_mailer::FakeMailClient client_;
-    MailServer server_{client_};
 };
 
 int run(int count, char** arguments) {

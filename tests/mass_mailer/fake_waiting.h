@@ -11,11 +11,12 @@ class FakeWaiting final : public Waiting {
 public:
     long long now = 1'000;
     int turns = 0; ///< waits in which nothing but the user's turn passes
+    int late = 0;  ///< by how much the end of each other wait is noticed too late
     std::function<void()> at_wait = [] {};
 
     long long milliseconds() override { return now; }
     void wait(int milliseconds) override {
-        now += milliseconds;
+        now += milliseconds == 0 ? 0 : milliseconds + late;
         turns += milliseconds == 0;
         at_wait();
     }

@@ -80,12 +80,16 @@ TEST_F(SendToManyWindow, ShowsTheListAndEachPersonsMessage) {
         EXPECT_EQ(form[u"txtSubject"].text, u"Hello {{Name}}");
         EXPECT_EQ(form[u"txtPace"].text, u"30");
         EXPECT_FALSE(form[u"cmdStart"].enabled);
+        EXPECT_EQ(form[u"lblPreview"].caption, u"Preview");
+        EXPECT_EQ(form[u"lblPreviewSubject"].caption, u"Subject: Hello {{Name}}");
         user.set_text(u"txtList", list);
         EXPECT_EQ(form[u"cboAddressColumn"].text, u"E-mail");
         EXPECT_EQ(form[u"lstPeople"].items, (Texts{u"ann@x", u"bob@x"}));
         EXPECT_EQ(form[u"lstRejected"].items, Texts{u"Line 4: There is no address"});
         EXPECT_EQ(form[u"lblPeople"].caption, u"P&eople: 2");
-        EXPECT_EQ(form[u"lblPreview"].caption, u"ann@x: Hello Ann");
+        EXPECT_EQ(form[u"lblPreview"].caption, u"ann@x");
+        EXPECT_EQ(form[u"lblPreviewSubject"].caption, u"Subject: Hello Ann");
+        EXPECT_EQ(form[u"lblPreviewSubject"].tool_tip, u"Subject: Hello Ann");
         EXPECT_EQ(files.contents[form[u"brwPreview"].page], "<p>Dear Ann</p>");
         EXPECT_FALSE(form[u"cmdPrevious"].enabled);
         user.click(u"cmdFollowing");
@@ -93,7 +97,9 @@ TEST_F(SendToManyWindow, ShowsTheListAndEachPersonsMessage) {
         EXPECT_EQ(form[u"lstPeople"].index, 1);
         EXPECT_FALSE(form[u"cmdFollowing"].enabled);
         user.select(u"lstPeople", 0);
-        EXPECT_EQ(form[u"lblPreview"].caption, u"ann@x: Hello Ann");
+        EXPECT_EQ(form[u"lblPreview"].caption, u"ann@x");
+        EXPECT_EQ(form[u"lblPreviewSubject"].caption, u"Subject: Hello Ann");
+        EXPECT_EQ(form[u"lblPreviewSubject"].tool_tip, u"Subject: Hello Ann");
     });
     EXPECT_EQ(files.contents.size(), 2u) << "the page of the preview stays nowhere";
     EXPECT_TRUE(client.created.empty());
@@ -112,6 +118,25 @@ TEST_F(SendToManyWindow, SendsToEachPersonAndNotesItBesideTheList) {
     EXPECT_TRUE(is_told(u"2 messages were sent."));
     EXPECT_TRUE(is_told(u"1 line of the list can't be sent to."));
     EXPECT_TRUE(files.contents[u"C:\\lists\\spring.sent.csv"].starts_with("list "));
+}
+
+TEST_F(SendToManyWindow, SendsAtThePaceThatItsUserAskedFor) {
+    constexpr int pace = 45, people = 91;
+    std::string table = "Name,E-mail\r\n";
+    for (int i = 0; i < people; ++i) table += "N,p" + std::to_string(i) + "@x\r\n";
+    files.contents[Text(list)] = table;
+    std::vector<long long> moments;
+    client.at = [&](TextView member) {
+        if (member == u"Send") moments.push_back(waiting.now);
+    };
+    show([&](Form&, FormUser user) {
+        user.set_text(u"txtList", list);
+        user.set_text(u"txtPace", to_text(pace));
+        user.click(u"cmdStart");
+    });
+    ASSERT_EQ(moments.size(), static_cast<std::size_t>(people));
+    const double minutes = static_cast<double>(moments.back() - moments.front()) / 60000;
+    EXPECT_NEAR((people - 1) / minutes, pace, pace * 0.05);
 }
 
 TEST_F(SendToManyWindow, WithoutAYesNothingIsSentOrWritten) {

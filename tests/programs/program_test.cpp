@@ -34,5 +34,16 @@ TEST_F(Programs, ChangesThatCantAllBeWrittenChangeNothingAndSaySo) {
         std::vector<Text>{u"Title: Nothing was changed, because the setting SigEmail can't be written."});
 }
 
+TEST_F(Programs, WhatWasWrittenAndCantBeTakenBackIsNamed) {
+    stage.set(admin::SigFax, u"11");
+    stage.store.writes_left = 2;
+    EXPECT_FALSE(save_or_tell(stage.platform, u"Title",
+                              {{admin::SigFax, u"12"}, {admin::SigCell, u"13"}, {admin::SigEmail, u"x"}}));
+    EXPECT_EQ(stage.stored(admin::SigFax), u"12");
+    EXPECT_EQ(stage.windows.boxes,
+              std::vector<Text>{u"Title: The setting SigEmail can't be written, and what was written before "
+                                u"it can't be taken back: SigFax, SigCell."});
+}
+
 } // namespace
 } // namespace ornavel::programs

@@ -1,5 +1,6 @@
 #include "programs/site_assistant/frmSiteAssistant.h"
 #include "settings/modes.h"
+#include "tests/programs/identity.h"
 #include "tests/programs/program_stage.h"
 
 #include <gtest/gtest.h>
@@ -24,9 +25,7 @@ struct SiteAssistant : testing::Test {
                                 {u"C:\\stationery\\card.htm", "<i>[#Input your message here#]</i>"},
                                 {u"C:\\stationery\\old_merge.htm", "x"},
                                 {u"C:\\signatures\\partner.htm", "[#SigFullname#]"}};
-        stage.set(admin::SigFullname, u"Jo Sender");
-        stage.set(admin::SigEmail, u"jo@example.com");
-        stage.set(admin::SigWebsite, u"www.example.com");
+        save_identity(stage.store);
         stage.set(admin::HTMFilesPath, u"C:\\stationery");
         stage.set(admin::SignaturesPath, u"C:\\signatures");
         stage.set(user::Template, u"letter.htm");
@@ -268,6 +267,27 @@ TEST_F(SiteAssistant, RefusesFoldersThatAreNotThere) {
         click(u"cmdNext");
         EXPECT_EQ(shown(), u"fraSending");
     }
+}
+
+TEST_F(SiteAssistant, FoldersAreAskedOnlyWhileTheUserSeesThatSomethingIsDone) {
+    open();
+    int looks = 0;
+    stage.files.at_look = [&](TextView path) {
+        if (path.starts_with(u"C:\\scratch")) return;
+        ++looks;
+        EXPECT_TRUE(stage.windows.user_waits) << to_utf8(path);
+    };
+    go_to(u"fraLetterhead");
+    user().select(u"cboTemplates", 0);
+    click(u"cmdBrowseTemplates");
+    type(u"txtSignaturesFolder", u"\\\\gone\\share");
+    click(u"cmdNext");
+    EXPECT_EQ(shown(), u"fraLetterhead");
+    type(u"txtSignaturesFolder", u"C:\\signatures");
+    click(u"cmdNext");
+    EXPECT_EQ(shown(), u"fraSending");
+    EXPECT_GT(looks, 6);
+    EXPECT_FALSE(stage.windows.user_waits);
 }
 
 TEST_F(SiteAssistant, AMissingAddressIsPassedByASecondNext) {

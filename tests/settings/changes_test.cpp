@@ -20,7 +20,7 @@ struct Changes : testing::Test {
 };
 
 TEST_F(Changes, AllOfThemAreWritten) {
-    EXPECT_EQ(write_changes(store, changes), nullptr);
+    EXPECT_FALSE(write_changes(store, changes));
     EXPECT_EQ(read(store, admin::SigFullname), u"Jo");
     EXPECT_EQ(read(store, admin::SigEmail), u"jo@example.com");
     EXPECT_EQ(read(store, user::Template), u"letter.htm");
@@ -29,7 +29,10 @@ TEST_F(Changes, AllOfThemAreWritten) {
 
 TEST_F(Changes, OneThatCantBeWrittenTakesBackThoseBeforeIt) {
     store.refused = u"Template";
-    EXPECT_EQ(write_changes(store, changes)->name, u"Template");
+    const auto unwritten = write_changes(store, changes);
+    ASSERT_TRUE(unwritten);
+    EXPECT_EQ(unwritten->refused->name, u"Template");
+    EXPECT_TRUE(unwritten->changed.empty());
     EXPECT_EQ(store.find(admin::SigFullname.section, admin::SigFullname.name), std::nullopt);
     EXPECT_EQ(read(store, admin::SigFax), u"12");
     EXPECT_EQ(read(store, admin::SigEmail), u"old@example.com");
@@ -37,12 +40,23 @@ TEST_F(Changes, OneThatCantBeWrittenTakesBackThoseBeforeIt) {
 
 TEST_F(Changes, OneThatCantBeRemovedTakesBackThoseBeforeItToo) {
     store.refused = u"SigFax";
-    EXPECT_EQ(write_changes(store, changes)->name, u"SigFax");
+    EXPECT_EQ(write_changes(store, changes)->refused->name, u"SigFax");
     EXPECT_EQ(store.find(admin::SigFullname.section, admin::SigFullname.name), std::nullopt);
     EXPECT_EQ(read(store, admin::SigFax), u"12");
 }
 
-TEST_F(Changes, NoneAtAllAreWrittenAtOnce) { EXPECT_EQ(write_changes(store, {}), nullptr); }
+TEST_F(Changes, ThoseThatCantBeTakenBackAreNamed) {
+    store.writes_left = 2;
+    const auto unwritten = write_changes(store, changes);
+    ASSERT_TRUE(unwritten);
+    EXPECT_EQ(unwritten->refused->name, u"SigEmail");
+    std::vector<TextView> changed;
+    for (const Key* key : unwritten->changed) changed.push_back(key->name);
+    EXPECT_EQ(changed, (std::vector<TextView>{u"SigFullname", u"SigFax"}));
+    EXPECT_EQ(read(store, admin::SigFullname), u"Jo");
+}
+
+TEST_F(Changes, NoneAtAllAreWrittenAtOnce) { EXPECT_FALSE(write_changes(store, {})); }
 
 } // namespace
 } // namespace ornavel::settings

@@ -6,15 +6,6 @@ namespace {
 constexpr int tries = 200;
 constexpr DWORD pause = 100; // milliseconds
 
-/// The programs lie beside the tests in the build folder; tests of 64 bits start the same ones, which are
-/// of 32.
-Text built(TextView file) {
-    Text folder = path_of(nullptr);
-    for (int up = 0; up < 2; ++up) folder.erase(folder.find_last_of(u'\\'));
-    if (sizeof(void*) == 8) folder += u"\\..\\windows";
-    return folder + u"\\programs\\" + Text(file);
-}
-
 HWND window_of(DWORD process, const wchar_t* title) {
     HWND window = nullptr;
     while ((window = FindWindowExW(nullptr, window, L"#32770", title))) {
@@ -27,11 +18,18 @@ HWND window_of(DWORD process, const wchar_t* title) {
 
 } // namespace
 
+Text built(TextView file) {
+    Text folder = path_of(nullptr);
+    for (int up = 0; up < 2; ++up) folder.erase(folder.find_last_of(u'\\'));
+    if (sizeof(void*) == 8 && !file.starts_with(u"shell\\")) folder += u"\\..\\windows";
+    return folder + u"\\" + Text(file);
+}
+
 RealProgram::RealProgram(TextView file) {
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION started{};
-    std::wstring line = wide(u"\"" + built(file) + u"\"");
+    std::wstring line = wide(u"\"" + built(u"programs\\" + Text(file)) + u"\"");
     if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &started))
         fail(file, GetLastError());
     CloseHandle(started.hThread);

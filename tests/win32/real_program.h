@@ -7,6 +7,10 @@
 
 namespace ornavel::win32 {
 
+/// The path of a file of the build, given from the build folder on. The programs are 32-bit, also where the
+/// tests are not.
+Text built(TextView file);
+
 /// One of our programs as it was built, in a process of its own, which does not outlive this.
 class RealProgram {
 public:
