@@ -82,5 +82,12 @@ TEST(Text, ASignedValueMayHaveAMinusInFront) {
     for (const TextView none : {u"", u"  ", u"-", u"x-4"}) EXPECT_EQ(signed_value(none), 0);
 }
 
+TEST(Text, OneDigitGetsAZeroInFrontAndTwoGetNone) {
+    EXPECT_EQ(two_digits(0), u"00");
+    EXPECT_EQ(two_digits(9), u"09");
+    EXPECT_EQ(two_digits(10), u"10");
+    EXPECT_EQ(two_digits(59), u"59");
+}
+
 } // namespace
 } // namespace ornavel

@@ -273,6 +273,24 @@ TEST_F(PreviewWindow, HasItsControlsWithTheirWords) {
     });
 }
 
+TEST_F(PreviewWindow, EachColourHasItsNameAndItsCode) {
+    const std::vector<std::pair<Text, Text>> expected = {
+        {u"None", u"#FFFFFF"},  {u"Ivory", u"#FFFFF0"},    {u"Linen", u"#FAF0E6"},
+        {u"Sand", u"#F5F0E1"},  {u"Wheat", u"#F5E9D0"},    {u"Peach", u"#FBE9DD"},
+        {u"Rose", u"#F8E6E8"},  {u"Lavender", u"#ECE9F5"}, {u"Ice blue", u"#E8F1F8"},
+        {u"Sky", u"#DCE9F5"},   {u"Mint", u"#E6F4EC"},     {u"Pale green", u"#EAF5E1"},
+        {u"Sage", u"#E4EBDD"},  {u"Stone", u"#E6E4DF"},    {u"Light grey", u"#F5F5F5"},
+        {u"Silver", u"#EEEEEE"}};
+    show([&](Form& form, FormUser) {
+        const auto& names = form[u"cboBGColourName"].items;
+        const auto& codes = form[u"cboBGColourCode"].items;
+        ASSERT_EQ(names.size(), expected.size());
+        ASSERT_EQ(codes.size(), expected.size());
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            EXPECT_EQ(std::pair(names[i], codes[i]), expected[i]) << to_utf8(names[i]);
+    });
+}
+
 TEST_F(PreviewWindow, TheColoursBeginWithNoneWhichIsWhite) {
     show([&](Form& form, FormUser user) {
         EXPECT_EQ(form[u"cboBGColourName"].items.front(), u"None");
