@@ -14,6 +14,7 @@ public:
     /// What the text is: in a page of HTML, values are escaped; in a line, what would begin another line
     /// becomes a blank.
     enum class Kind { line, html };
+    Draft() = default; ///< no text
     Draft(TextView text, Kind kind, const std::vector<Text>& columns);
 
     /// A sentence for each field that can't be filled; without any, filled() is the whole text.
@@ -32,7 +33,7 @@ private:
     void add_problem(Text problem);
     void add_field(Text literal, TextView name, const std::vector<Text>& names);
 
-    Kind kind_;
+    Kind kind_ = Kind::line;
     std::vector<Piece> pieces_;
     Text rest_;
     std::vector<Text> problems_;

@@ -79,7 +79,14 @@ void frmMassMailer::cmdOpenList_Click() {
     take_list();
 }
 
+/// What breaks off for want of memory leaves nobody to send to, never people with another list's cells.
+void frmMassMailer::forget_people() {
+    people_ = {};
+    shown_ = 0;
+}
+
 void frmMassMailer::take_list() {
+    forget_people();
     table_ = {};
     problem_.clear();
     try {
@@ -111,10 +118,11 @@ void frmMassMailer::read_list() {
 
 void frmMassMailer::take_column() {
     const int column = form_[u"cboAddressColumn"].index;
-    people_ = column < 0 ? People() : people_of(table_, static_cast<std::size_t>(column));
+    forget_people();
     unsent_.clear();
     is_tested_ = false;
     take_drafts();
+    if (column >= 0) people_ = people_of(table_, static_cast<std::size_t>(column));
     list_people();
     list_rejected();
     show_person(0);
@@ -122,8 +130,8 @@ void frmMassMailer::take_column() {
 }
 
 void frmMassMailer::take_drafts() {
-    subject_draft_.emplace(form_[u"txtSubject"].text, Draft::Kind::line, table_.columns);
-    page_draft_.emplace(page_, Draft::Kind::html, table_.columns);
+    subject_draft_ = Draft(form_[u"txtSubject"].text, Draft::Kind::line, table_.columns);
+    page_draft_ = Draft(page_, Draft::Kind::html, table_.columns);
 }
 
 void frmMassMailer::list_people(const Journal* journal) {
@@ -156,7 +164,7 @@ void frmMassMailer::turn_to(int step) {
 
 Letter frmMassMailer::letter_to(const Person& person) const {
     const auto& cells = table_.rows[person.row].cells;
-    return {person.address, subject_draft_->filled(cells), page_draft_->filled(cells)};
+    return {person.address, subject_draft_.filled(cells), page_draft_.filled(cells)};
 }
 
 /// Where there is no such person, the page shows its fields.

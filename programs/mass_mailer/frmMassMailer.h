@@ -38,6 +38,7 @@ private:
 
     // The list.
     void take_list();
+    void forget_people();
     void read_list();
     void take_column();
     void take_drafts();
@@ -72,7 +73,7 @@ private:
     Text problem_;          ///< why the list can't be read
     Table table_;
     People people_;
-    std::optional<Draft> subject_draft_, page_draft_;
+    Draft subject_draft_, page_draft_;
     std::size_t shown_ = 0;
     bool is_tested_ = false;
     Phase phase_ = Phase::choosing;

@@ -38,7 +38,7 @@ struct frmMassMailer::Sending {
           mail_client(form.platform_.objects, is_on(form.platform_.settings, settings::admin::UseRedemption)),
           usage({form.platform_.settings, form.platform_.objects, form.platform_.clock, mail_client,
                  form.errors_}),
-          mailing({form.table_, form.people_, *form.subject_draft_, *form.page_draft_, journal, mail_client,
+          mailing({form.table_, form.people_, form.subject_draft_, form.page_draft_, journal, mail_client,
                    form.platform_.clock, *form.platform_.waiting,
                    [this](const Person& person) { usage.note(person.address); },
                    [&form] { form.show_progress(); }},
@@ -56,14 +56,17 @@ int frmMassMailer::pace() {
 }
 
 std::vector<Text> frmMassMailer::problems() {
-    std::vector<Text> found = subject_draft_->problems();
-    for (const Text& problem : page_draft_->problems())
+    if (people_.people.empty()) return {u"There is nobody to send to."};
+    std::vector<Text> found = subject_draft_.problems();
+    for (const Text& problem : page_draft_.problems())
         if (std::ranges::find(found, problem) == found.end()) found.push_back(problem);
     if (pace() < 0) found.emplace_back(u"How many messages a minute? 0 is without pause.");
     return found;
 }
 
+/// What is sent is what the window shows, also after a change that broke off for want of memory.
 bool frmMassMailer::is_ready() {
+    take_drafts();
     const std::vector<Text> found = problems();
     if (!found.empty()) inform(joined(found));
     return found.empty();
@@ -132,7 +135,7 @@ bool frmMassMailer::agrees(const Journal& journal, const Standing& standing, std
     if (!people_.rejected.empty())
         lines.push_back(counted(people_.rejected.size(), u"line", u"lines") +
                         u" of the list can't be sent to.");
-    for (Text& line : empty_fields(table_, people_, *subject_draft_, *page_draft_))
+    for (Text& line : empty_fields(table_, people_, subject_draft_, page_draft_))
         lines.push_back(std::move(line));
     for (Text& line : warnings(platform_.settings)) lines.push_back(std::move(line));
     return platform_.windows.ask_risky(window_title, joined(lines));

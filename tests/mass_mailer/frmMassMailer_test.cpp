@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <set>
 
 namespace ornavel::mass_mailer {
@@ -319,6 +320,22 @@ TEST_F(SendToManyWindow, AListIsChosenInADialog) {
         EXPECT_EQ(form[u"txtList"].text, list);
         EXPECT_EQ(form[u"lstPeople"].items.size(), 2u);
     });
+}
+
+TEST_F(SendToManyWindow, AListForWhichThereIsNoMemoryReachesNobodyOfTheOneBefore) {
+    store.save(u"Admin Settings", u"SendToManySubject", u"Hello {{E-mail}}");
+    show([&](Form&, FormUser user) {
+        user.set_text(u"txtList", list);
+        user.click(u"cmdFollowing");
+        files.at_look = [](TextView path) {
+            if (path == u"C:\\lists\\huge.csv") throw std::bad_alloc();
+        };
+        EXPECT_FALSE(attempt([&] { user.set_text(u"txtList", u"C:\\lists\\huge.csv"); }));
+        user.click(u"cmdStart");
+        user.click(u"cmdTest");
+    });
+    EXPECT_EQ(windows.boxes, Texts(2, u"Ornavel Send to Many: There is nobody to send to."));
+    EXPECT_TRUE(client.sent.empty());
 }
 
 TEST_F(SendToManyWindow, AListThatCantBeUnderstoodSaysWhereAndSendsNothing) {

@@ -1,5 +1,6 @@
 #include "rehearsal/model/custom_ui.h"
 
+#include "base/encoding.h"
 #include "base/errors.h"
 #include "connect/ribbon.h"
 #include "rehearsal/xml.h"
