@@ -40,6 +40,10 @@ enter() {
     export WINEPREFIX="$world/prefix" HOME="$world/home" XDG_RUNTIME_DIR="$world/runtime" TMPDIR="$world/tmp"
 }
 
+# processor: the one that all processes of the world run on. They answer one another at every step: on one processor
+# that takes a quarter of the time.
+processor() { cat "$world/processor"; }
+
 # is_open WORLD: whether its screen and the process that holds it still run.
 is_open() { alive "$1/screen" && alive "$1/hold"; }
 alive() { [ -s "$1" ] && kill -0 "$(cat "$1")" 2>/dev/null; }
