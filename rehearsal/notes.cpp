@@ -57,7 +57,8 @@ public:
             }
             const auto names = names_for(section);
             for (const auto& [key, value] : keys)
-                if (std::ranges::none_of(names, [&](const Text& name) { return same_name(name, key); }))
+                if (std::ranges::none_of(names,
+                                         [&key = key](const Text& name) { return same_name(name, key); }))
                     lines.push_back(place + "." + to_utf8(key) + ": no such setting" + meant(section, key));
         }
     }

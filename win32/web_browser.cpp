@@ -11,7 +11,7 @@ constexpr CLSID CLSID_of_the_control{
     0x8856F961, 0x340A, 0x11D0, {0xA9, 0x6B, 0x00, 0xC0, 0x4F, 0xD7, 0x05, 0xA2}};
 
 /// The property of the window that holds its browser.
-constexpr const wchar_t* property = L"Ornavel browser";
+constexpr const wchar_t* browser_property = L"Ornavel browser";
 
 } // namespace
 
@@ -23,7 +23,7 @@ WebBrowser::WebBrowser(HWND window, bool follows_links)
     check(control_->SetClientSite(site_.get()));
     do_verb(OLEIVERB_INPLACEACTIVATE);
     connection_.emplace(control_.get(), DIID_BrowserEvents, events_.get());
-    SetPropW(window_, property, this);
+    SetPropW(window_, browser_property, this);
     const LONG_PTR before = SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
     window_procedure_ = reinterpret_cast<WNDPROC>(before);
 }
@@ -31,7 +31,7 @@ WebBrowser::WebBrowser(HWND window, bool follows_links)
 /// The control may keep its site and its events a while longer.
 WebBrowser::~WebBrowser() {
     SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(window_procedure_));
-    RemovePropW(window_, property);
+    RemovePropW(window_, browser_property);
     connection_.reset();
     control_->Close(OLECLOSE_NOSAVE);
     control_->SetClientSite(nullptr);
@@ -75,7 +75,7 @@ void WebBrowser::take_keyboard() {
 }
 
 LRESULT CALLBACK WebBrowser::procedure(HWND window, UINT message, WPARAM word, LPARAM pointer) {
-    auto* const self = static_cast<WebBrowser*>(GetPropW(window, property));
+    auto* const self = static_cast<WebBrowser*>(GetPropW(window, browser_property));
     if (!self) return DefWindowProcW(window, message, word, pointer);
     if (message == WM_SETFOCUS) self->take_keyboard();
     return CallWindowProcW(self->window_procedure_, window, message, word, pointer);

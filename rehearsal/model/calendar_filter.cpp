@@ -8,16 +8,16 @@
 namespace ornavel::rehearsal {
 namespace {
 
-constexpr const char* months[] = {"january", "february", "march",     "april",   "may",      "june",
-                                  "july",    "august",   "september", "october", "november", "december"};
+constexpr const char* month_words[] = {"january", "february", "march",     "april",   "may",      "june",
+                                       "july",    "august",   "september", "october", "november", "december"};
 
 [[noreturn]] void invalid() { throw host::Error(u"The condition is not valid."); }
 
 int month_number(const std::string& name) {
     if (name[0] >= '0' && name[0] <= '9') return std::stoi(name);
-    const auto month = std::find(std::begin(months), std::end(months), name);
-    if (month == std::end(months)) invalid();
-    return static_cast<int>(month - std::begin(months)) + 1;
+    const auto month = std::find(std::begin(month_words), std::end(month_words), name);
+    if (month == std::end(month_words)) invalid();
+    return static_cast<int>(month - std::begin(month_words)) + 1;
 }
 
 /// "november-20-2003", "11/20/2003", each alone or with a time such as "11:59 pm".

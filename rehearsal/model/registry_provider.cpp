@@ -16,7 +16,7 @@ struct Hive {
     TextView name;
 };
 
-constexpr Hive hives[] = {
+constexpr Hive numbered_hives[] = {
     {0x80000000, u"HKEY_CLASSES_ROOT"},   {0x80000001, u"HKEY_CURRENT_USER"},
     {0x80000002, u"HKEY_LOCAL_MACHINE"},  {0x80000003, u"HKEY_USERS"},
     {0x80000005, u"HKEY_CURRENT_CONFIG"},
@@ -25,9 +25,9 @@ constexpr Hive hives[] = {
 /// The full key that the first two arguments name.
 Text key_of(const Call& call) {
     const auto number = static_cast<std::uint32_t>(call.number(0));
-    const auto hive = std::find_if(std::begin(hives), std::end(hives),
+    const auto hive = std::find_if(std::begin(numbered_hives), std::end(numbered_hives),
                                    [&](const Hive& entry) { return entry.number == number; });
-    if (hive == std::end(hives)) throw host::Error(u"Invalid parameter");
+    if (hive == std::end(numbered_hives)) throw host::Error(u"Invalid parameter");
     return Text(hive->name) + u'\\' + call.text(1);
 }
 

@@ -91,10 +91,10 @@ constexpr ActShape valued_acts[] = {
 };
 
 template <std::size_t count>
-const ActShape& find_shape(const ActShape (&shapes)[count], const std::string& name, const JsonPlace& place) {
-    const auto shape = std::find_if(std::begin(shapes), std::end(shapes),
+const ActShape& find_shape(const ActShape (&known)[count], const std::string& name, const JsonPlace& place) {
+    const auto shape = std::find_if(std::begin(known), std::end(known),
                                     [&](const ActShape& entry) { return entry.name == name; });
-    if (shape == std::end(shapes)) place.refuse("unknown act \"" + name + "\"");
+    if (shape == std::end(known)) place.refuse("unknown act \"" + name + "\"");
     return *shape;
 }
 
@@ -143,8 +143,7 @@ Failing read_failing(const JsonPlace& place) {
     place.must_be_object();
     for (const auto& [name, value] : place.json().items()) {
         const JsonPlace at = place.member(name);
-        const auto shape = std::find_if(std::begin(fail_shapes), std::end(fail_shapes),
-                                        [&](const FailShape& entry) { return entry.name == name; });
+        const auto shape = std::ranges::find(fail_shapes, name, &FailShape::name);
         if (shape != std::end(fail_shapes)) {
             failing.kind = shape->kind;
             failing.subject = at.text();

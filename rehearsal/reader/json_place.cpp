@@ -75,8 +75,7 @@ void JsonPlace::each_member(const std::function<void(const Text&, const JsonPlac
 void JsonPlace::fields(std::initializer_list<Field> known) const {
     must_be_object();
     for (const auto& [name, value] : json_->items()) {
-        const auto field =
-            std::find_if(known.begin(), known.end(), [&](const Field& entry) { return entry.name == name; });
+        const auto field = std::ranges::find(known, name, &Field::name);
         if (field == known.end()) member(name).refuse("unknown member");
         field->read(member(name));
     }

@@ -49,7 +49,7 @@ void apply_items(Json& scenario, const Json& world, const Json& patch, const std
         if (removed || !part->contains("item")) continue;
         const JsonPlace item = JsonPlace(*part, source).member("item");
         item.must_be_object();
-        if (!scenario.contains("items")) scenario["items"] = {Json::object()};
+        if (!scenario.contains("items")) scenario["items"] = Json::array({Json::object()});
         Json& items = scenario["items"];
         if (!items.is_array() || items.size() != 1) item.refuse("there must be one element in items");
         merge_patch(items[0], item.json());

@@ -21,12 +21,12 @@ Text merged_file(const Store& store, Text text) {
     return text;
 }
 
-struct Example {
+struct FieldExample {
     TextView text, result;
 };
 
 TEST(BodyMerge, EmptyFieldsTakeTheirLabelAndBreakWithThem) {
-    const Example examples[] = {
+    const FieldExample examples[] = {
         {u"a<br>Phone: [#SigTelephone#]<BR>b", u"a<br>b"},
         {u"<FONT>Phone:</FONT> [#SigTelephone#]<BR>", u"<FONT></FONT>"},
         {u"Phone: [#SigTelephone#]<Br>", u"Phone: <Br>"},
@@ -107,7 +107,7 @@ TEST(FileMerge, RepairsLinksThatAWordProcessorSplit) {
     save(store, admin::SigEmail, u"jo@example.com");
     save(store, admin::SigWebsite, u"www.example.com");
     save(store, admin::SigWebsiteDisplayName, u"Example");
-    const Example examples[] = {
+    const FieldExample examples[] = {
         {uR"(mailto:%5b" \\l "SigEmail#])", u"mailto:jo@example.com"},
         {uR"(file:///C:\\\\Program%20Files\\\\Brevant\\\\Ornavel\\\\Signatures\\\\%5b" \\l "SigWebsite#])",
          u"www.example.com"},

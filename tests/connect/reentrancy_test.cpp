@@ -107,7 +107,7 @@ TEST_F(Reentrancy, ASendInsideASendIsDressedAndSoIsTheOuterOne) {
     EXPECT_FALSE(send(0));
     EXPECT_EQ(body(0), u"</script>{outer}\r\n");
     EXPECT_EQ(body(1), u"</script>{inner}\r\n");
-    for (const std::size_t item : {0, 1})
+    for (const std::size_t item : {0u, 1u})
         EXPECT_EQ(stage.item(item).billing_information(), u"Ornavel from Brevant");
     EXPECT_EQ(windows.shown.size(), 2u);
 }

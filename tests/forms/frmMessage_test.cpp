@@ -99,7 +99,7 @@ TEST(PromptDialog, EachModeHasThePictureOfItsKind) {
         {u"Support email request", question},
     };
     for (const auto& [mode, picture] : pictures)
-        answer(mode, [&](Form& form, FormUser) {
+        answer(mode, [&mode = mode, picture = picture](Form& form, FormUser) {
             EXPECT_EQ(form[u"imgIcon"].icon, picture) << to_utf8(mode);
             EXPECT_TRUE(form[u"imgIcon"].visible);
         });

@@ -5,6 +5,7 @@
 #include "tests/fakes/memory_files.h"
 #include "tests/fakes/recording_launcher.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/overlap.h"
 #include "tests/mass_mailer/fake_mail_client.h"
 #include "tests/mass_mailer/fake_waiting.h"
 
@@ -375,14 +376,6 @@ TEST_F(SendToManyWindow, WithoutAMessageThereIsNoWindow) {
     files.contents.erase(u"C:\\page\\myTestHtmlFile.html");
     EXPECT_EQ(show({}), programs::gave_up);
     EXPECT_TRUE(is_told(u"There is no message to send."));
-}
-
-bool overlap(const Bounds& one, const Bounds& other) {
-    const auto apart = [](int begin, int size, int other_begin, int other_size) {
-        return begin + size <= other_begin || other_begin + other_size <= begin;
-    };
-    return !apart(one.left, one.width, other.left, other.width) &&
-           !apart(one.top, one.height, other.top, other.height);
 }
 
 TEST_F(SendToManyWindow, NothingOverlapsInTheSmallestWindowAndAccessKeysAreUnique) {

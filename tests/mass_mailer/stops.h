@@ -46,7 +46,7 @@ private:
     };
     Row& row_of(const std::string& where) {
         const auto found = std::ranges::find(rows_, where, &Row::where);
-        return found == rows_.end() ? rows_.emplace_back(where) : *found;
+        return found == rows_.end() ? rows_.emplace_back(Row{where}) : *found;
     }
     std::vector<Row> rows_;
 };
