@@ -197,6 +197,13 @@ TEST_F(WordMail, ADocumentThatCannotBeSavedKeepsTheText) {
     expect_error(u"CreateHTMLBody- error in Word htm file", u"WordFileOpen_Err");
 }
 
+TEST_F(WordMail, WhatAnEarlierMessageLeftBehindIsNotReadWhereTheEditorSavesNothing) {
+    files.contents[saved] = "<p>another's";
+    document->when_called = [](TextView) {};
+    EXPECT_EQ(compose(u"kept"), u"[kept]\r\n");
+    expect_error(u"CreateHTMLBody- error in Word htm file", u"WordFileOpen_Err");
+}
+
 class Replying : public Composing {
 protected:
     Replying() {
