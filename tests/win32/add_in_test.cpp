@@ -1,6 +1,5 @@
-#include "tests/win32/add_in_dll.h"
 #include "tests/win32/fake_dispatch.h"
-#include "win32/extensibility.h"
+#include "tests/win32/made_add_in.h"
 #include "win32/machine.h"
 
 #include <set>
@@ -8,22 +7,8 @@
 namespace ornavel::win32 {
 namespace {
 
-/// The add-in as the mail client gets it: registered, and made by its programmatic identifier.
-class AddIn : public testing::Test {
+class AddIn : public MadeAddIn {
 protected:
-    void SetUp() override {
-        ASSERT_EQ(AddInDll().call("DllRegisterServer"), S_OK);
-        CLSID class_id{};
-        ASSERT_EQ(CLSIDFromProgID(L"Ornavel.Connect", &class_id), S_OK);
-        ASSERT_EQ(CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER, IID_IDTExtensibility2,
-                                   add_in.out_untyped()),
-                  S_OK);
-    }
-    void TearDown() override {
-        add_in = {};
-        EXPECT_EQ(AddInDll().call("DllUnregisterServer"), S_OK);
-    }
-
     static VARIANT variant(VARTYPE type, LONG number = 0) {
         VARIANT made{};
         made.vt = type;
@@ -36,8 +21,6 @@ protected:
         return add_in->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr,
                               nullptr, nullptr);
     }
-
-    ComPtr<IDTExtensibility2> add_in;
 };
 
 TEST_F(AddIn, AnswersTheMailClientsTable) {

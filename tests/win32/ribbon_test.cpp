@@ -1,28 +1,20 @@
-#include "tests/win32/add_in_dll.h"
 #include "tests/win32/fake_dispatch.h"
-#include "win32/extensibility.h"
+#include "tests/win32/made_add_in.h"
 #include "win32/ribbon_extensibility.h"
 
 namespace ornavel::win32 {
 namespace {
 
 /// The add-in as a mail client with a ribbon gets it.
-class Ribbon : public testing::Test {
+class Ribbon : public MadeAddIn {
 protected:
     void SetUp() override {
-        ASSERT_EQ(AddInDll().call("DllRegisterServer"), S_OK);
-        CLSID class_id{};
-        ASSERT_EQ(CLSIDFromProgID(L"Ornavel.Connect", &class_id), S_OK);
-        ASSERT_EQ(CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER, IID_IDTExtensibility2,
-                                   add_in.out_untyped()),
-                  S_OK);
+        ASSERT_NO_FATAL_FAILURE(MadeAddIn::SetUp());
         ASSERT_EQ(add_in->QueryInterface(IID_IRibbonExtensibility, ribbon.out_untyped()), S_OK);
     }
     void TearDown() override {
         ribbon = {};
-        add_in = {};
-        EXPECT_EQ(AddInDll().call("DllCanUnloadNow"), S_OK);
-        EXPECT_EQ(AddInDll().call("DllUnregisterServer"), S_OK);
+        MadeAddIn::TearDown();
     }
 
     static DISPID number(IDispatch* dispatch, std::wstring name) {
@@ -65,7 +57,6 @@ protected:
         return answer;
     }
 
-    ComPtr<IDTExtensibility2> add_in;
     ComPtr<IRibbonExtensibility> ribbon;
 };
 
