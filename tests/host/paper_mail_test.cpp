@@ -18,7 +18,9 @@ Text refusal(Body&& body) {
 }
 
 TEST(PaperMail, HoldsItsRecipientsFromTheFirst) {
-    const Recipients recipients = paper_item({.recipients = {u"ann@x", u"bob@x"}}).recipients();
+    Letter letter;
+    letter.recipients = {u"ann@x", u"bob@x"};
+    const Recipients recipients = paper_item(letter).recipients();
     EXPECT_EQ(recipients.count(), 2);
     EXPECT_EQ(recipients.item(1).address(), u"ann@x");
     EXPECT_EQ(recipients.item(2).address(), u"bob@x");
