@@ -29,6 +29,10 @@ std::optional<RegistryValue> value_of(DWORD type, const std::string& bytes) {
     return {};
 }
 
+std::uint64_t ticks_of(const FILETIME& time) {
+    return (std::uint64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
+}
+
 void write(HKEY key, const std::wstring& name, const RegistryValue& value) {
     if (const auto* number = std::get_if<std::uint32_t>(&value)) {
         RegSetValueExW(key, name.c_str(), 0, REG_DWORD, reinterpret_cast<const BYTE*>(number),
@@ -90,6 +94,19 @@ std::vector<Text> subkeys_of(HKEY key) {
         length = ARRAYSIZE(name);
     }
     return names;
+}
+
+std::uint64_t last_written(HKEY key) {
+    FILETIME time{};
+    RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                     nullptr, &time);
+    return ticks_of(time);
+}
+
+std::uint64_t ticks_now() {
+    FILETIME now{};
+    GetSystemTimeAsFileTime(&now);
+    return ticks_of(now);
 }
 
 void write_value(const KeyAddress& address, TextView name, const RegistryValue& value) {

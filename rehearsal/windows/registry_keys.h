@@ -32,6 +32,9 @@ private:
 /// The values that a scenario can hold: numbers and texts.
 ByName<RegistryValue> values_of(HKEY key);
 std::vector<Text> subkeys_of(HKEY key);
+/// When the key, its values or the list of its subkeys changed last, and what time it is: in units of 100 ns.
+std::uint64_t last_written(HKEY key);
+std::uint64_t ticks_now();
 /// Makes the key when it is missing. Throws Unusable where that is not allowed.
 void write_value(const KeyAddress& address, TextView name, const RegistryValue& value);
 void remove_value(const KeyAddress& address, TextView name);

@@ -5,6 +5,8 @@
 #include "win32/registry.h"
 #include "win32/wide.h"
 
+#include <map>
+
 namespace ornavel::rehearsal {
 namespace {
 
@@ -13,6 +15,11 @@ constexpr TextView settings_key = u"Software\\VB and VBA Program Settings\\Ornav
 constexpr TextView left_out[] = {u"Software\\Classes", u"Software\\Wine", u"Volatile Environment",
                                  settings_key,
                                  u"Software\\Microsoft\\Office\\Outlook\\Addins\\Ornavel.Connect"};
+
+struct KeyContents {
+    ByName<RegistryValue> values;
+    std::vector<Text> subkeys;
+};
 
 bool is_left_out(TextView path) {
     for (const TextView key : left_out)
@@ -25,13 +32,33 @@ Text below(Text key, TextView name) {
     return key.append(name);
 }
 
+struct KnownKey {
+    KeyContents contents;
+    std::uint64_t written = 0; ///< when the key was written last
+    bool is_settled = false;   ///< written long before it was read, so that a write since then shows
+};
+
+/// A key's contents, read again only where it was written since the last time: nearly all keys stay as they
+/// are from one rehearsal to the next, and reading them all takes longer than most rehearsals.
+const KeyContents& contents_of(const Text& path, HKEY key) {
+    static std::map<Text, KnownKey> known_keys;
+    KnownKey& known = known_keys[path];
+    const std::uint64_t written = last_written(key);
+    if (!known.is_settled || known.written != written) {
+        constexpr std::uint64_t second = 10'000'000;
+        known = {{values_of(key), subkeys_of(key)}, written, written + second < ticks_now()};
+    }
+    return known.contents;
+}
+
 /// Keys of the user's part, from a path below its root on.
 void collect(const Text& path, ByName<ByName<RegistryValue>>& keys) {
     if (is_left_out(path)) return;
     const OpenKey key({HKEY_CURRENT_USER, path}, KEY_READ);
     if (!key) return;
-    if (!path.empty()) keys[Text(user_root).append(path)] = values_of(key.get());
-    for (const Text& name : subkeys_of(key.get())) collect(below(path, name), keys);
+    const KeyContents& contents = contents_of(path, key.get());
+    if (!path.empty()) keys[Text(user_root).append(path)] = contents.values;
+    for (const Text& name : contents.subkeys) collect(below(path, name), keys);
 }
 
 std::optional<ByName<RegistryValue>> values_at(TextView key) {

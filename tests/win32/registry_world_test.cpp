@@ -56,6 +56,24 @@ TEST(RegistryWorld, PutsBackWhatARehearsalChangedOrRemoved) {
     EXPECT_FALSE(outer.find(rehearsed, u"other"));
 }
 
+TEST(RegistryWorld, ShowsEachChangeOfAKeyThatWasReadOften) {
+    const Text old = u"HKEY_CURRENT_USER\\Environment"; // as old as the user
+    RegistryWorld world;
+    snapshot_of(world);
+    for (const TextView value : {u"a", u"b", u"c"}) {
+        const Text text(value);
+        world.set(old, u"OrnavelRehearsed", text);
+        EXPECT_EQ(snapshot_of(world).registry.at(old).at(u"OrnavelRehearsed"), RegistryValue(text));
+    }
+    const Text below = old + u"\\OrnavelRehearsed";
+    world.set(below, u"", Text(u"new"));
+    EXPECT_TRUE(snapshot_of(world).registry.contains(below));
+    EXPECT_TRUE(world.remove_key(below));
+    EXPECT_FALSE(snapshot_of(world).registry.contains(below));
+    world.put_back();
+    EXPECT_FALSE(snapshot_of(world).registry.at(old).contains(u"OrnavelRehearsed"));
+}
+
 TEST(RegistryWorld, AKeyWithoutARootIsNone) {
     RegistryWorld world;
     EXPECT_THROW(world.set(u"Software\\Ornavel", u"name", Text(u"value")), Unusable);
