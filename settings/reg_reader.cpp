@@ -136,11 +136,18 @@ private:
             return;
         }
         const std::size_t begin = at_;
-        if (!takes(u"hex")) throw BadLine{u"This kind of value is unknown", at_};
-        if (takes(u"("))
-            while (hex_digit(here()) || here() == u')') ++at_;
-        if (!takes(u":")) throw BadLine{u"This kind of value is unknown", begin};
+        if (!takes_kind()) throw BadLine{u"This kind of value is unknown", begin};
         bytes();
+    }
+
+    /// "hex:", or a kind by its number: "hex(7):".
+    bool takes_kind() {
+        if (!takes(u"hex")) return false;
+        if (takes(u"(")) {
+            while (hex_digit(here())) ++at_;
+            if (!takes(u")")) return false;
+        }
+        return takes(u":");
     }
 
     Text quoted() {

@@ -44,5 +44,12 @@ TEST(Reasons, HaveAPlaceForAValueWhereTheyShowOne) {
             << to_utf8(reason.words);
 }
 
+TEST(Reasons, ThatShowNoValueReadAlikeWithoutOne) {
+    for (const Reason& reason : reasons()) {
+        if (reason.shows != Reason::Shows::nothing) continue;
+        EXPECT_TRUE(reason.without.starts_with(reason.words)) << to_utf8(reason.words);
+    }
+}
+
 } // namespace
 } // namespace ornavel::connect

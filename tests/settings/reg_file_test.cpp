@@ -73,6 +73,21 @@ TEST(RegFiles, WhatIsRemovedIsGoneAndTheLastWordCounts) {
         named(read_text("REGEDIT4\n" + admin + "\"SigFax\"=\"1\"\n[-HKEY_CURRENT_USER\\Soft]\n")).size(), 1U);
 }
 
+TEST(RegFiles, ARemovedKeyTakesAlongWhatLiesBelowItAndNothingThatOnlyBeginsAlike) {
+    const std::string area = "HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\Ornavel\\";
+    const auto key = [&](const std::string& name) { return "[" + area + name + "]\n\"SigFax\"=\"1\"\n"; };
+    const RegFile file = read_text("REGEDIT4\n" + key("User") + key("User\\Old") + key("User Settings") +
+                                   "[-" + area + "User]\n");
+    EXPECT_EQ(named(file), (Named{{u"User Settings/SigFax", u"1"}}));
+}
+
+TEST(RegFiles, AKindInBracketsIsReadToTheirEnd) {
+    const RegFile file = read_text("REGEDIT4\n" + admin + "\"SigFax\"=hex(b):41,00\n\"SigCell\"=hex(7:41\n");
+    ASSERT_EQ(file.complaints.size(), 1U);
+    EXPECT_EQ(file.complaints[0].at, (Place{4, 11}));
+    EXPECT_TRUE(named(file).empty());
+}
+
 TEST(RegFiles, OtherKindsAndTextsWithVariablesThatAreNoPathsReadAsAbsent) {
     const RegFile file = read_text(
         "REGEDIT4\n" + admin + "\"SigFax\"=dword:00000001\n\"SigCell\"=hex(2):41,00\n\"SigEmail\"=hex:41\n");
