@@ -46,6 +46,19 @@ TEST(ComposerSteps, HaveTheirNamesAndTheirOrder) {
     for (std::size_t i = 0; i < std::size(names); ++i) EXPECT_EQ(all[i].place, names[i]);
 }
 
+TEST_F(Composer, TellsWhoeverWatchesWhatEachStepChangedInWhichText) {
+    reply = {.found = true, .marker = u"-----Original"};
+    std::vector<Text> changed;
+    on_change = [&](const StepChange& change) {
+        changed.push_back(Text(change.step) + u": " + Text(change.text));
+    };
+    compose(u"new-----Original");
+    EXPECT_EQ(changed, (std::vector<Text>{u"cut the reply: message", u"cut the reply: new text",
+                                          u"cut the reply: quoted part", u"read the template: letterhead",
+                                          u"insert the message: new text", u"insert the message: result",
+                                          u"insert the reply: quoted part", u"insert the reply: result"}));
+}
+
 TEST_F(Composer, TakesTheFirstHtmlFileOfTheFolderForAMissingTemplate) {
     path = u"C:\\stationery\\gone.htm";
     set(admin::HTMFilesPath, u"C:\\stationery");

@@ -39,7 +39,7 @@ protected:
 
     Text compose(Text source) {
         auto [ended, html] =
-            CreateHTMLBody({store, files, clock, boxes, objects, reports, application, start_up},
+            CreateHTMLBody({store, files, clock, boxes, objects, reports, application, start_up, on_change},
                            {mail, std::move(source), path, reply, form_signature, purpose});
         outcome = ended;
         return std::move(html);
@@ -71,6 +71,7 @@ protected:
     std::optional<Text> form_signature;
     Purpose purpose = Purpose::send;
     Outcome outcome = Outcome::composed; ///< of the last composition
+    std::function<void(const StepChange&)> on_change;
 };
 
 } // namespace ornavel::compose
