@@ -1,5 +1,6 @@
 #include "forms/form_user.h"
 #include "forms/windows.h"
+#include "tests/refusal.h"
 
 #include <gtest/gtest.h>
 
@@ -99,16 +100,6 @@ TEST_F(FormUserTest, ClosingByTheFrameUnloadsOnce) {
 }
 
 TEST_F(FormUserTest, NamesCompareWithoutCase) { EXPECT_NO_THROW(user.click(u"CMDSEND")); }
-
-template <class Step>
-Text refusal_of(Step&& step) {
-    try {
-        step();
-    } catch (const UnusableStep& refusal) {
-        return refusal.description();
-    }
-    return {};
-}
 
 TEST_F(FormUserTest, StepsThatNoUserCouldTakeAreRefusedByTheControlsNameWithTheReason) {
     EXPECT_EQ(refusal_of([&] { user.click(u"cmdHidden"); }), u"cmdHidden is hidden");

@@ -1,21 +1,11 @@
 #include "host/paper_mail.h"
 
-#include "base/errors.h"
+#include "tests/refusal.h"
 
 #include <gtest/gtest.h>
 
 namespace ornavel::host {
 namespace {
-
-template <class Body>
-Text refusal(Body&& body) {
-    try {
-        body();
-    } catch (const Failure& failure) {
-        return failure.description();
-    }
-    return {};
-}
 
 TEST(PaperMail, HoldsItsRecipientsFromTheFirst) {
     Letter letter;
@@ -25,14 +15,14 @@ TEST(PaperMail, HoldsItsRecipientsFromTheFirst) {
     EXPECT_EQ(recipients.item(1).address(), u"ann@x");
     EXPECT_EQ(recipients.item(2).address(), u"bob@x");
     for (const int nobody : {-1, 0, 3})
-        EXPECT_EQ(refusal([&] { recipients.item(nobody); }), u"Array index out of bounds.") << nobody;
+        EXPECT_EQ(refusal_of([&] { recipients.item(nobody); }), u"Array index out of bounds.") << nobody;
 }
 
 TEST(PaperMail, RefusesTheMembersThatItLacksAsAMailClientDoes) {
     constexpr TextView lacks = u"Object doesn't support this property or method";
-    EXPECT_EQ(refusal([] { paper_application({}).create_mail(); }), lacks);
-    EXPECT_EQ(refusal([] { paper_item({}).recipients().add(u"ann@x"); }), lacks);
-    EXPECT_EQ(refusal([] { (void)paper_item({}).billing_information(); }), lacks);
+    EXPECT_EQ(refusal_of([] { paper_application({}).create_mail(); }), lacks);
+    EXPECT_EQ(refusal_of([] { paper_item({}).recipients().add(u"ann@x"); }), lacks);
+    EXPECT_EQ(refusal_of([] { (void)paper_item({}).billing_information(); }), lacks);
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #include "rehearsal/model/custom_ui.h"
 
 #include "base/encoding.h"
-#include "base/errors.h"
 #include "connect/ribbon.h"
 #include "rehearsal/xml.h"
+#include "tests/refusal.h"
 
 #include <gtest/gtest.h>
 
@@ -15,12 +15,7 @@ namespace {
 
 /// The words of the refusal; empty where the markup was taken.
 Text refusal(TextView markup) {
-    try {
-        read_custom_ui(markup);
-    } catch (const Failure& failure) {
-        return failure.description();
-    }
-    return {};
+    return refusal_of([&] { read_custom_ui(markup); });
 }
 
 TEST(Markup, ElementsAndAttributesAreRead) {
