@@ -501,6 +501,28 @@ TEST_F(SendOptions, ADoubleClickShowsTheNextTip) {
     EXPECT_TRUE(errors.entries.empty());
 }
 
+TEST_F(SendOptions, TheTipStandsBelowTheNextAppointmentInALineOfItsOwn) {
+    const auto object = [&](std::map<Text, host::Value> values) {
+        auto made = std::make_shared<RecordingObject>(journal);
+        made->values = std::move(values);
+        return host::ObjectPtr(made);
+    };
+    const auto review = object({{u"Subject", Text(u"Review")}, {u"Start", host::Date{37945 + 16.0 / 24}}});
+    const auto today = object({{u"GetFirst", review}});
+    const auto calendar = object({{u"Items", object({{u"Restrict", today}})}});
+    application = host::Application(object({{u"GetNamespace", object({{u"GetDefaultFolder", calendar}})}}));
+    const auto expect_shown = [&](TextView text) {
+        show([text](Form& form, FormUser) { EXPECT_EQ(form[u"txtHeader"].text, text); });
+    };
+    set(user::ShowNextAppointmentTips, u"True");
+    expect_shown(u"Review at 4:00 PM");
+    set(admin::TipsFileLocation, u"C:\\tips.txt");
+    files.contents[u"C:\\tips.txt"] = std::string(20, '\n') + "15 First\r\n16 Second\r\n";
+    expect_shown(u"Review at 4:00 PM\r\nFirst");
+    set(user::ShowNextAppointmentTips, u"False");
+    expect_shown(u"Second");
+}
+
 // The vCard.
 
 TEST_F(SendOptions, WithoutAVCardTheCaptionOfOnesOwnIsNotRead) {
