@@ -36,6 +36,7 @@ TEST(Csv, TheSeparatorIsTheOneThatTheFirstRowHasMostOf) {
 
 TEST(Csv, LinesEndInAnyWayAndEmptyOnesAreNoRows) {
     EXPECT_EQ(rows_of("\r\na,b\r1,2\n\n\n3,4"), (Rows{{u"a", u"b"}, {u"1", u"2"}, {u"3", u"4"}}));
+    EXPECT_EQ(rows_of("a,b\n1,"), (Rows{{u"a", u"b"}, {u"1", u""}}));
     EXPECT_TRUE(rows_of("").empty());
     EXPECT_TRUE(rows_of("\r\n\r\n").empty());
 }
@@ -50,10 +51,13 @@ TEST(Csv, EveryEncodingOfATextFileIsUnderstood) {
 }
 
 TEST(Csv, ARowKnowsTheLineInWhichItBegins) {
-    CsvReader reader("a\n\"b\r\nc\"\nd", windows_1252());
-    std::vector<std::size_t> lines;
-    for (std::vector<Text> row; reader.next(row);) lines.push_back(reader.line());
-    EXPECT_EQ(lines, (std::vector<std::size_t>{1, 2, 4}));
+    for (const std::string_view line_end : {"\r\n", "\n", "\r"}) {
+        const std::string bytes = "a\n\"b" + std::string(line_end) + "c\"\nd";
+        CsvReader reader(bytes, windows_1252());
+        std::vector<std::size_t> lines;
+        for (std::vector<Text> row; reader.next(row);) lines.push_back(reader.line());
+        EXPECT_EQ(lines, (std::vector<std::size_t>{1, 2, 4}));
+    }
 }
 
 TEST(Csv, AnErrorHasItsPlace) {

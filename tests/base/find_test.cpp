@@ -27,8 +27,8 @@ TEST(Find, AgreesWithTheStandardSearchAtEveryLengthAndPosition) {
 TEST(Find, IgnoresTheCaseOfLettersOnly) {
     std::mt19937 random(2);
     for (int round = 0; round < 20000; ++round) {
-        const Text text = random_text(random, u"iIm<M\u0149\x10", 40);
-        const Text part = random_text(random, u"im<", 3);
+        const Text text = random_text(random, u"iIm<M{[\u0149\x10", 40);
+        const Text part = random_text(random, u"im<{", 3);
         const std::size_t from = random() % 45;
         const Text lower = lower_case(text);
         const auto expected = part.empty() ? TextView::npos : TextView(lower).find(part, from);

@@ -33,6 +33,14 @@ TEST(Ldif, FoldedLinesCommentsAndBase64AreUnderstood) {
               (Attributes{{u"dn", u"cn=Jo"}, {u"street", u"14 Orchard Lane"}, {u"cn", u"J\u00F6rg"}}));
 }
 
+TEST(Ldif, BlanksAroundAValueAMarkInFrontAndTheEndOfAChangeAreNoPartOfIt) {
+    const auto entries = entries_of("\xEF\xBB\xBF"
+                                    "dn: cn=Jo\n-\ncn:   Jo\ntitle:  \nsn:: TWFy  \n");
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(entries[0].attributes,
+              (Attributes{{u"dn", u"cn=Jo"}, {u"cn", u"Jo"}, {u"title", u""}, {u"sn", u"Mar"}}));
+}
+
 TEST(Ldif, AnErrorHasItsPlace) {
     for (const auto& [text, place] : {std::pair<std::string_view, Place>{"dn: x\nnonsense\n", {2, 1}},
                                       std::pair<std::string_view, Place>{"dn: x\ncn:: ???\n", {2, 5}}}) {

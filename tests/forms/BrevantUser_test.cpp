@@ -9,6 +9,7 @@
 #include "tests/fakes/recording_object.h"
 #include "tests/fakes/recording_reports.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/drawing.h"
 #include "tests/forms/overlap.h"
 
 #include <gtest/gtest.h>
@@ -79,6 +80,18 @@ protected:
 };
 
 // What it looks like.
+
+TEST_F(SendOptions, LooksAsDrawn) {
+    show([](Form& form, FormUser) { expect_drawn(form, "send options"); });
+    set(user::vCard, u"Jo");
+    set(admin::ShowLogoMainForm, u"True");
+    set(admin::WizardLogo, u"C:\\logo");
+    files.contents[u"C:\\logo\\logo.gif"] = "GIF89a";
+    show([](Form& form, FormUser user) {
+        user.click(u"cmdOptions");
+        expect_drawn(form, "send options with all that they can have");
+    });
+}
 
 TEST_F(SendOptions, NothingOverlapsOrLeavesItsFrame) {
     set(user::vCard, u"Jo");

@@ -6,6 +6,7 @@
 #include "tests/fakes/recording_object.h"
 #include "tests/fakes/recording_reports.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/drawing.h"
 #include "tests/forms/overlap.h"
 
 #include <gtest/gtest.h>
@@ -59,6 +60,20 @@ TEST_F(PreviewWindow, ClosedWithoutAChoiceAnswersThatNothingIsSent) {
     EXPECT_FALSE(answers.send);
     EXPECT_FALSE(answers.send_plain);
     EXPECT_FALSE(answers.vcard_chosen);
+}
+
+TEST_F(PreviewWindow, LooksAsDrawn) {
+    save(store, admin::Help, u"C:\\help\\index.htm");
+    files.contents = {{u"C:\\help\\index.htm", ""}};
+    int forms = 0;
+    show([&](Form& form, FormUser user) {
+        if (++forms > 1) return expect_drawn(form, "help");
+        expect_drawn(form, "preview");
+        user.click(u"cmdOptions");
+        expect_drawn(form, "preview with its lists");
+        user.click(u"cmdHelp");
+    });
+    EXPECT_EQ(forms, 2);
 }
 
 TEST_F(PreviewWindow, StaysAboveTheEditorThatTheMessageIsWrittenIn) {

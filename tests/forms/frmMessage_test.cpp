@@ -2,6 +2,7 @@
 
 #include "base/encoding.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/drawing.h"
 
 #include <gtest/gtest.h>
 
@@ -51,6 +52,11 @@ Text answer(TextView mode, std::function<void(Form&, FormUser)> script) {
 
 std::function<void(Form&, FormUser)> clicking(TextView button) {
     return [button](Form&, FormUser user) { user.click(button); };
+}
+
+TEST(PromptDialog, LooksAsDrawn) {
+    for (const TextView mode : {u"Reply", u"Bad Template", u"unknown"})
+        answer(mode, [&](Form& form, FormUser) { expect_drawn(form, "prompt " + to_utf8(mode)); });
 }
 
 TEST(PromptDialog, StaysAboveTheEditorThatTheMessageIsWrittenIn) {

@@ -6,6 +6,7 @@
 #include "tests/fakes/recording_launcher.h"
 #include "tests/fakes/scripted_windows.h"
 #include "tests/fakes/stubborn_store.h"
+#include "tests/forms/drawing.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +51,8 @@ protected:
 private:
     std::unique_ptr<frmPropPage> page_;
 };
+
+TEST_F(OptionsPage, LooksAsDrawn) { expect_drawn(page().form(), "options page"); }
 
 TEST_F(OptionsPage, HasEachLabelInTheLineOfItsList) {
     Form& form = page().form();

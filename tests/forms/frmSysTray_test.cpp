@@ -3,6 +3,7 @@
 #include "base/encoding.h"
 #include "tests/fakes/recording_reports.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/drawing.h"
 
 #include <gtest/gtest.h>
 
@@ -85,6 +86,8 @@ struct SysTray : testing::Test {
 
     void SetUp() override { form.form().load(); }
 };
+
+TEST_F(SysTray, LooksAsDrawn) { expect_drawn(form.form(), "tray menu"); }
 
 TEST_F(SysTray, TheTipFitsIntoItsField) {
     EXPECT_EQ(tray.tip, u"Right click to see Administrator options. Ornavel 3.9.9 running");

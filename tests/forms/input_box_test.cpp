@@ -1,6 +1,7 @@
 #include "forms/input_box.h"
 
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/drawing.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,10 @@ namespace {
 std::optional<Text> answer_of(std::function<void(Form&, FormUser)> script) {
     ScriptedWindows windows(std::move(script));
     return ask_for_text(windows, u"Name", u"What is the name?", u"old");
+}
+
+TEST(InputBox, LooksAsDrawn) {
+    answer_of([](Form& form, FormUser) { expect_drawn(form, "input box"); });
 }
 
 TEST(InputBox, GivesBackWhatTheUserTyped) {

@@ -81,6 +81,39 @@ TEST(RegFiles, ARemovedKeyTakesAlongWhatLiesBelowItAndNothingThatOnlyBeginsAlike
     EXPECT_EQ(named(file), (Named{{u"User Settings/SigFax", u"1"}}));
 }
 
+TEST(RegFiles, AKeyMayBeNamedByItsShortRoot) {
+    EXPECT_EQ(section_of(u"hkcu\\Software\\VB and VBA Program Settings\\Ornavel\\Admin Settings"),
+              u"Admin Settings");
+    EXPECT_EQ(section_of(Text(registry_area)), u"");
+    EXPECT_EQ(section_of(Text(registry_area) + u"\\"), u"");
+    EXPECT_EQ(section_of(Text(registry_area) + u" Settings\\Admin Settings"), std::nullopt);
+    EXPECT_EQ(section_of(u"HKEY_LOCAL_MACHINE\\Software"), std::nullopt);
+}
+
+TEST(RegFiles, TheWholeAreaMayBeRemoved) {
+    const std::string area = "[-HKCU\\Software\\VB and VBA Program Settings\\Ornavel]\n";
+    const RegFile file =
+        read_text("REGEDIT4\n" + admin + "\"SigFax\"=\"1\"\n" + area + admin + "\"SigCell\"=\"2\"\n");
+    EXPECT_EQ(named(file), (Named{{u"Admin Settings/SigCell", u"2"}}));
+}
+
+TEST(RegFiles, BytesGoOnBehindCommentsAndTheLastMayHaveOneDigit) {
+    const RegFile file =
+        read_text("REGEDIT4\n" + admin +
+                  "\"BrowserPath\"=hex(2):25,\\ ; a percent sign\n ; and the rest\n\t41,25\n"
+                  "\"HTM Files Path\"=hex(2):43,3A,5c,9\n\"SigCell\"=hex(1):");
+    EXPECT_TRUE(file.complaints.empty());
+    EXPECT_EQ(named(file), (Named{{u"Admin Settings/BrowserPath", u"%A%"},
+                                  {u"Admin Settings/HTM Files Path", u"C:\\\t"},
+                                  {u"Admin Settings/SigCell", u""}}));
+}
+
+TEST(RegFiles, ALineBreakInATextIsWrittenAsALetter) {
+    const RegFile file = read_text("REGEDIT4\n" + admin + "\"SigCell\"\t=\t\"a\\r\\nb\" \t");
+    EXPECT_TRUE(file.complaints.empty());
+    EXPECT_EQ(named(file), (Named{{u"Admin Settings/SigCell", u"a\r\nb"}}));
+}
+
 TEST(RegFiles, AKindInBracketsIsReadToTheirEnd) {
     const RegFile file = read_text("REGEDIT4\n" + admin + "\"SigFax\"=hex(b):41,00\n\"SigCell\"=hex(7:41\n");
     ASSERT_EQ(file.complaints.size(), 1U);
@@ -105,6 +138,28 @@ TEST(RegFiles, LinesThatMakeNoSenseAreToldAndPassedOver) {
     EXPECT_EQ(file.complaints[3].at, (Place{6, 11}));
 }
 
+TEST(RegFiles, AComplaintSaysWhatIsMissing) {
+    for (const auto& [line, description, column] :
+         {std::tuple{"[HKCU\\Software", u"This key has no closing bracket", 1},
+          std::tuple{"\"SigFax\" \"1\"", u"A value's name is followed by \"=\"", 10},
+          std::tuple{"\"SigFax\"=", u"This kind of value is unknown", 10},
+          std::tuple{"\"SigFax\"=he:41", u"This kind of value is unknown", 10},
+          std::tuple{"\"SigFax\"=hex:4g", u"Something follows where the line should end", 15},
+          std::tuple{"\"SigFax\"=\"1\\", u"This text has no closing quote", 10}}) {
+        const RegFile file = read_text("REGEDIT4\n" + admin + line);
+        ASSERT_EQ(file.complaints.size(), 1U) << line;
+        EXPECT_EQ(file.complaints[0].description, description);
+        EXPECT_EQ(file.complaints[0].at, (Place{3, static_cast<std::size_t>(column)})) << line;
+    }
+}
+
+TEST(RegFiles, AValueBehindAKeyWithoutABracketBelongsToNone) {
+    const RegFile file = read_text("REGEDIT4\n" + admin + "[HKCU\\Software\n\"SigFax\"=\"1\"\n");
+    ASSERT_EQ(file.complaints.size(), 2U);
+    EXPECT_EQ(file.complaints[1].description, u"A value stands in front of the first key");
+    EXPECT_TRUE(named(file).empty());
+}
+
 TEST(RegFiles, AFileOfAnotherKindIsRefused) {
     for (const std::string_view text : {"", "<html>", "regedit4\n", "\xEF\xBB\xBFREGEDIT4\n"})
         EXPECT_THROW(read_text(text), FileError) << text;
@@ -126,6 +181,14 @@ TEST(RegFiles, WhatIsWrittenIsReadAgainInTheVersionThatItNeeds) {
     }
     EXPECT_TRUE(written(u"é").starts_with("REGEDIT4\r\n"));
     EXPECT_TRUE(written(u"ж").starts_with("\xFF\xFEW"));
+}
+
+TEST(RegFiles, ARemovedKeyAndAnUnnamedValueAreWrittenAndOtherKindsAreNot) {
+    const std::vector<RegKey> keys{
+        {u"A", true, {}},
+        {u"B", false, {{u"", Kind::text, u"x"}, {u"n", Kind::other}, {u"r", Kind::removed}}}};
+    EXPECT_EQ(write_reg_file(keys, windows_1252()),
+              "REGEDIT4\r\n\r\n[-A]\r\n\r\n[B]\r\n@=\"x\"\r\n\"r\"=-\r\n");
 }
 
 } // namespace

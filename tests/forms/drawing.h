@@ -1,0 +1,97 @@
+#pragma once
+
+#include "base/encoding.h"
+#include "forms/form.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace ornavel::forms {
+
+/// A form as it was laid out, in words: a line for itself and one for each control, in twips.
+class Drawing {
+public:
+    explicit Drawing(const Form& form) {
+        const Control& own = form.properties;
+        describe(own);
+        words_ << " room " << form.room().width << "x" << form.room().height;
+        tell("topmost", form.topmost);
+        tell("sizable", form.sizable);
+        tell("centred", form.centred);
+        tell("keeps size", form.keeps_size);
+        if (form.least_room != Size())
+            words_ << " least room " << form.least_room.width << "x" << form.least_room.height;
+        words_ << "\n";
+        for (const Control& control : form.controls()) {
+            describe(control);
+            words_ << "\n";
+        }
+    }
+    std::string words() const { return words_.str(); }
+
+private:
+    void describe(const Control& control) {
+        static constexpr const char* kinds[] = {
+            "form",  "button", "check box",   "combo box",    "list box",  "text box", "label",    "frame",
+            "image", "menu",   "web browser", "progress bar", "tab strip", "toolbar",  "list view"};
+        const Bounds& place = control.place;
+        words_ << kinds[static_cast<int>(control.kind)] << " " << to_utf8(control.name) << " " << place.left
+               << "," << place.top << " " << place.width << "x" << place.height;
+        tell("in", control.frame);
+        tell("caption", control.caption);
+        tell("text", control.text);
+        tell("tip", control.tool_tip);
+        tell("tag", control.tag);
+        tell("page", control.page);
+        tell("picture", control.picture);
+        for (const Text& item : control.items) tell("item", item);
+        if (control.index >= 0) words_ << " chosen " << control.index;
+        if (control.icon != Icon::none) words_ << " icon " << static_cast<int>(control.icon);
+        for (const Part& part : control.parts) {
+            tell("part", part.tag);
+            tell("caption", part.caption);
+            tell("tip", part.tool_tip);
+            tell("text", part.text);
+        }
+        tell("hidden", !control.visible);
+        tell("grey", !control.enabled);
+        tell("ticked", control.ticked);
+        tell("fixed", control.fixed_entries);
+        tell("follows links", control.follows_links);
+        tell("locked", control.locked);
+        tell("lines", control.several_lines);
+        tell("default", control.is_default);
+        tell("cancel", control.is_cancel);
+    }
+    void tell(const char* what, bool is_so) {
+        if (is_so) words_ << " " << what;
+    }
+    void tell(const char* what, const Text& text) {
+        if (!text.empty()) words_ << " " << what << " \"" << to_utf8(text) << "\"";
+    }
+
+    std::ostringstream words_;
+};
+
+/// Where the drawings lie, seen from build/PRESET/tests.
+inline std::filesystem::path drawings() {
+    const auto program = std::filesystem::read_symlink("/proc/self/exe");
+    return program.parent_path().parent_path().parent_path().parent_path() / "tests/forms/drawings";
+}
+
+/// Compares a form with its drawing. One that is meant to look otherwise is drawn anew where the environment
+/// has ORNAVEL_DRAW.
+inline void expect_drawn(const Form& form, const std::string& name) {
+    const auto path = drawings() / (name + ".txt");
+    const std::string words = Drawing(form).words();
+    if (std::getenv("ORNAVEL_DRAW")) std::ofstream(path) << words;
+    std::ostringstream drawn;
+    drawn << std::ifstream(path).rdbuf();
+    EXPECT_EQ(words, drawn.str()) << "see " << path;
+}
+
+} // namespace ornavel::forms
