@@ -42,7 +42,6 @@ void BrevantUser::Form_Load() {
     preview_in_window_ = is_on(settings(), system::WebBrowserControlOK);
     form_.topmost = is_on(settings(), user::WipeoutFormFocus);
     proceed_ = vcard_chosen_ = template_from_settings_ = signature_from_settings_ = false;
-    preview_ = {};
     load_item_options();
     form_[u"chkDefault"].ticked = is_ticked(settings(), user::Default);
     form_[u"cboSignature"].text = read(settings(), user::Signature);

@@ -5,10 +5,12 @@
 namespace ornavel::host {
 namespace {
 
+constexpr double first_date = -657434, end_of_dates = 2958466; ///< 1 January 100 and 10000
+
 /// The day of a count of days since 1 March of the year 0, in the calendar of today.
 LocalTime day(long long days) {
-    const long long era = (days >= 0 ? days : days - 146096) / 146097;
-    const long long of_era = days - era * 146097;
+    const long long era = days / 146097;
+    const long long of_era = days % 146097;
     const long long year = (of_era - of_era / 1460 + of_era / 36524 - of_era / 146096) / 365;
     const long long of_year = of_era - (365 * year + year / 4 - year / 100);
     const long long month = (5 * of_year + 2) / 153;
@@ -24,7 +26,7 @@ LocalTime day(long long days) {
 LocalTime local_time(Date date) {
     constexpr long long first_day = 693899; // 30 December 1899
     constexpr long long seconds_a_day = 24LL * 60 * 60;
-    if (!(std::abs(date.days) < 3e6)) throw Error(u"Type mismatch");
+    if (!(date.days > first_date - 1 && date.days < end_of_dates)) throw Error(u"Type mismatch");
     // In front of day 0 the fraction still counts forward from midnight.
     double whole = 0;
     const double fraction = std::abs(std::modf(date.days, &whole));

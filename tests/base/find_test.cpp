@@ -36,6 +36,18 @@ TEST(Find, IgnoresTheCaseOfLettersOnly) {
     }
 }
 
+TEST(Find, WhatBeginsAlikeMayBeginAgainWithinItself) {
+    EXPECT_EQ(find_text(u"aaab", u"aab", 0), 1U);
+    EXPECT_EQ(find_in_either_case(u"AAAB", u"aab", 0), 1U);
+}
+
+TEST(Find, APairDoesNotReachBeyondTheTextThatItIsSoughtIn) {
+    const Pair pair{u'a', u'b'};
+    const TextView whole = u"xab";
+    EXPECT_EQ(find_pair(whole, 0, {&pair, 1}), 1U);
+    EXPECT_EQ(find_pair(whole.substr(0, 2), 0, {&pair, 1}), TextView::npos);
+}
+
 TEST(Find, FindsTheFirstOfSeveralPairs) {
     const Pair pairs[] = {{u'[', u'#'}, {u'f', u'i'}, {u'z', any_unit, 0, any_unit}};
     std::mt19937 random(3);

@@ -41,14 +41,21 @@ TEST(Ldif, BlanksAroundAValueAMarkInFrontAndTheEndOfAChangeAreNoPartOfIt) {
               (Attributes{{u"dn", u"cn=Jo"}, {u"cn", u"Jo"}, {u"title", u""}, {u"sn", u"Mar"}}));
 }
 
-TEST(Ldif, AnErrorHasItsPlace) {
-    for (const auto& [text, place] : {std::pair<std::string_view, Place>{"dn: x\nnonsense\n", {2, 1}},
-                                      std::pair<std::string_view, Place>{"dn: x\ncn:: ???\n", {2, 5}}}) {
+TEST(Ldif, AnErrorHasItsPlaceAndItsWords) {
+    struct Refused {
+        std::string_view text;
+        Place place;
+        TextView words;
+    };
+    for (const auto& [text, place, words] :
+         {Refused{"dn: x\nnonsense\n", {2, 1}, u"This line has no colon"},
+          Refused{"dn: x\ncn:: ???\n", {2, 5}, u"This value is no base64"}}) {
         try {
             entries_of(text);
             ADD_FAILURE() << text;
         } catch (const FileError& error) {
             EXPECT_EQ(error.at(), place) << text;
+            EXPECT_EQ(error.description(), words) << text;
         }
     }
 }

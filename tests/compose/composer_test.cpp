@@ -1,3 +1,4 @@
+#include "tests/as_written.h"
 #include "tests/compose/composing.h"
 
 namespace ornavel::compose {
@@ -44,6 +45,10 @@ TEST(ComposerSteps, HaveTheirNamesAndTheirOrder) {
     const auto all = traps();
     ASSERT_GE(all.size(), std::size(names));
     for (std::size_t i = 0; i < std::size(names); ++i) EXPECT_EQ(all[i].place, names[i]);
+}
+
+TEST_F(Composer, ItsTrapsAreCalledAsTheErrorLogIsReadFor) {
+    expect_as_written(in_lines(traps()), "compose/traps.txt");
 }
 
 TEST_F(Composer, TellsWhoeverWatchesWhatEachStepChangedInWhichText) {

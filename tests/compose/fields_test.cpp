@@ -215,6 +215,13 @@ TEST(Dates, EveryDayOfEightHundredYearsFollowsTheOneBefore) {
     }
 }
 
+TEST(Dates, ReachFromTheYear100To9999) {
+    EXPECT_EQ(host::local_time({-657434.5}), (LocalTime{100, 1, 1, 12, 0, 0}));
+    EXPECT_EQ(host::local_time({2958465.5}), (LocalTime{9999, 12, 31, 12, 0, 0}));
+    for (const double days : {-657435.0, 2958466.0, 1e300, std::nan("")})
+        EXPECT_THROW(host::local_time({days}), host::Error) << days;
+}
+
 TEST(Dates, HoursGoFromTwelveToEleven) {
     EXPECT_EQ(clock_time({2003, 1, 1, 0, 0, 0}), u"12:00:00 AM");
     EXPECT_EQ(clock_time({2003, 1, 1, 12, 5, 9}), u"12:05:09 PM");
@@ -270,6 +277,14 @@ TEST_F(Calendar, TheComparisonOfTextsHidesAnAfternoonFromTheMorning) {
     clock.time.hour = 11;
     add(u"Lunch", day + 13.0 / 24);
     EXPECT_EQ(next(), u"");
+}
+
+TEST_F(Calendar, AnAppointmentWithoutATimeIsAnErrorInTheLog) {
+    add(u"Review", day + 16.0 / 24);
+    appointments[0]->values[u"Start"] = Text(u"4:00 PM");
+    EXPECT_EQ(next(), u"");
+    ASSERT_EQ(reports.entries.size(), 1U);
+    EXPECT_EQ(reports.entries[0].description, u"Type mismatch");
 }
 
 TEST_F(Calendar, NoAppointmentOrNoCalendarIsAnEmptyText) {

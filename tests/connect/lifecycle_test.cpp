@@ -1,3 +1,5 @@
+#include "connect/button_tags.h"
+#include "settings/modes.h"
 #include "tests/connect/sending.h"
 
 namespace ornavel::connect {
@@ -86,6 +88,32 @@ TEST(Lifecycle, LoadedWhileTheMailClientRunsTheStartUpsWorkIsDoneAtConnectionAnd
     add_in.addin.OnStartupComplete();
     add_in.addin.OnDisconnection(1);
     EXPECT_EQ(add_in.buttons(), 0u);
+    EXPECT_EQ(add_in.stage.held(), 0u);
+}
+
+TEST(Lifecycle, TheShutdownOfTheMailClientLetsGoOfEverything) {
+    Lifecycle add_in(1);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
+    add_in.addin.OnStartupComplete();
+    EXPECT_GT(add_in.stage.held(), 0u);
+    add_in.addin.OnBeginShutdown();
+    EXPECT_EQ(add_in.stage.held(), 0u);
+}
+
+TEST(Lifecycle, MessageWindowsThatAreOpenWhenItIsLoadedGetTheirButtonUntilTheyClose) {
+    Lifecycle add_in(1);
+    settings::save(add_in.stage.machine.addin_settings(), user::SettingButtonBar, modes::on);
+    const auto item = add_in.stage.client.items[0];
+    add_in.stage.client.open_window(item);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::after_startup);
+    ASSERT_EQ(item->inspector_bar->buttons.size(), 1u);
+    EXPECT_EQ(item->inspector_bar->buttons[0]->tag, button_tags::send_options);
+    const std::size_t held = add_in.stage.held();
+    item->sent = true;
+    add_in.stage.client.send(*item);
+    EXPECT_TRUE(item->inspector_bar->buttons.empty());
+    EXPECT_LT(add_in.stage.held(), held);
+    add_in.addin.OnDisconnection(1);
     EXPECT_EQ(add_in.stage.held(), 0u);
 }
 

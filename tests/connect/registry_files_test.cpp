@@ -128,6 +128,14 @@ TEST_F(Import, MayNameFoldersOfTheUserWhichAreMade) {
     EXPECT_TRUE(stage.machine.files().folder_exists(u"C:\\Jo\\Ornavel\\Work"));
 }
 
+TEST_F(Import, ThatCanNotBeStartedMakesNoFolders) {
+    session.platform.user_folder = u"C:\\Users\\Jo";
+    save(session.platform.settings, settings::admin::ApplicationPath, u"C:\\Users\\Jo\\Ornavel");
+    imports.can_be_started = false;
+    start();
+    EXPECT_FALSE(stage.machine.files().folder_exists(u"C:\\Users\\Jo\\Ornavel"));
+}
+
 TEST_F(Import, LeavesStationeryThatLiesElsewhereAlone) {
     constexpr TextView folder = u"C:\\Program Files\\Common Files\\Microsoft Shared\\Stationery";
     settings::save(stage.machine.addin_settings(), settings::admin::WipeoutPersonalStationeryAlways,

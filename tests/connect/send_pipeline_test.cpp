@@ -1,3 +1,4 @@
+#include "tests/as_written.h"
 #include "tests/connect/sending.h"
 
 #include "base/encoding.h"
@@ -38,6 +39,20 @@ TEST(Gates, HaveTheirNamesAndTheirOrder) {
                                                    u"auto preview",
                                                    u"composition",
                                                    u"stamping"}));
+}
+
+TEST(Gates, TheirTrapsAreCalledAsTheErrorLogIsReadFor) {
+    expect_as_written(in_lines(traps()), "connect/traps.txt");
+}
+
+TEST(Gates, TheirRecordsAreThoseThatALogIsExplainedBy) {
+    std::string lines;
+    for (const GateRecords& records : gate_records()) {
+        lines += to_utf8(records.gate);
+        for (const TextView passed : records.passed) lines += " | " + to_utf8(passed);
+        lines += "\n";
+    }
+    expect_as_written(lines, "connect/records.txt");
 }
 
 TEST_F(Sending, AModeThatIsSwitchedOffDuringASendLetsTheItemGoAsItIs) {

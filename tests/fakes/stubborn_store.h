@@ -2,6 +2,8 @@
 
 #include "settings/store.h"
 
+#include <set>
+
 namespace ornavel {
 
 /// Settings in memory, of which one can't be written, or none any more.
@@ -10,6 +12,7 @@ public:
     settings::MemoryStore stored;
     Text refused;                   ///< the name of that one; empty for none
     std::optional<int> writes_left; ///< nothing: there is no end of them
+    std::set<int> refused_turns;    ///< of the writes, counted from 1: they would go well another time
 
     std::optional<Text> find(TextView section, TextView key) const noexcept override {
         return stored.find(section, key);
@@ -22,7 +25,11 @@ public:
     }
 
 private:
-    bool takes(TextView key) noexcept { return key != refused && (!writes_left || (*writes_left)-- > 0); }
+    bool takes(TextView key) noexcept {
+        return !refused_turns.contains(++turn_) && key != refused && (!writes_left || (*writes_left)-- > 0);
+    }
+
+    int turn_ = 0;
 };
 
 } // namespace ornavel

@@ -93,6 +93,10 @@ TEST_F(SendOptions, LooksAsDrawn) {
     });
 }
 
+TEST_F(SendOptions, ItsTrapsAreCalledAsTheErrorLogIsReadFor) {
+    expect_as_written(in_lines(send_options_traps()), "forms/traps.txt");
+}
+
 TEST_F(SendOptions, NothingOverlapsOrLeavesItsFrame) {
     set(user::vCard, u"Jo");
     show([](Form& form, FormUser) {
@@ -184,6 +188,13 @@ TEST_F(SendOptions, OffersTemplatesButNoWorkFilesAndNoOtherEnding) {
                       {u"C:\\t\\A_MERGE.HTM", ""},
                       {u"C:\\t\\b.html", ""}};
     show([](Form& form, FormUser) { EXPECT_EQ(form[u"cboTemplates"].items, std::vector<Text>{u"a.HTM"}); });
+}
+
+TEST_F(SendOptions, OnlyHtmlFilesAreSignatures) {
+    files.contents[u"C:\\s\\notes.txt"] = "Jo";
+    show([](Form& form, FormUser) {
+        EXPECT_EQ(form[u"cboSignature"].items, (std::vector<Text>{u"none", u"jo.htm"}));
+    });
 }
 
 TEST_F(SendOptions, SignaturesBeginWithNoneAlsoWithoutTheirFolder) {

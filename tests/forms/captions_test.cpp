@@ -99,6 +99,11 @@ TEST(Captions, AToolbarButtonGetsOnlyAToolTipNeverACaptionFromItsTag) {
     EXPECT_EQ(control.parts[1], (Part{.tool_tip = u"1"}));
 }
 
+TEST(Captions, PartsOfAnyOtherControlStayAsTheyAre) {
+    const Part part{.tag = u"7", .caption = u"1", .tool_tip = u"1", .text = u"1"};
+    EXPECT_EQ(loaded({.kind = ControlKind::label, .parts = {part}}).parts[0], part);
+}
+
 TEST(Captions, AListViewsHeaderTakesItsTextFromItsTag) {
     const Control control =
         loaded({.kind = ControlKind::list_view,

@@ -16,6 +16,13 @@ TEST(Captions, AreReadWithoutTheMarkOfTheirAccessKey) {
     EXPECT_EQ(read(ControlKind::form, u"Marlow && &Hale"), u"Marlow && &Hale");
 }
 
+TEST(Captions, AreHadByFormsAndMenusToo) {
+    for (const ControlKind kind : {ControlKind::form, ControlKind::menu, ControlKind::label})
+        EXPECT_TRUE(has_caption(kind));
+    for (const ControlKind kind : {ControlKind::image, ControlKind::text_box, ControlKind::list_view})
+        EXPECT_FALSE(has_caption(kind));
+}
+
 TEST(Captions, HaveTheFirstSuchLetterAsTheirAccessKey) {
     EXPECT_EQ(with_access_key(u"Yes. Use Yeast.", u'Y'), u"&Yes. Use Yeast.");
     EXPECT_EQ(with_access_key(u"Marlow & Hale", u'H'), u"Marlow && &Hale");

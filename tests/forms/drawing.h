@@ -1,14 +1,7 @@
 #pragma once
 
-#include "base/encoding.h"
 #include "forms/form.h"
-
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
+#include "tests/as_written.h"
 
 namespace ornavel::forms {
 
@@ -77,21 +70,9 @@ private:
     std::ostringstream words_;
 };
 
-/// Where the drawings lie, seen from build/PRESET/tests.
-inline std::filesystem::path drawings() {
-    const auto program = std::filesystem::read_symlink("/proc/self/exe");
-    return program.parent_path().parent_path().parent_path().parent_path() / "tests/forms/drawings";
-}
-
-/// Compares a form with its drawing. One that is meant to look otherwise is drawn anew where the environment
-/// has ORNAVEL_DRAW.
+/// Compares a form with the drawing of this name in tests/forms/drawings.
 inline void expect_drawn(const Form& form, const std::string& name) {
-    const auto path = drawings() / (name + ".txt");
-    const std::string words = Drawing(form).words();
-    if (std::getenv("ORNAVEL_DRAW")) std::ofstream(path) << words;
-    std::ostringstream drawn;
-    drawn << std::ifstream(path).rdbuf();
-    EXPECT_EQ(words, drawn.str()) << "see " << path;
+    expect_as_written(Drawing(form).words(), "forms/drawings/" + name + ".txt");
 }
 
 } // namespace ornavel::forms

@@ -50,6 +50,12 @@ TEST_F(FormUserTest, TickingABoxSetsItBeforeTheHandlerRuns) {
     EXPECT_EQ(events, u"empty");
 }
 
+TEST_F(FormUserTest, ABoxThatIsAlreadyAsWantedIsNotTicked) {
+    EXPECT_EQ(refusal_of([&] { user.tick(u"chkGift", false); }), u"chkGift is not ticked already");
+    user.tick(u"chkGift", true);
+    EXPECT_EQ(refusal_of([&] { user.tick(u"chkGift", true); }), u"chkGift is ticked already");
+}
+
 TEST_F(FormUserTest, TypingAnEntryOfAComboBoxChoosesIt) {
     note(u"cboSize", Event::click, u"chosen;");
     note(u"cboSize", Event::change, u"typed;");

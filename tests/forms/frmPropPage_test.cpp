@@ -103,6 +103,25 @@ TEST_F(OptionsPage, LeavesAbsentWhatTheUserDidNotChange) {
     EXPECT_EQ(stored(user::ReplyAsIs), std::nullopt);
 }
 
+TEST_F(OptionsPage, ATickIsWrittenInTheWordsOfItsSetting) {
+    user().tick(u"chkAutoPreview", true);
+    user().tick(u"chkReplyAsIs", true);
+    page().apply();
+    EXPECT_EQ(stored(admin::AutoPreview), u"True");
+    EXPECT_EQ(stored(user::ReplyAsIs), u"1");
+    user().tick(u"chkAutoPreview", false);
+    user().tick(u"chkReplyAsIs", false);
+    page().apply();
+    EXPECT_EQ(stored(admin::AutoPreview), u"False");
+    EXPECT_EQ(stored(user::ReplyAsIs), u"0");
+}
+
+TEST_F(OptionsPage, AnEmptiedListChangesNothing) {
+    user().set_text(u"cboTemplates", u"");
+    page().apply();
+    EXPECT_EQ(stored(user::Template), u"letter.htm");
+}
+
 TEST_F(OptionsPage, HandsAChangedModeOverWithTheOneBefore) {
     user().select(u"cboMode", 3);
     page().apply();

@@ -32,8 +32,25 @@ TEST(InputBox, GivesBackWhatTheUserTyped) {
 }
 
 TEST(InputBox, IsCancelledByItsButtonAndByItsFrame) {
-    EXPECT_EQ(answer_of([](Form&, FormUser user) { user.click(u"cmdCancel"); }), std::nullopt);
+    EXPECT_EQ(answer_of([](Form& form, FormUser user) {
+                  user.click(u"cmdCancel");
+                  EXPECT_FALSE(form.is_loaded());
+              }),
+              std::nullopt);
     EXPECT_EQ(answer_of([](Form&, FormUser user) { user.close(); }), std::nullopt);
+}
+
+TEST(InputBox, ClosesWhereItsAnswerIsGiven) {
+    answer_of([](Form& form, FormUser user) {
+        user.click(input_box_ok);
+        EXPECT_FALSE(form.is_loaded());
+    });
+}
+
+TEST(InputBox, MayAskWithoutWords) {
+    ScriptedWindows windows([](Form& form, FormUser) { EXPECT_EQ(form[input_box_prompt].caption, u""); });
+    EXPECT_EQ(ask_for_text(windows, u"Name", u"", u""), std::nullopt);
+    EXPECT_EQ(windows.forms_shown, 1);
 }
 
 TEST(InputBox, BeginsWithThePromptWhoseAccessKeyLeadsToTheAnswer) {

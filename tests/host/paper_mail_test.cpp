@@ -18,6 +18,16 @@ TEST(PaperMail, HoldsItsRecipientsFromTheFirst) {
         EXPECT_EQ(refusal_of([&] { recipients.item(nobody); }), u"Array index out of bounds.") << nobody;
 }
 
+TEST(PaperMail, IsWordMailWhereItsEditorIsWord) {
+    for (const int editor : {plain_text_editor, word_editor}) {
+        Letter letter;
+        letter.editor = editor;
+        const Inspector inspector = paper_item(letter).inspector();
+        EXPECT_EQ(inspector.editor_type(), editor);
+        EXPECT_EQ(inspector.is_word_mail(), editor == word_editor);
+    }
+}
+
 TEST(PaperMail, RefusesTheMembersThatItLacksAsAMailClientDoes) {
     constexpr TextView lacks = u"Object doesn't support this property or method";
     EXPECT_EQ(refusal_of([] { paper_application({}).create_mail(); }), lacks);

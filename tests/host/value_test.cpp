@@ -1,6 +1,7 @@
 #include "host/value.h"
 
 #include "host/view.h"
+#include "tests/refusal.h"
 
 #include <gtest/gtest.h>
 
@@ -18,9 +19,12 @@ TEST(Value, NumbersAndTextsConvertWhereTheTextIsANumber) {
     EXPECT_EQ(as_text(std::int32_t{-12}), u"-12");
     EXPECT_EQ(as_number(Text(u"-12")), -12);
     EXPECT_EQ(as_number(2.5), 2);
+    EXPECT_EQ(as_number(Text(u"1234567890")), 1234567890);
+    EXPECT_EQ(as_text(2.5), u"2");
     EXPECT_TRUE(as_flag(std::int32_t{-1}));
     EXPECT_TRUE(as_flag(Text(u"true")));
     EXPECT_FALSE(as_flag(Text(u"0")));
+    EXPECT_FALSE(as_flag(Text(u"false")));
     EXPECT_EQ(as_text(true), u"True");
 }
 
@@ -32,6 +36,9 @@ TEST(Value, AnythingElseIsAnErrorOfTheHost) {
     EXPECT_THROW(as_object(ObjectPtr{}), Error);
     EXPECT_THROW(as_object(Text(u"x")), Error);
     EXPECT_THROW(as_flag(Text(u"yes")), Error);
+    EXPECT_THROW(as_number(ObjectPtr{}), Error);
+    EXPECT_EQ(refusal_of([] { as_number(Text(u"abc")); }), u"Type mismatch");
+    EXPECT_EQ(refusal_of([] { as_object(Empty{}); }), u"Object variable not set");
 }
 
 TEST(View, ThatHoldsNothingFailsInsteadOfCrashing) {

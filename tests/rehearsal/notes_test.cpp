@@ -20,6 +20,9 @@ TEST(Nearest, IsTheNameWithTheFewestOtherLetters) {
     EXPECT_EQ(nearest(u"Tempalte", names), u"Template");
     EXPECT_EQ(nearest(u"SIGNATURES", names), u"Signature");
     EXPECT_EQ(nearest(u"Signature", names), u"Signature");
+    EXPECT_EQ(nearest(u"abcd", std::vector<Text>{u"abce", u"bcd"}), u"abce");
+    EXPECT_EQ(nearest(u"abcdef", std::vector<Text>{u"abcxyz"}), u"abcxyz");
+    EXPECT_FALSE(nearest(u"abcdef", std::vector<Text>{u"abwxyz"}));
     EXPECT_FALSE(nearest(u"Marketing", names));
     EXPECT_FALSE(nearest(u"", {}));
 }

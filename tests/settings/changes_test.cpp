@@ -56,6 +56,16 @@ TEST_F(Changes, ThoseThatCantBeTakenBackAreNamed) {
     EXPECT_EQ(read(store, admin::SigFullname), u"Jo");
 }
 
+TEST_F(Changes, OneThatCantBeTakenBackOnceIsTakenBackTheSecondTime) {
+    store.refused_turns = {
+        5, 6}; // behind the two of the fixture: the third change, and what was there before the first
+    const auto unwritten = write_changes(store, changes);
+    ASSERT_TRUE(unwritten);
+    EXPECT_TRUE(unwritten->changed.empty());
+    EXPECT_EQ(store.find(admin::SigFullname.section, admin::SigFullname.name), std::nullopt);
+    EXPECT_EQ(read(store, admin::SigFax), u"12");
+}
+
 TEST_F(Changes, NoneAtAllAreWrittenAtOnce) { EXPECT_FALSE(write_changes(store, {})); }
 
 } // namespace
