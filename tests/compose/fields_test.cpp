@@ -2,6 +2,8 @@
 #include "compose/insertions.h"
 #include "tests/compose/composing.h"
 
+#include <cmath>
+
 namespace ornavel::compose {
 namespace {
 
