@@ -42,13 +42,12 @@ void Merge::add_group(std::span<const MergeBlock> blocks) {
 
 std::size_t Merge::apply(Text& text) const {
     std::size_t failures = 0;
-    for (std::size_t first = 0; first < passes_.size();) {
+    for (std::size_t first = 0;;) {
         first += Passes(std::span(passes_).subspan(first)).apply(text);
-        if (first == passes_.size()) break;
+        if (first == passes_.size()) return failures;
         ++failures;
         first = *std::ranges::upper_bound(group_ends_, first);
     }
-    return failures;
 }
 
 void merge_signature_file(Text& text, const Merge& merge, ErrorSink& errors) noexcept {

@@ -151,7 +151,6 @@ Text two_column_signature(const Store& settings) {
 }
 
 std::string encode_rich_text(TextView text, const CodePage& ansi) {
-    if (auto whole = ansi.encode(text)) return *whole;
     std::string bytes;
     for (const char16_t unit : text) {
         if (const auto known = ansi.encode({&unit, 1}))

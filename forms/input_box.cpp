@@ -26,7 +26,7 @@ std::vector<Control> designed_controls(TextView prompt, TextView prefilled) {
         {.kind = ControlKind::label,
          .name = Text(input_box_prompt),
          .place = {window_margin, window_margin, width, label_height},
-         .caption = with_access_key(prompt, prompt.empty() ? u'\0' : prompt.front())},
+         .caption = prompt.empty() ? Text() : with_access_key(prompt, prompt.front())},
         {.kind = ControlKind::text_box,
          .name = Text(input_box_answer),
          .place = {window_margin, answer_top, width, box_height},

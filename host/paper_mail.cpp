@@ -18,7 +18,6 @@ public:
     }
     void put(Member member, const Value& value) override { values_[member.name] = value; }
     Value call(Member member, const Arguments& arguments) override {
-        if (TextView(member.name) == u"Save") return {};
         if (TextView(member.name) != u"Item" || arguments.empty()) return get(member, arguments);
         const auto index = as_number(arguments.front());
         if (index < 1 || static_cast<std::size_t>(index) > entries_.size())

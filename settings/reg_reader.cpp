@@ -183,8 +183,6 @@ private:
         skip_blanks();
         while (here() == u'\\') {
             ++at_;
-            skip_blanks();
-            if (here() == u';') skip_line();
             skip_space();
             while (here() == u';') {
                 skip_line();

@@ -35,10 +35,11 @@ TEST(Ldif, FoldedLinesCommentsAndBase64AreUnderstood) {
 
 TEST(Ldif, BlanksAroundAValueAMarkInFrontAndTheEndOfAChangeAreNoPartOfIt) {
     const auto entries = entries_of("\xEF\xBB\xBF"
-                                    "dn: cn=Jo\n-\ncn:   Jo\ntitle:  \nsn:: TWFy  \n");
+                                    "dn: cn=Jo\n-\ncn:   Jo\ntitle:  \nsn:: TWFy  \no::TWFy\n");
     ASSERT_EQ(entries.size(), 1U);
-    EXPECT_EQ(entries[0].attributes,
-              (Attributes{{u"dn", u"cn=Jo"}, {u"cn", u"Jo"}, {u"title", u""}, {u"sn", u"Mar"}}));
+    EXPECT_EQ(
+        entries[0].attributes,
+        (Attributes{{u"dn", u"cn=Jo"}, {u"cn", u"Jo"}, {u"title", u""}, {u"sn", u"Mar"}, {u"o", u"Mar"}}));
 }
 
 TEST(Ldif, AnErrorHasItsPlaceAndItsWords) {

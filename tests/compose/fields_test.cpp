@@ -74,9 +74,10 @@ TEST_F(Fields, NotesCanBeSwitchedOff) {
 TEST_F(Fields, ALongNoteIsCutByTheSubjectsLengthToo) {
     link_contact();
     for (const auto& [length, kept] : {std::pair{77U, 77U}, {78U, 0U}, {100U, 22U}}) {
-        item->values[u"Body"] = Text(length - 2, u'x') + u"\r\n" + u"y";
+        const Text first = u"a" + Text(length - 3, u'x');
+        item->values[u"Body"] = first + u"\r\ny";
         compose(u"");
-        const Text noted = (Text(length - 2, u'x') + u" y").substr(0, kept);
+        const Text noted = (first + u" y").substr(0, kept);
         EXPECT_EQ(journal[journal.size() - 2],
                   u"contact.Body = [Nov-20-03 02:05 PM] Subject: " + noted + u"\r\nbefore");
     }

@@ -16,7 +16,7 @@ constexpr const char* ready_to_dress = R"({
     "folders": ["C:\\app"],
     "host": {"explorers": EXPLORERS},
     "user": [{"at": "Ornavel System Test", "answer": "Yes"}],
-    "items": [{"Subject": "Hello", "HTMLBody": "Hello"}],
+    "items": [{"Subject": "Hello", "HTMLBody": "Hello"}, {"Subject": "Good morning", "HTMLBody": "Hello"}],
     "do": []})";
 
 std::string with_explorers(int count) {
@@ -103,16 +103,67 @@ TEST(Lifecycle, TheShutdownOfTheMailClientLetsGoOfEverything) {
 TEST(Lifecycle, MessageWindowsThatAreOpenWhenItIsLoadedGetTheirButtonUntilTheyClose) {
     Lifecycle add_in(1);
     settings::save(add_in.stage.machine.addin_settings(), user::SettingButtonBar, modes::on);
-    const auto item = add_in.stage.client.items[0];
-    add_in.stage.client.open_window(item);
+    rehearsal::MailClient& client = add_in.stage.client;
+    for (const auto& item : client.items) client.open_window(item);
     add_in.addin.OnConnection(add_in.stage.application(), Connect::after_startup);
-    ASSERT_EQ(item->inspector_bar->buttons.size(), 1u);
-    EXPECT_EQ(item->inspector_bar->buttons[0]->tag, button_tags::send_options);
+    for (const auto& item : client.items) {
+        ASSERT_EQ(item->inspector_bar->buttons.size(), 1u);
+        EXPECT_EQ(item->inspector_bar->buttons[0]->tag, button_tags::send_options);
+    }
     const std::size_t held = add_in.stage.held();
-    item->sent = true;
-    add_in.stage.client.send(*item);
-    EXPECT_TRUE(item->inspector_bar->buttons.empty());
+    client.send(*client.items[0]);
+    EXPECT_TRUE(client.items[0]->inspector_bar->buttons.empty());
     EXPECT_LT(add_in.stage.held(), held);
+    add_in.addin.OnDisconnection(1);
+    EXPECT_EQ(add_in.stage.held(), 0u);
+}
+
+TEST(Lifecycle, ItsEndTakesTheScratchFilesWithIt) {
+    Lifecycle add_in(1);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
+    auto& files = add_in.stage.machine.files();
+    for (const TextView name :
+         {u"beforetext.txt", u"aftertext.txt", u"myTestHtmlFile.html", u"GetMyHtml.htm", u"mine.txt"})
+        files.write(u"C:\\app\\" + Text(name), "text");
+    add_in.addin.OnDisconnection(0);
+    EXPECT_EQ(files.list(u"C:\\app"), std::vector<Text>{u"mine.txt"});
+}
+
+/// An object of the mail client that does as it should, but refuses to tell of its events.
+class Mute final : public host::Object {
+public:
+    explicit Mute(host::ObjectPtr object) : object_(std::move(object)) {}
+    host::Value get(host::Member member, const host::Arguments& arguments) override {
+        return mute(object_->get(member, arguments));
+    }
+    void put(host::Member member, const host::Value& value) override { object_->put(member, value); }
+    host::Value call(host::Member member, const host::Arguments& arguments) override {
+        return mute(object_->call(member, arguments));
+    }
+    host::Subscription advise(host::EventSource, host::EventHandler) override {
+        throw host::Error(u"no connection point");
+    }
+    bool is_same(const host::Object& other) const override { return this == &other; }
+
+private:
+    static host::Value mute(host::Value value) {
+        const auto* object = std::get_if<host::ObjectPtr>(&value);
+        return object && *object ? host::Value(host::ObjectPtr(std::make_shared<Mute>(*object))) : value;
+    }
+    host::ObjectPtr object_;
+};
+
+TEST(Lifecycle, EventsThatCantBeHookedAreLoggedEachAndNobodyIsAsked) {
+    Lifecycle add_in(1);
+    add_in.addin.OnConnection(host::Application(std::make_shared<Mute>(add_in.stage.client.application())),
+                              Connect::at_startup);
+    add_in.addin.OnStartupComplete();
+    const std::string log = add_in.stage.machine.files().read(u"C:\\log.txt");
+    for (const char* entry : {"Error hooking the mail client's events", "Error hooking the explorer",
+                              "Error hooking the setup button", "Error hooking the mode button",
+                              "Error hooking the message windows"})
+        EXPECT_NE(log.find(entry), std::string::npos) << entry;
+    EXPECT_EQ(add_in.buttons(), 2u);
     add_in.addin.OnDisconnection(1);
     EXPECT_EQ(add_in.stage.held(), 0u);
 }

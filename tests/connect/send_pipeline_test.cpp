@@ -3,6 +3,8 @@
 
 #include "base/encoding.h"
 #include "connect/send_pipeline.h"
+#include "connect/session.h"
+#include "host/stamps.h"
 
 #include <algorithm>
 
@@ -53,6 +55,14 @@ TEST(Gates, TheirRecordsAreThoseThatALogIsExplainedBy) {
         lines += "\n";
     }
     expect_as_written(lines, "connect/records.txt");
+}
+
+TEST_F(Sending, WhatThePreviewSendsGoesOutThoughAnotherAddInHeldItBack) {
+    Session session(platform_of(stage));
+    item().billing_information = host::stamps::preview_send;
+    bool cancel = true;
+    ol_ItemSend(session, stage.item(0), cancel);
+    EXPECT_FALSE(cancel);
 }
 
 TEST_F(Sending, AModeThatIsSwitchedOffDuringASendLetsTheItemGoAsItIs) {

@@ -56,6 +56,7 @@ protected:
                             answer);
         windows.show_modal(options.form());
         vcard_chosen = options.vcard_chosen();
+        sent_to_many = options.sent_to_many();
         boxes = windows.boxes;
     }
     void set(const Key& key, TextView value) { save(store, key, value); }
@@ -75,7 +76,7 @@ protected:
     std::shared_ptr<RecordingObject> attachments = std::make_shared<RecordingObject>(journal, u"Attachments");
     host::MailItem item{host_item};
     Text language = u"English";
-    bool answer = true, vcard_chosen = false;
+    bool answer = true, vcard_chosen = false, sent_to_many = false;
     std::vector<Text> boxes;
 };
 
@@ -656,6 +657,17 @@ TEST_F(SendOptions, WhatWasChosenInThePreviewIsSent) {
     });
     EXPECT_TRUE(answer);
     EXPECT_EQ(std::ranges::count(journal, Text(u"Item.HTMLBody = [Hello<P>Jo\r\n]\r\n")), 1);
+}
+
+TEST_F(SendOptions, APreviewThatWasSentToManyIsKeptForTheOtherProgram) {
+    set(admin::ShowSendToMany, u"True");
+    host_item->values[u"Subject"] = Text(u"Hello");
+    show([](Form& form, FormUser user) {
+        if (form.name() != u"BrevantUser") return user.click(u"cmdSendToMany");
+        user.click(u"cmdPreview");
+        user.click(u"cmdPreview");
+    });
+    EXPECT_TRUE(sent_to_many);
 }
 
 TEST_F(SendOptions, WhatTheUserChoosesAfterThePreviewCountsAgain) {

@@ -18,6 +18,20 @@ TEST(PaperMail, HoldsItsRecipientsFromTheFirst) {
         EXPECT_EQ(refusal_of([&] { recipients.item(nobody); }), u"Array index out of bounds.") << nobody;
 }
 
+TEST(PaperMail, HoldsTheWordsOfItsLetter) {
+    Letter letter;
+    letter.subject = u"Garden";
+    letter.body = u"Hello";
+    letter.html_body = u"<p>Hello</p>";
+    letter.host_version = u"11.0";
+    const MailItem item = paper_item(letter);
+    EXPECT_EQ(item.subject(), u"Garden");
+    EXPECT_EQ(item.body(), u"Hello");
+    EXPECT_EQ(item.html_body(), u"<p>Hello</p>");
+    EXPECT_EQ(item.links().count(), 0);
+    EXPECT_EQ(paper_application(letter).version(), u"11.0");
+}
+
 TEST(PaperMail, IsWordMailWhereItsEditorIsWord) {
     for (const int editor : {plain_text_editor, word_editor}) {
         Letter letter;

@@ -101,10 +101,10 @@ TEST(RegFiles, BytesGoOnBehindCommentsAndTheLastMayHaveOneDigit) {
     const RegFile file =
         read_text("REGEDIT4\n" + admin +
                   "\"BrowserPath\"=hex(2):25 ,\\ ; a percent sign\n ; and the rest\n\t41,25\n"
-                  "\"HTM Files Path\"=hex(2):43,3A,5c,9\n\"SigCell\"=hex(1):");
+                  "\"HTM Files Path\"=hex(2):43,3A,5c,6F,9\n\"SigCell\"=hex(1):");
     EXPECT_TRUE(file.complaints.empty());
     EXPECT_EQ(named(file), (Named{{u"Admin Settings/BrowserPath", u"%A%"},
-                                  {u"Admin Settings/HTM Files Path", u"C:\\\t"},
+                                  {u"Admin Settings/HTM Files Path", u"C:\\o\t"},
                                   {u"Admin Settings/SigCell", u""}}));
 }
 
