@@ -73,10 +73,8 @@ template <std::size_t count>
     for (; at <= last_block; at += lanes)
         if (const unsigned found = beginnings_in_block<count>(units + at, pairs, number))
             return at + static_cast<unsigned>(std::countr_zero(found)) / 2;
-    if (at >= text.size() - 1) return nowhere;
-    // The last block overlaps the one before; what begins in front of `at` was seen there.
-    const unsigned seen = (1U << (2 * (at - last_block))) - 1;
-    const unsigned found = beginnings_in_block<count>(units + last_block, pairs, number) & ~seen;
+    // The last block overlaps the one before, in which no pair begins.
+    const unsigned found = beginnings_in_block<count>(units + last_block, pairs, number);
     return found != 0 ? last_block + static_cast<unsigned>(std::countr_zero(found)) / 2 : nowhere;
 }
 

@@ -118,6 +118,20 @@ TEST(Lifecycle, MessageWindowsThatAreOpenWhenItIsLoadedGetTheirButtonUntilTheyCl
     EXPECT_EQ(add_in.stage.held(), 0u);
 }
 
+TEST(Lifecycle, ItsButtonsShowTheirCaptions) {
+    Lifecycle add_in(1);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
+    add_in.addin.OnStartupComplete();
+    constexpr int caption = 2, icon_and_caption = 3;
+    const auto& buttons = add_in.stage.client.standard_bar->buttons;
+    ASSERT_EQ(buttons.size(), 2u);
+    EXPECT_EQ(buttons[0]->tag, button_tags::setup);
+    EXPECT_EQ(buttons[0]->style, icon_and_caption);
+    EXPECT_EQ(buttons[1]->tag, button_tags::mode);
+    EXPECT_EQ(buttons[1]->style, caption);
+    add_in.addin.OnDisconnection(0);
+}
+
 TEST(Lifecycle, ItsEndTakesTheScratchFilesWithIt) {
     Lifecycle add_in(1);
     add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);

@@ -179,6 +179,26 @@ TEST_F(PreviewWindow, TheListsHoldOnlyTemplatesWithoutTheirExtension) {
     EXPECT_EQ(composed, 3);
 }
 
+TEST_F(PreviewWindow, AListThatIsOpenedMarksWhatIsChosen) {
+    save(store, admin::HTMFilesPath, u"C:\\t");
+    save(store, user::Template, u"letter.htm");
+    files.contents = {{u"C:\\t\\card.htm", ""}, {u"C:\\t\\letter.htm", ""}};
+    show([](Form& form, FormUser user) {
+        user.click(u"cmdOptions");
+        EXPECT_EQ(form[u"cboTemplates"].index, -1);
+        user.drop_down(u"cboTemplates");
+        EXPECT_EQ(form[u"cboTemplates"].index, 1);
+    });
+}
+
+TEST_F(PreviewWindow, EachAnswerClosesIt) {
+    for (const TextView button : {u"command1", u"cmdSendPlain", u"cmdClose"})
+        show([&](Form& form, FormUser user) {
+            user.click(button);
+            EXPECT_FALSE(form.is_loaded()) << to_utf8(button);
+        });
+}
+
 TEST_F(PreviewWindow, TheNextTemplateAfterAnUnknownOneIsTheFirst) {
     store.save(u"Admin Settings", u"HTM Files Path", u"C:\\t");
     store.save(u"User Settings", u"Template", u"gone.htm");

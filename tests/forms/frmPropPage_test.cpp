@@ -116,6 +116,18 @@ TEST_F(OptionsPage, ATickIsWrittenInTheWordsOfItsSetting) {
     EXPECT_EQ(stored(user::ReplyAsIs), u"0");
 }
 
+TEST_F(OptionsPage, WhatIsChosenShowsItsWholeName) {
+    user().select(u"cboTemplates", 0);
+    EXPECT_EQ(page().form()[u"cboTemplates"].tool_tip, u"card");
+}
+
+TEST_F(OptionsPage, NoSignatureIsAChoiceToo) {
+    save(store, user::Signature, u"jo.htm");
+    user().select(u"cboSignatures", 0);
+    page().apply();
+    EXPECT_EQ(stored(user::Signature), u"none");
+}
+
 TEST_F(OptionsPage, AnEmptiedListChangesNothing) {
     user().set_text(u"cboTemplates", u"");
     page().apply();

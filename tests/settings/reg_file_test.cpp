@@ -1,5 +1,6 @@
 #include "settings/reg_file.h"
 #include "settings/reg_settings.h"
+#include "tests/refusal.h"
 
 #include <gtest/gtest.h>
 
@@ -163,6 +164,12 @@ TEST(RegFiles, AValueBehindAKeyWithoutABracketBelongsToNone) {
 TEST(RegFiles, AFileOfAnotherKindIsRefused) {
     for (const std::string_view text : {"", "<html>", "regedit4\n", "\xEF\xBB\xBFREGEDIT4\n"})
         EXPECT_THROW(read_text(text), FileError) << text;
+    EXPECT_EQ(
+        refusal_of([] { read_text("<html>"); }),
+        u"This is no registry file: it begins neither with \"REGEDIT4\" nor with \"Windows Registry Editor "
+        u"Version 5.00\"");
+    EXPECT_EQ(refusal_of([] { read_text("\xEF\xBB\xBFREGEDIT4\n"); }),
+              u"A registry editor reads no file in UTF-8; save it in UTF-16 (\"Unicode\")");
 }
 
 TEST(RegFiles, WhatIsWrittenIsReadAgainInTheVersionThatItNeeds) {
