@@ -93,6 +93,8 @@ TEST(Encoding, TheAnsiCodePageHasItsOwnSignsBetweenTheTwoTables) {
     }
     EXPECT_EQ(windows_1252().decode("\xFF"), u"\u00FF");
     EXPECT_FALSE(windows_1252().encode(u"\u0100"));
+    EXPECT_FALSE(windows_1252().encode(u"\x80"));
+    EXPECT_EQ(windows_1252().encode(u"\x7F\u00A0\u00FF"), "\x7F\xA0\xFF");
 }
 
 TEST(Encoding, EveryByteOfTheAnsiCodePageSurvivesARoundTrip) {

@@ -16,6 +16,7 @@ TEST(PlacesOfAText, CountLinesOfEveryKindAndColumnsFromOne) {
     EXPECT_EQ(places.of(99), (Place{4, 2}));
     EXPECT_EQ(places.of(1), (Place{1, 2}));
     EXPECT_EQ(Places(u"ab\r").of(3), (Place{2, 1}));
+    EXPECT_EQ(Places(u"\r\nab").of(2), (Place{2, 1}));
 }
 
 } // namespace

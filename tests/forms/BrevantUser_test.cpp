@@ -346,9 +346,11 @@ TEST_F(SendOptions, EveryPropertyThatCantBeSetIsLoggedAndTheRestIsApplied) {
 TEST_F(SendOptions, ABodyThatCantBeSetLeavesTheFormOpen) {
     show([&](Form& form, FormUser user) {
         host_item->failing = {u"HTMLBody"};
+        user.set_text(u"cboTemplates", u"card.htm");
         user.click(u"cmdOkToSend");
         EXPECT_TRUE(form.is_loaded());
         EXPECT_FALSE(answer);
+        EXPECT_EQ(stored(user::Template), u"card.htm");
         host_item->failing.clear();
         user.click(u"cmdOkToSend");
         EXPECT_FALSE(form.is_loaded());
@@ -399,6 +401,14 @@ TEST_F(SendOptions, WithoutASignatureNothingIsSent) {
     });
     EXPECT_EQ(boxes,
               std::vector<Text>{u"Selection error: You have not chosen a signature. Please select one..."});
+}
+
+TEST_F(SendOptions, EachAnswerClosesIt) {
+    for (const TextView button : {u"cmdOkToSend", u"cmdSendAsIs", u"cmdCancel"})
+        show([&](Form& form, FormUser user) {
+            user.click(button);
+            EXPECT_FALSE(form.is_loaded()) << to_utf8(button);
+        });
 }
 
 TEST_F(SendOptions, AFormThatIsClosedAfterASendThatStoppedAnswersYesDeliberately) {
@@ -596,6 +606,15 @@ TEST_F(SendOptions, ATickOffersTheCardsAndSavesTheFirst) {
         user.click(u"cmdOkToSend");
     });
     EXPECT_TRUE(vcard_chosen);
+}
+
+TEST_F(SendOptions, ATickOffersTheCardsThatThereAreNow) {
+    set(user::vCard, u"Jo");
+    show([&](Form& form, FormUser user) {
+        set(user::vCard, u"Jo;Al");
+        user.tick(u"chkvCard", true);
+        EXPECT_EQ(form[u"cbovCard"].items, (std::vector<Text>{u"Jo", u"Al"}));
+    });
 }
 
 TEST_F(SendOptions, AnOfferedCardIsTickedWhereItAlwaysGoes) {

@@ -54,6 +54,11 @@ TEST(ScreenPlace, TheNearestOfTwoScreensIsTheOneWithTheShortestWay) {
               (Bounds{2200, 1500, 100, 100}));
 }
 
+TEST(ScreenPlace, AWindowComesBackToTheScreenThatShowsMostOfIt) {
+    EXPECT_EQ(back({0, 0, 100, 100}, {{0, 90, 1000, 1000}, {50, -950, 1000, 1000}}),
+              (Bounds{50, -50, 100, 100}));
+}
+
 TEST(ScreenPlace, AFormIsCentredOnTheMainScreenOrBroughtBackFromWhereItWasLeft) {
     const std::vector<Bounds> screens{first, left};
     Form form({.name = u"frmOrder", .place = {30000, 100, 3000, 2000}}, {});
