@@ -101,7 +101,7 @@ void OneScan::splice(Text& text) const {
     const std::size_t old_size = text.size();
     std::size_t size = old_size;
     for (const Region& region : regions_) size = size + region.solved_size - (region.end - region.begin);
-    if (size > old_size) text.resize(size);
+    text.resize(std::max(size, old_size));
     move_spans(text, old_size);
     text.resize(size);
 }

@@ -25,7 +25,9 @@ Value add_button(const Call& call) {
     if (call.given(0) && call.number(0) != control_button)
         throw host::Error(u"Invalid procedure call or argument");
     auto& buttons = call.as<ControlsNode>().bar->buttons;
-    return call.client.hand_out(buttons.emplace_back(std::make_shared<ButtonNode>()));
+    auto& button = buttons.emplace_back(std::make_shared<ButtonNode>());
+    button->temporary = call.given(4) && call.flag(4);
+    return call.client.hand_out(button);
 }
 
 Value control_at(const Call& call) {

@@ -9,6 +9,7 @@ struct ButtonNode final : Node {
     Text caption, tag, tool_tip;
     int face = 0, style = 0;
     bool visible = true, enabled = true, begins_group = false;
+    bool temporary = false; ///< gone when the mail client ends, though nobody takes it away
 };
 
 /// A toolbar and its buttons.

@@ -27,6 +27,8 @@ TEST(Trap, NamesForeignExceptionsAsWellAsItCan) {
     EXPECT_EQ(errors.line, u"r/s/caf\u00E9");
     trap(errors, {u"r", u"s"}, [] { throw 7; });
     EXPECT_EQ(errors.line, u"r/s/Unknown error");
+    trap(errors, {u"r", u"s"}, [] { throw std::bad_alloc(); });
+    EXPECT_EQ(errors.line, u"r/s/Out of memory");
 }
 
 TEST(Trap, SaysNothingWhenTheBodyGetsThrough) {

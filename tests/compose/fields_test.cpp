@@ -225,6 +225,11 @@ TEST(Dates, ReachFromTheYear100To9999) {
         EXPECT_THROW(host::local_time({days}), host::Error) << days;
 }
 
+TEST(Dates, LessThanHalfASecondBeforeMidnightIsTheNextDay) {
+    EXPECT_EQ(host::local_time({37945.999999}), (LocalTime{2003, 11, 21}));
+    EXPECT_EQ(host::local_time({37945.99999}), (LocalTime{2003, 11, 20, 23, 59, 59}));
+}
+
 TEST(Dates, HoursGoFromTwelveToEleven) {
     EXPECT_EQ(clock_time({2003, 1, 1, 0, 0, 0}), u"12:00:00 AM");
     EXPECT_EQ(clock_time({2003, 1, 1, 12, 5, 9}), u"12:05:09 PM");

@@ -37,6 +37,9 @@ void expect_exact(const Text& text, std::span<const Pass> passes) {
     const Text expected = plain_passes(text, passes);
     ASSERT_EQ(quick, expected) << "body of " << text.size();
     ASSERT_EQ(in_order, expected);
+    Text all = text;
+    ASSERT_TRUE(Passes(passes).apply_all(all));
+    ASSERT_EQ(all, expected);
 }
 
 TEST(Passes, AreExactOnTextsOfFewUnitsWherePatternsOverlapAndAreBornAtJoins) {
@@ -100,6 +103,9 @@ TEST(Passes, StopAtThePassThatWouldGrowTooFarAndKeepWhatWasDone) {
     Text text = Text(1 << 10, u'x') + u"a";
     EXPECT_EQ(Passes(own.passes).apply(text), 1U);
     EXPECT_EQ(text, Text(1 << 10, u'x') + u"b");
+    Text whole = Text(1 << 10, u'x') + u"a";
+    EXPECT_FALSE(Passes(own.passes).apply_all(whole));
+    EXPECT_EQ(whole, Text(1 << 10, u'x') + u"a");
 }
 
 TEST(Passes, StopAlsoWhenALaterPassWouldShrinkTheTextAgain) {

@@ -118,7 +118,7 @@ TEST(Lifecycle, MessageWindowsThatAreOpenWhenItIsLoadedGetTheirButtonUntilTheyCl
     EXPECT_EQ(add_in.stage.held(), 0u);
 }
 
-TEST(Lifecycle, ItsButtonsShowTheirCaptions) {
+TEST(Lifecycle, ItsButtonsShowTheirCaptionsAndStayNoLongerThanTheMailClient) {
     Lifecycle add_in(1);
     add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
     add_in.addin.OnStartupComplete();
@@ -129,6 +129,7 @@ TEST(Lifecycle, ItsButtonsShowTheirCaptions) {
     EXPECT_EQ(buttons[0]->style, icon_and_caption);
     EXPECT_EQ(buttons[1]->tag, button_tags::mode);
     EXPECT_EQ(buttons[1]->style, caption);
+    for (const auto& button : buttons) EXPECT_TRUE(button->temporary);
     add_in.addin.OnDisconnection(0);
 }
 
@@ -179,6 +180,16 @@ TEST(Lifecycle, EventsThatCantBeHookedAreLoggedEachAndNobodyIsAsked) {
         EXPECT_NE(log.find(entry), std::string::npos) << entry;
     EXPECT_EQ(add_in.buttons(), 2u);
     add_in.addin.OnDisconnection(1);
+    EXPECT_EQ(add_in.stage.held(), 0u);
+}
+
+TEST(Lifecycle, AMachineWithoutANotificationAreaHasNoIcon) {
+    Lifecycle add_in(1);
+    settings::save(add_in.stage.machine.addin_settings(), admin::SysTray, on);
+    add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
+    add_in.addin.OnStartupComplete();
+    EXPECT_EQ(add_in.buttons(), 2u);
+    add_in.addin.OnDisconnection(0);
     EXPECT_EQ(add_in.stage.held(), 0u);
 }
 

@@ -519,6 +519,7 @@ TEST_F(SendOptions, TheTipsBoxFollowsTheUserUnlessTheAdministratorDecides) {
     set(admin::ShowMessageBoxAdminOnly, u"True");
     show([](Form& form, FormUser) {
         EXPECT_TRUE(form[u"txtHeader"].visible);
+        EXPECT_TRUE(form[u"chkShowMessage"].ticked);
         EXPECT_FALSE(form[u"chkShowMessage"].enabled);
     });
 }

@@ -141,7 +141,8 @@ TEST(RegFiles, LinesThatMakeNoSenseAreToldAndPassedOver) {
 
 TEST(RegFiles, AComplaintSaysWhatIsMissing) {
     for (const auto& [line, description, column] :
-         {std::tuple{"[HKCU\\Software", u"This key has no closing bracket", 1},
+         {std::tuple{"nonsense", u"This is neither a key nor a value", 1},
+          std::tuple{"[HKCU\\Software", u"This key has no closing bracket", 1},
           std::tuple{"\"SigFax\" \"1\"", u"A value's name is followed by \"=\"", 10},
           std::tuple{"\"SigFax\"=", u"This kind of value is unknown", 10},
           std::tuple{"\"SigFax\"=he:41", u"This kind of value is unknown", 10},
@@ -191,11 +192,15 @@ TEST(RegFiles, WhatIsWrittenIsReadAgainInTheVersionThatItNeeds) {
 }
 
 TEST(RegFiles, ARemovedKeyAndAnUnnamedValueAreWrittenAndOtherKindsAreNot) {
-    const std::vector<RegKey> keys{
-        {u"A", true, {}},
-        {u"B", false, {{u"", Kind::text, u"x"}, {u"n", Kind::other}, {u"r", Kind::removed}}}};
+    const std::vector<RegKey> keys{{u"A", true, {}},
+                                   {u"B",
+                                    false,
+                                    {{u"", Kind::text, u"x"},
+                                     {u"n", Kind::other},
+                                     {u"r", Kind::removed},
+                                     {u"p", Kind::expand_text, u"%A%"}}}};
     EXPECT_EQ(write_reg_file(keys, windows_1252()),
-              "REGEDIT4\r\n\r\n[-A]\r\n\r\n[B]\r\n@=\"x\"\r\n\"r\"=-\r\n");
+              "REGEDIT4\r\n\r\n[-A]\r\n\r\n[B]\r\n@=\"x\"\r\n\"r\"=-\r\n\"p\"=hex(2):25,41,25,00\r\n");
 }
 
 } // namespace
