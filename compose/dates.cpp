@@ -1,20 +1,19 @@
 #include "compose/dates.h"
 
-#include <array>
+#include <span>
 
 namespace ornavel::compose {
 namespace {
 
-constexpr std::array<TextView, 7> day_names{u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
-                                            u"Thursday", u"Friday", u"Saturday"};
-constexpr std::array<TextView, 12> month_names{u"January",   u"February", u"March",    u"April",
-                                               u"May",       u"June",     u"July",     u"August",
-                                               u"September", u"October",  u"November", u"December"};
+constexpr TextView day_names[] = {u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
+                                  u"Thursday", u"Friday", u"Saturday"};
+constexpr TextView month_names[] = {u"January",   u"February", u"March",    u"April",
+                                    u"May",       u"June",     u"July",     u"August",
+                                    u"September", u"October",  u"November", u"December"};
 
-template <std::size_t size>
-TextView entry(const std::array<TextView, size>& names, int number) {
+TextView entry(std::span<const TextView> names, int number) {
     const auto index = static_cast<std::size_t>(number - 1);
-    return number >= 1 && index < size ? names[index] : TextView();
+    return index < names.size() ? names[index] : TextView();
 }
 
 int hour_of_half(const LocalTime& time) { return (time.hour + 11) % 12 + 1; }

@@ -21,9 +21,7 @@ Verdict reply_test(Send& send) {
                                             contains(send.item().body(), reply.marker));
     if (!reply.found) return Verdict::next;
     reply = reply_with(send.session, std::move(reply.marker));
-    if (!is_ticked(send.settings(), user::ReplyAsIs)) return Verdict::next;
-    reply.found = false;
-    return Verdict::leave;
+    return is_ticked(send.settings(), user::ReplyAsIs) ? Verdict::leave : Verdict::next;
 }
 
 } // namespace ornavel::connect

@@ -90,6 +90,13 @@ TEST_F(Fields, WithoutALinkTheSubjectAndTheTextStandIn) {
                                  u"|Mail not created from a contact item|||]\r\n");
 }
 
+TEST_F(Fields, InAReplyTheTextThatStandsInIsItsNewOne) {
+    set(admin::Marketing, u"Enterprise");
+    reply = {.found = true, .marker = u"-----Original"};
+    const Text html = compose(Text(60, u'b') + every_field + u"-----Original");
+    EXPECT_TRUE(contains(html, u"Subject|" + Text(50, u'b') + u"|Mail not created")) << to_utf8(html);
+}
+
 TEST_F(Fields, WithoutEnterpriseOrInAPreviewTheContactFieldsStay) {
     EXPECT_EQ(compose(u"[#ContactName#]"), u"[[#ContactName#]]\r\n");
     set(admin::Marketing, u"Enterprise");

@@ -115,6 +115,7 @@ TEST(Lifecycle, MessageWindowsThatAreOpenWhenItIsLoadedGetTheirButtonUntilTheyCl
     EXPECT_TRUE(client.items[0]->inspector_bar->buttons.empty());
     EXPECT_LT(add_in.stage.held(), held);
     add_in.addin.OnDisconnection(1);
+    EXPECT_TRUE(client.items[1]->inspector_bar->buttons.empty());
     EXPECT_EQ(add_in.stage.held(), 0u);
 }
 
