@@ -63,6 +63,7 @@ TEST(Ldif, AnErrorHasItsPlaceAndItsWords) {
 
 TEST(Ldif, Base64IsRefusedWhereItIsNone) {
     EXPECT_EQ(from_base64("TWFy"), "Mar");
+    EXPECT_EQ(from_base64("TWFy "), "Mar");
     EXPECT_EQ(from_base64("TWE="), "Ma");
     EXPECT_EQ(from_base64("TQ=="), "M");
     EXPECT_EQ(from_base64(""), "");

@@ -73,6 +73,7 @@ TEST(Links, EndAtATerminatorAndKeepAFullStop) {
         {u"(www.a)", u"(<a href=\"http://www.a\">www.a</a>)"},
         {u"www.a\nb c", u"<a href=\"http://www.a\nb\">www.a\nb</a> c"},
         {u"www.a www.a", u"<a href=\"http://www.a\">www.a</a> <a href=\"http://www.a\">www.a</a>"},
+        {u"www.a@b c", u"<a href=\"http://www.a@b\">www.a@b</a> c"},
         {u"no address", u"no address"},
     };
     for (const auto& [text, result] : examples) EXPECT_EQ(with_links(text, u"www."), result);

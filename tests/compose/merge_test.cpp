@@ -1,6 +1,7 @@
 #include "compose/merge.h"
 
 #include "tests/compose/plain_passes.h"
+#include "tests/fakes/recording_reports.h"
 
 #include <gtest/gtest.h>
 
@@ -94,6 +95,18 @@ TEST(BodyMerge, AGroupThatGrowsTooFarIsLeftAndTheNextGoesOn) {
     Text text = Text(1 << 10, u'a') + u"b[#SigFullname#]";
     EXPECT_EQ(Merge::of_body(store).apply(text), 1U);
     EXPECT_EQ(text, Text(1 << 10, u'a') + u"bJo");
+}
+
+TEST(FileMerge, AGroupThatGrowsTooFarIsAnErrorInTheLog) {
+    MemoryStore store;
+    save(store, admin::SigFullname, Text(1 << 20, u'y'));
+    Text text;
+    for (int i = 0; i < 1 << 10; ++i) text += u"[#SigFullname#]";
+    RecordingReports errors;
+    merge_signature_file(text, Merge::of_signature_file(store), errors);
+    ASSERT_EQ(errors.entries.size(), 1U);
+    EXPECT_EQ(errors.entries[0].sub_function, u"merge_signature_file");
+    EXPECT_EQ(errors.entries[0].section, u"Merge_Err");
 }
 
 TEST(FileMerge, WithoutFaxTheDefaultRulesDeleteTheWordCellEverywhere) {

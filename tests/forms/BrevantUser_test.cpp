@@ -393,6 +393,17 @@ TEST_F(SendOptions, WithoutATemplateTheFolderItselfIsAskedFor) {
                          u"Selection error: You have not chosen a valid Template. Please select one..."});
 }
 
+TEST_F(SendOptions, WithoutAnAnswerFromTheDiskNothingIsSent) {
+    show([&](Form& form, FormUser user) {
+        files.at_look = [](TextView) { throw Failure(u"no disk"); };
+        user.click(u"cmdOkToSend");
+        EXPECT_TRUE(form.is_loaded());
+    });
+    EXPECT_TRUE(journal.empty());
+    ASSERT_FALSE(errors.entries.empty());
+    EXPECT_EQ(errors.entries[0].description, u"no disk");
+}
+
 TEST_F(SendOptions, WithoutASignatureNothingIsSent) {
     set(user::Signature, u"");
     show([](Form& form, FormUser user) {

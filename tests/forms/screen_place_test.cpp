@@ -54,6 +54,11 @@ TEST(ScreenPlace, TheNearestOfTwoScreensIsTheOneWithTheShortestWay) {
               (Bounds{2200, 1500, 100, 100}));
 }
 
+TEST(ScreenPlace, OnlyTheWayInADirectionInWhichTheyAreApartCounts) {
+    EXPECT_EQ(back({0, 0, 10, 10}, {{13, -1003, 1000, 1000}, {0, 15, 1000, 1000}}), (Bounds{0, 15, 10, 10}));
+    EXPECT_EQ(back({0, 0, 10, 10}, {{-1003, 13, 1000, 1000}, {15, 0, 1000, 1000}}), (Bounds{15, 0, 10, 10}));
+}
+
 TEST(ScreenPlace, AWindowComesBackToTheScreenThatShowsMostOfIt) {
     EXPECT_EQ(back({0, 0, 100, 100}, {{0, 90, 1000, 1000}, {50, -950, 1000, 1000}}),
               (Bounds{50, -50, 100, 100}));

@@ -23,6 +23,7 @@ TEST(Nearest, IsTheNameWithTheFewestOtherLetters) {
     EXPECT_EQ(nearest(u"abcd", std::vector<Text>{u"abce", u"bcd"}), u"abce");
     EXPECT_EQ(nearest(u"abcdef", std::vector<Text>{u"abcxyz"}), u"abcxyz");
     EXPECT_FALSE(nearest(u"abcdef", std::vector<Text>{u"abwxyz"}));
+    EXPECT_FALSE(nearest(u"abcdef", std::vector<Text>{u"wxyzef"}));
     EXPECT_FALSE(nearest(u"x", std::vector<Text>{u"xyz"}));
     EXPECT_FALSE(nearest(u"Marketing", names));
     EXPECT_FALSE(nearest(u"", {}));
