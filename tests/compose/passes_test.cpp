@@ -37,9 +37,6 @@ void expect_exact(const Text& text, std::span<const Pass> passes) {
     const Text expected = plain_passes(text, passes);
     ASSERT_EQ(quick, expected) << "body of " << text.size();
     ASSERT_EQ(in_order, expected);
-    Text all = text;
-    ASSERT_TRUE(Passes(passes).apply_all(all));
-    ASSERT_EQ(all, expected);
 }
 
 TEST(Passes, AreExactOnTextsOfFewUnitsWherePatternsOverlapAndAreBornAtJoins) {
@@ -85,6 +82,9 @@ TEST(Passes, WalkTheWholeTextWhenThereAreTooManyBeginnings) {
     OwnPasses own;
     for (char16_t unit = u'a'; unit <= u'z'; ++unit) own.add(Text(2, unit), Text(1, unit));
     expect_exact(u"aabbccddeeffggzzzz", own.passes);
+    Text all = u"aabbccddeeffggzzzz";
+    EXPECT_TRUE(Passes(own.passes).apply_all(all));
+    EXPECT_EQ(all, u"abcdefgzz");
 }
 
 TEST(Passes, AnEmptySearchTextChangesNothing) {
