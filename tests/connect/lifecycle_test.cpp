@@ -19,6 +19,9 @@ constexpr const char* ready_to_dress = R"({
     "items": [{"Subject": "Hello", "HTMLBody": "Hello"}, {"Subject": "Good morning", "HTMLBody": "Hello"}],
     "do": []})";
 
+constexpr int shows_caption = 2,
+              shows_icon_and_caption = 3; ///< a button's style, as the mail client numbers it
+
 std::string with_explorers(int count) {
     std::string scenario = ready_to_dress;
     return scenario.replace(scenario.find("EXPLORERS"), 9, std::to_string(count));
@@ -109,6 +112,7 @@ TEST(Lifecycle, MessageWindowsThatAreOpenWhenItIsLoadedGetTheirButtonUntilTheyCl
     for (const auto& item : client.items) {
         ASSERT_EQ(item->inspector_bar->buttons.size(), 1u);
         EXPECT_EQ(item->inspector_bar->buttons[0]->tag, button_tags::send_options);
+        EXPECT_EQ(item->inspector_bar->buttons[0]->style, shows_caption);
     }
     const std::size_t held = add_in.stage.held();
     client.send(*client.items[0]);
@@ -123,13 +127,12 @@ TEST(Lifecycle, ItsButtonsShowTheirCaptionsAndStayNoLongerThanTheMailClient) {
     Lifecycle add_in(1);
     add_in.addin.OnConnection(add_in.stage.application(), Connect::at_startup);
     add_in.addin.OnStartupComplete();
-    constexpr int caption = 2, icon_and_caption = 3;
     const auto& buttons = add_in.stage.client.standard_bar->buttons;
     ASSERT_EQ(buttons.size(), 2u);
     EXPECT_EQ(buttons[0]->tag, button_tags::setup);
-    EXPECT_EQ(buttons[0]->style, icon_and_caption);
+    EXPECT_EQ(buttons[0]->style, shows_icon_and_caption);
     EXPECT_EQ(buttons[1]->tag, button_tags::mode);
-    EXPECT_EQ(buttons[1]->style, caption);
+    EXPECT_EQ(buttons[1]->style, shows_caption);
     for (const auto& button : buttons) EXPECT_TRUE(button->temporary);
     add_in.addin.OnDisconnection(0);
 }

@@ -500,12 +500,15 @@ TEST_F(SendOptions, TheLogoHasAStripOfItsOwnWhichIsNotSaved) {
 
 TEST_F(SendOptions, AMissingPictureLeavesTheStripEmpty) {
     set(admin::ShowLogoMainForm, u"True");
-    set(admin::WizardLogo, u"C:\\logo");
+    files.contents[u"\\logo.gif"] = "GIF89a"; // in no folder that was chosen
     keep_choices();
-    show([](Form& form, FormUser) {
-        EXPECT_EQ(form.properties.place.height, 7275);
-        EXPECT_EQ(form[u"imgLogo"].picture, u"");
-    });
+    for (const TextView folder : {u"C:\\logo", u""}) {
+        set(admin::WizardLogo, folder);
+        show([](Form& form, FormUser) {
+            EXPECT_EQ(form.properties.place.height, 7275);
+            EXPECT_EQ(form[u"imgLogo"].picture, u"");
+        });
+    }
 }
 
 TEST_F(SendOptions, AnyOtherSavedHeightFoldsTheOptions) {

@@ -24,6 +24,8 @@ TEST(Nearest, IsTheNameWithTheFewestOtherLetters) {
     EXPECT_EQ(nearest(u"abcdef", std::vector<Text>{u"abcxyz"}), u"abcxyz");
     EXPECT_FALSE(nearest(u"abcdef", std::vector<Text>{u"abwxyz"}));
     EXPECT_FALSE(nearest(u"abcdef", std::vector<Text>{u"wxyzef"}));
+    EXPECT_EQ(nearest(u"abc", std::vector<Text>{u"abcxy"}), u"abcxy");
+    EXPECT_EQ(nearest(u"abcxy", std::vector<Text>{u"abc"}), u"abc");
     EXPECT_FALSE(nearest(u"x", std::vector<Text>{u"xyz"}));
     EXPECT_FALSE(nearest(u"Marketing", names));
     EXPECT_FALSE(nearest(u"", {}));
