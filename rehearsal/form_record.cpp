@@ -19,7 +19,7 @@ Json items_of(const Control& control) {
 }
 
 Json control_record(const Control& control) {
-    Json json{{"kind", kind_names[static_cast<std::size_t>(control.kind)]}};
+    Json json{{"kind", kind_name(control.kind)}};
     if (has_caption(control.kind)) json["caption"] = to_json(readable_caption(control));
     json["tool tip"] = to_json(control.tool_tip);
     json["visible"] = control.visible;
@@ -58,6 +58,8 @@ Json all_controls(const forms::Form& form) {
 }
 
 } // namespace
+
+const char* kind_name(ControlKind kind) { return kind_names[static_cast<std::size_t>(kind)]; }
 
 Json form_record(const forms::Form& form) {
     Json record{{"form", to_json(form.name())}};

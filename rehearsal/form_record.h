@@ -5,6 +5,9 @@
 
 namespace ornavel::rehearsal {
 
+/// What an outcome calls controls of this kind.
+const char* kind_name(forms::ControlKind kind);
+
 /// A form as the outcome shows it: its own properties, and its controls by name.
 Json form_record(const forms::Form& form);
 

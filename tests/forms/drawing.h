@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/form.h"
+#include "rehearsal/form_record.h"
 #include "tests/as_written.h"
 
 namespace ornavel::forms {
@@ -28,11 +28,8 @@ public:
 
 private:
     void describe(const Control& control) {
-        static constexpr const char* kinds[] = {
-            "form",  "button", "check box",   "combo box",    "list box",  "text box", "label",    "frame",
-            "image", "menu",   "web browser", "progress bar", "tab strip", "toolbar",  "list view"};
         const Bounds& place = control.place;
-        words_ << kinds[static_cast<int>(control.kind)] << " " << to_utf8(control.name) << " " << place.left
+        words_ << rehearsal::kind_name(control.kind) << " " << to_utf8(control.name) << " " << place.left
                << "," << place.top << " " << place.width << "x" << place.height;
         tell("in", control.frame);
         tell("caption", control.caption);
