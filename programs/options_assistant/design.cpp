@@ -97,7 +97,8 @@ void arrange_import(Form& form, int width, int height) {
 
 std::vector<Control> controls() {
     Control save = button(u"cmdSave", u"&Save"), close = button(u"cmdClose", u"Close");
-    save.is_default = close.is_cancel = true;
+    Control take_over = button(u"cmdTakeOver", u"I&mport"), cancel = button(u"cmdCancelImport", u"Cancel");
+    save.is_default = take_over.is_default = close.is_cancel = cancel.is_cancel = true;
     Control frame = control(ControlKind::frame, u"fraImport", u"Import");
     frame.visible = false;
     Control value_list = control(ControlKind::combo_box, u"cboValue");
@@ -125,8 +126,8 @@ std::vector<Control> controls() {
         std::move(frame),
         in_import(control(ControlKind::label, u"lblImport", u"&What the file would change")),
         in_import(control(ControlKind::list_box, u"lstImport")),
-        in_import(button(u"cmdTakeOver", u"I&mport")),
-        in_import(button(u"cmdCancelImport", u"Cancel")),
+        in_import(std::move(take_over)),
+        in_import(std::move(cancel)),
     };
 }
 

@@ -62,7 +62,7 @@ void frmOptionsAssistant::wire() {
     form_.on(u"cmdClose", Event::click, [this] { cmdClose_Click(); });
     form_.on(u"cmdImport", Event::click, [this] { cmdImport_Click(); });
     form_.on(u"cmdTakeOver", Event::click, [this] { cmdTakeOver_Click(); });
-    form_.on(u"cmdCancelImport", Event::click, [this] { show_import(false); });
+    form_.on(u"cmdCancelImport", Event::click, [this] { leave_import(); });
     form_.on(u"cmdExport", Event::click, [this] { cmdExport_Click(); });
     form_.on(u"cmdPreset", Event::click, [this] { cmdPreset_Click(); });
 }

@@ -16,7 +16,6 @@ public:
 private:
     void wire();
     void Form_Load();
-    void Form_Resize();
     void lstGroups_Click();
     void list_settings();
     int place_of(const settings::Description* before) const;
@@ -37,6 +36,7 @@ private:
     void cmdImport_Click();
     void cmdTakeOver_Click();
     void show_import(bool shown);
+    void leave_import();
     void cmdExport_Click();
     void cmdPreset_Click();
     void write(TextView path, Exported which);

@@ -42,6 +42,11 @@ void frmOptionsAssistant::cmdImport_Click() {
     show_import(true);
 }
 
+void frmOptionsAssistant::leave_import() {
+    show_import(false);
+    form_.next_focus = u"cmdImport";
+}
+
 /// While an import is looked at, nothing else is shown.
 void frmOptionsAssistant::show_import(bool shown) {
     for (Control& control : form_.controls())
@@ -49,15 +54,18 @@ void frmOptionsAssistant::show_import(bool shown) {
     form_[u"lstImport"].items = shown ? import_.lines : std::vector<Text>();
     form_[u"lstImport"].select(-1);
     form_[u"cmdTakeOver"].enabled = !import_.changes.empty();
-    if (!shown) show_setting();
+    if (shown)
+        form_.next_focus = u"lstImport";
+    else
+        show_setting();
 }
 
 /// What else the user has changed stays to be saved.
 void frmOptionsAssistant::cmdTakeOver_Click() {
-    if (!save_or_tell(platform_, title, import_.changes)) return show_import(false);
+    if (!save_or_tell(platform_, title, import_.changes)) return leave_import();
     for (const Change& change : import_.changes)
         draft_.set(change.key, platform_.settings.find_stored(change.key.section, change.key.name));
-    show_import(false);
+    leave_import();
     list_settings();
 }
 

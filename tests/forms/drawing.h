@@ -5,7 +5,8 @@
 
 namespace ornavel::forms {
 
-/// A form as it was laid out, in words: a line for itself and one for each control, in twips.
+/// A form as it was laid out, in words: a line for itself and one for each control that stands in no hidden
+/// frame, in twips.
 class Drawing {
 public:
     explicit Drawing(const Form& form) {
@@ -20,6 +21,8 @@ public:
             words_ << " least room " << form.least_room.width << "x" << form.least_room.height;
         words_ << "\n";
         for (const Control& control : form.controls()) {
+            const Control* const frame = form.find(control.frame);
+            if (frame && !frame->visible) continue;
             describe(control);
             words_ << "\n";
         }

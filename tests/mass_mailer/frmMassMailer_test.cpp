@@ -5,6 +5,7 @@
 #include "tests/fakes/memory_files.h"
 #include "tests/fakes/recording_launcher.h"
 #include "tests/fakes/scripted_windows.h"
+#include "tests/forms/drawing.h"
 #include "tests/forms/overlap.h"
 #include "tests/mass_mailer/fake_mail_client.h"
 #include "tests/mass_mailer/fake_waiting.h"
@@ -76,6 +77,13 @@ protected:
 private:
     std::function<void(Form&, FormUser)> script_;
 };
+
+TEST_F(SendToManyWindow, LooksAsDrawn) {
+    show([](Form& form, FormUser user) {
+        user.set_text(u"txtList", list);
+        expect_drawn(form, "send to many");
+    });
+}
 
 TEST_F(SendToManyWindow, ShowsTheListAndEachPersonsMessage) {
     show([&](Form& form, FormUser user) {

@@ -4,6 +4,8 @@
 #include "base/encoding.h"
 #include "forms/form_user.h"
 #include "settings/reg_settings.h"
+#include "tests/forms/drawing.h"
+#include "tests/forms/overlap.h"
 #include "tests/programs/program_stage.h"
 
 #include <gtest/gtest.h>
@@ -34,6 +36,16 @@ protected:
         ASSERT_NE(line, lines.end()) << to_utf8(name);
         user().select(u"lstSettings", static_cast<int>(line - lines.begin()));
     }
+    /// The buttons that Enter or Escape presses.
+    Text pressed_by(bool Control::*key) {
+        Text names;
+        for (const Control& control : form().controls()) {
+            const Control* const frame = form().find(control.frame);
+            const bool is_seen = control.visible && (!frame || frame->visible);
+            if (is_seen && control.enabled && control.*key) names += control.name;
+        }
+        return names;
+    }
     std::optional<Text> stored(const Key& key) { return stage.stored(key); }
     Text last_box() { return stage.windows.boxes.empty() ? Text() : stage.windows.boxes.back(); }
     std::string written(TextView path) { return stage.files.contents.at(Text(path)); }
@@ -43,6 +55,16 @@ protected:
 private:
     std::unique_ptr<frmOptionsAssistant> options_;
 };
+
+TEST_F(Options, LookAsDrawn) {
+    choose(admin::HTMFilesPath.name);
+    expect_drawn(form(), "options");
+    stage.files.contents[u"C:\\in.reg"] =
+        "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n\"A\"=\"x\"\r\n";
+    stage.windows.path = u"C:\\in.reg";
+    user().click(u"cmdImport");
+    expect_drawn(form(), "options while an import is looked at");
+}
 
 TEST_F(Options, ListEverySettingOfTheCatalogueWithItsValue) {
     EXPECT_EQ(form()[u"lstSettings"].items.size(), descriptions().size());
@@ -205,6 +227,18 @@ TEST_F(Options, FromAFileAreForgottenWhenTheImportIsCancelled) {
     EXPECT_FALSE(form()[u"fraImport"].visible);
 }
 
+TEST_F(Options, FromAFileAreLookedAtWithTheKeyboardAlone) {
+    stage.files.contents[u"C:\\in.reg"] = from_elsewhere;
+    stage.windows.path = u"C:\\in.reg";
+    user().click(u"cmdImport");
+    EXPECT_EQ(form().next_focus, u"lstImport");
+    EXPECT_EQ(pressed_by(&Control::is_default), u"cmdTakeOver");
+    EXPECT_EQ(pressed_by(&Control::is_cancel), u"cmdCancelImport");
+    user().click(u"cmdCancelImport");
+    EXPECT_EQ(form().next_focus, u"cmdImport");
+    EXPECT_EQ(pressed_by(&Control::is_cancel), u"cmdClose");
+}
+
 TEST_F(Options, OfAFileThatIsNoneStayAsTheyAre) {
     stage.files.contents[u"C:\\in.reg"] = "<html>";
     stage.windows.path = u"C:\\in.reg";
@@ -284,10 +318,6 @@ TEST_F(Options, ThatArePathsAreBrowsedFor) {
 }
 
 TEST_F(Options, StandApartWhateverTheirEditorAndTheSizeOfTheWindow) {
-    const auto overlap = [](const Bounds& a, const Bounds& b) {
-        return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
-               b.top < a.top + a.height;
-    };
     for (const Size size : {Size{0, 0}, Size{14000, 11000}}) {
         form().take_place({0, 0, size.width, size.height});
         for (const TextView name : {TextView(admin::AutoPreview.name), TextView(admin::HTMFilesPath.name)}) {

@@ -1,5 +1,6 @@
 #include "programs/site_assistant/frmSiteAssistant.h"
 #include "settings/modes.h"
+#include "tests/forms/drawing.h"
 #include "tests/programs/identity.h"
 #include "tests/programs/program_stage.h"
 
@@ -67,6 +68,15 @@ struct SiteAssistant : testing::Test {
         return page == stage.files.contents.end() ? Text() : decode(page->second, windows_1252());
     }
 };
+
+TEST_F(SiteAssistant, LooksAsDrawn) {
+    open();
+    click(u"chkFrench");
+    for (const TextView page : {u"fraYou", u"fraFrench", u"fraLetterhead", u"fraSending", u"fraReady"}) {
+        go_to(page);
+        expect_drawn(form(), "setup " + to_utf8(page));
+    }
+}
 
 TEST_F(SiteAssistant, ShowsOnePageAtATime) {
     open();
