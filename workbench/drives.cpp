@@ -1,21 +1,18 @@
 #include "workbench/drives.h"
 
 #include "base/errors.h"
+#include "base/file_address.h"
 
 namespace ornavel::workbench {
 namespace {
-
-bool is_letter(char16_t unit) { return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z'); }
 
 char16_t upper(char16_t unit) { return upper_case(TextView(&unit, 1)).front(); }
 
 } // namespace
 
-bool names_drive(TextView path) { return path.size() >= 2 && is_letter(path[0]) && path[1] == u':'; }
-
 void Drives::stand_in(TextView drive_and_folder) {
-    const bool drive =
-        drive_and_folder.size() > 2 && is_letter(drive_and_folder[0]) && drive_and_folder[1] == u'=';
+    const bool drive = drive_and_folder.size() > 2 && drive_and_folder[1] == u'=' &&
+                       names_drive(Text{drive_and_folder[0], u':'});
     if (!drive) throw Failure(u"--drive takes a letter and a folder, such as C=/home/jo/drive-c");
     const TextView folder = drive_and_folder.substr(2);
     if (!machine_.folder_exists(folder)) throw Failure(Text(folder) + u": there is no such folder");

@@ -42,9 +42,6 @@ private:
     std::map<char16_t, Text> folders_; ///< by the drive's letter, in upper case
 };
 
-/// Whether the path begins with a drive's letter.
-bool names_drive(TextView path);
-
 /// The folder of a file, and the file's name without it; with "/" and "\" alike.
 Text folder_of(TextView path);
 Text name_of_file(TextView path);

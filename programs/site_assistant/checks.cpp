@@ -1,6 +1,7 @@
 #include "programs/site_assistant/checks.h"
 
 #include "base/errors.h"
+#include "base/file_address.h"
 #include "compose/composition.h"
 
 #include <algorithm>
@@ -37,28 +38,27 @@ constexpr Check checks[] = {
      u"This folder of signatures is not there. Choose the one in which your signatures lie."},
 };
 
-Text warning_about_identity(Form& form) {
+/// "an e-mail address and a website", or one of them.
+Text missing_of(bool one, TextView name, bool other, TextView other_name) {
+    return Text(one ? name : TextView()) + (one && other ? u" and " : u"") +
+           Text(other ? other_name : TextView());
+}
+
+void warn_of_identity(Form& form, Warning& warning) {
     const bool email = trim(form[u"txtSigEmail"].text).empty();
     const bool website = trim(form[u"txtSigWebsite"].text).empty();
-    if (!email && !website) return {};
-    const Text what = email && website ? u"an e-mail address and a website"
-                      : email          ? u"an e-mail address"
-                                       : u"a website";
-    return u"Without " + what +
-           u", Ornavel Setup opens again at every start of the mail client. Next goes on all the same.";
+    if (email || website)
+        warning.add(u"Without " + missing_of(email, u"an e-mail address", website, u"a website") +
+                    u", Ornavel Setup opens again at every start of the mail client. ");
 }
 
-bool is_drive_path(TextView path) {
-    return path.size() > 2 && path[1] == u':' && path[2] == u'\\' &&
-           ((path[0] >= u'A' && path[0] <= u'Z') || (path[0] >= u'a' && path[0] <= u'z'));
-}
-
-Text as_path(TextView address) {
-    Text path = replace_all(Text(address), u"%20", u" ");
-    std::ranges::replace(path, u'/', u'\\');
-    if (same_name(TextView(path).substr(0, 5), u"file:"))
-        path.erase(0, std::min(path.find_first_not_of(u'\\', 5), path.size()));
-    return path;
+/// A send needs both, and is refused where one is missing.
+void warn_of_choices(TextView template_name, TextView signature, Warning& warning) {
+    const bool no_template = !contains(template_name, u".htm");
+    const bool no_signature = !contains(signature, u".htm") && !contains(signature, u"none");
+    if (no_template || no_signature)
+        warning.add(u"Until " + missing_of(no_template, u"a template", no_signature, u"a signature") +
+                    (no_template && no_signature ? u" are" : u" is") + u" chosen, messages are held back. ");
 }
 
 /// The value of an attribute, from behind its "=" on.
@@ -71,23 +71,29 @@ TextView attribute_value(TextView rest) {
     return rest.substr(0, rest.find_first_of(end));
 }
 
+Text name_of(TextView path) { return Text(path.substr(path.find_last_of(u'\\') + 1)); }
+
 /// A file's name that leaves room for the rest of its sentence.
 Text short_name(TextView path) {
-    constexpr std::size_t longest = 60;
-    const TextView name = path.substr(path.find_last_of(u'\\') + 1);
-    return name.size() <= longest ? Text(name) : Text(name.substr(0, longest - 1)) + u"…";
+    constexpr std::size_t longest = 30;
+    const Text name = name_of(path);
+    if (name.size() <= longest) return name;
+    const bool cuts_pair = name[longest - 1] >= 0xDC00 && name[longest - 1] < 0xE000;
+    return name.substr(0, cuts_pair ? longest - 2 : longest - 1) + u"…";
 }
 
-Text warning_about_marker(const Text& path, TextView html) {
-    if (contains(html, compose::insertion_marker)) return {};
-    return u"The template " + short_name(path) + u" has no place for the message (" +
-           Text(compose::insertion_marker) + u"): the text of every message would be lost. ";
+void warn_of_marker(const Text& path, TextView html, Warning& warning) {
+    if (!contains(html, compose::insertion_marker))
+        warning.add(u"The template ", path,
+                    u" has no place for the message (" + Text(compose::insertion_marker) +
+                        u"): the text of every message would be lost. ");
 }
 
-Text warning_about_pictures(TextView html, const Files& files) {
-    for (const Text& picture : local_pictures(html))
-        if (!files.file_exists(picture)) return u"The picture " + short_name(picture) + u" is not there. ";
-    return {};
+void warn_of_pictures(TextView html, const Files& files, Warning& warning) {
+    const auto pictures = local_pictures(html);
+    const auto missing =
+        std::ranges::find_if(pictures, [&](const Text& path) { return !files.file_exists(path); });
+    if (missing != pictures.end()) warning.add(u"The picture ", *missing, u" is not there. ");
 }
 
 /// Of a file that can't be read nothing is known.
@@ -97,18 +103,17 @@ Text text_or_nothing(const Files& files, TextView path) {
     return text;
 }
 
-Text warning_about_stationery(Form& form, const Files& files) {
-    Text warning;
-    if (const auto path =
-            template_in_use(files, form[u"txtTemplatesFolder"].text, form[u"cboTemplates"].text))
-        if (const Text html = text_or_nothing(files, *path); !html.empty())
-            warning = warning_about_marker(*path, html) + warning_about_pictures(html, files);
-    const Text signature = trim(form[u"cboSignatures"].text);
-    if (!signature.empty() && signature != u"none") {
-        const Text folder(without_end(form[u"txtSignaturesFolder"].text));
-        warning += warning_about_pictures(text_or_nothing(files, folder + u"\\" + signature), files);
-    }
-    return warning.empty() ? warning : warning + u"Next goes on all the same.";
+void warn_of_stationery(Form& form, const Files& files, Warning& warning) {
+    const Text name = trim(form[u"cboTemplates"].text), signature = trim(form[u"cboSignatures"].text);
+    warn_of_choices(name, signature, warning);
+    if (const auto path = template_in_use(files, form[u"txtTemplatesFolder"].text, name))
+        if (const Text html = text_or_nothing(files, *path); !html.empty()) {
+            warn_of_marker(*path, html, warning);
+            warn_of_pictures(html, files, warning);
+        }
+    if (signature.empty() || signature == u"none") return;
+    const Text folder(without_end(form[u"txtSignaturesFolder"].text));
+    warn_of_pictures(text_or_nothing(files, folder + u"\\" + signature), files, warning);
 }
 
 } // namespace
@@ -120,9 +125,19 @@ std::optional<Problem> refusal_of(Form& form, TextView page, const Files& files)
     return {};
 }
 
-Text warning_of(Form& form, TextView page, const Files& files) {
-    if (page == u"fraYou") return warning_about_identity(form);
-    return page == u"fraLetterhead" ? warning_about_stationery(form, files) : Text();
+void Warning::add(TextView sentence) { short_form += sentence, whole += sentence; }
+
+void Warning::add(TextView before, TextView path, TextView behind) {
+    short_form += Text(before) + short_name(path) + Text(behind);
+    whole += Text(before) + name_of(path) + Text(behind);
+}
+
+Warning warning_of(Form& form, TextView page, const Files& files) {
+    Warning warning;
+    if (page == u"fraYou") warn_of_identity(form, warning);
+    if (page == u"fraLetterhead") warn_of_stationery(form, files, warning);
+    if (!warning.whole.empty()) warning.add(u"Next goes on all the same.");
+    return warning;
 }
 
 TextView without_end(TextView folder) {
@@ -144,8 +159,8 @@ std::vector<Text> local_pictures(TextView html) {
     const Text lower = lower_case(html);
     for (const TextView name : {u"src=", u"background="})
         for (auto at = lower.find(name); at != Text::npos; at = lower.find(name, at + 1)) {
-            Text path = as_path(attribute_value(html.substr(at + name.size())));
-            if (is_drive_path(path) && !contains(path, u"[#")) pictures.push_back(std::move(path));
+            Text path = path_of_address(attribute_value(html.substr(at + name.size())));
+            if (names_drive(path) && !contains(path, u"[#")) pictures.push_back(std::move(path));
         }
     return pictures;
 }

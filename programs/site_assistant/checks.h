@@ -15,7 +15,16 @@ struct Problem {
 std::optional<Problem> refusal_of(forms::Form& form, TextView page, const Files& files);
 
 /// What the user should know before leaving the page, in a sentence each; empty for nothing.
-Text warning_of(forms::Form& form, TextView page, const Files& files);
+struct Warning {
+    Text short_form; ///< with long names cut off
+    Text whole;
+
+    void add(TextView sentence);
+    /// A sentence about a file, with words in front of its name and behind it.
+    void add(TextView before, TextView path, TextView behind);
+};
+
+Warning warning_of(forms::Form& form, TextView page, const Files& files);
 
 /// A folder's name without backslashes at its end.
 TextView without_end(TextView folder);

@@ -76,13 +76,13 @@ TextView name_of_mode(TextView value) {
     return mode == std::end(modes) ? TextView() : mode->name;
 }
 
-bool is_mode(const Field& field) { return field.key.name == user::SettingButtonBar.name; }
+bool is_mode(const Key& key) { return key.name == user::SettingButtonBar.name; }
 
 /// A stored value, as the control would say it.
 Text as_shown(const Field& field, const Control& control, TextView stored) {
     if (control.kind == ControlKind::check_box)
         return Text(value_of_box(field.key, is_ticked_by(field.key, stored)));
-    if (is_mode(field)) return Text(mode_named(name_of_mode(stored)));
+    if (is_mode(field.key)) return Text(mode_named(name_of_mode(stored)));
     return Text(stored);
 }
 
@@ -96,19 +96,32 @@ Text names_of_files(TextView paths) {
     return names;
 }
 
+/// Whether the user, or the wizard for them, says something else than was stored. What nobody touched stays
+/// as it is, blanks around it and all.
+bool is_meant(const Field& field, const Control& control, const Beginning& beginning, TextView shown) {
+    const Text stored = as_shown(field, control, beginning.stored);
+    return shown != stored && trim(shown) != stored;
+}
+
+void add_name_of_vcard(std::vector<Change>& changes, TextView path, const Store& store) {
+    const Text name = names_of_files(path);
+    if (name != stored_value(store, user::vCard)) changes.push_back({user::vCard, name});
+}
+
 } // namespace
 
 std::span<const Field> setup_fields() { return fields; }
 
 Text stored_value(const Store& store, const Key& key) {
-    return store.find(key.section, key.name).value_or(Text(key.default_value));
+    const TextView fallback = is_mode(key) ? TextView() : key.default_value;
+    return store.find(key.section, key.name).value_or(Text(fallback));
 }
 
 void show_value(Form& form, const Field& field, TextView value) {
     Control& control = form[field.control];
     if (control.kind == ControlKind::check_box)
         control.ticked = is_ticked_by(field.key, value);
-    else if (is_mode(field))
+    else if (is_mode(field.key))
         control.choose(name_of_mode(value));
     else if (control.kind == ControlKind::combo_box)
         control.choose(value);
@@ -119,20 +132,22 @@ void show_value(Form& form, const Field& field, TextView value) {
 Text shown_value(Form& form, const Field& field) {
     const Control& control = form[field.control];
     if (control.kind == ControlKind::check_box) return Text(value_of_box(field.key, control.ticked));
-    return is_mode(field) ? Text(mode_named(control.text)) : control.text;
+    return is_mode(field.key) ? Text(mode_named(control.text)) : control.text;
 }
 
-std::vector<Change> changes_in(Form& form, const Store& store) {
+std::vector<Change> changes_in(Form& form, const Store& store, std::span<const Beginning> beginnings) {
     std::vector<Change> changes;
-    for (const Field& field : fields) {
+    for (std::size_t i = 0; i < beginnings.size(); ++i) {
+        const Field& field = fields[i];
         const Control& control = form[field.control];
         if (control.frame == u"fraFrench" && !form[u"chkFrench"].ticked) continue;
-        const Text stored = as_shown(field, control, stored_value(store, field.key));
         const Text shown = shown_value(form, field), value = trim(shown);
-        // What nobody touched stays as it is, blanks around it and all.
-        if (shown == stored || value == stored) continue;
+        if (!is_meant(field, control, beginnings[i], shown)) continue;
+        const Text now = stored_value(store, field.key);
+        const bool is_overtaken = shown == beginnings[i].shown && now != beginnings[i].stored;
+        if (value == now || is_overtaken) continue;
         changes.push_back({field.key, value});
-        if (field.key.name == user::vCardPath.name) changes.push_back({user::vCard, names_of_files(value)});
+        if (field.key.name == user::vCardPath.name) add_name_of_vcard(changes, value, store);
     }
     return changes;
 }

@@ -54,7 +54,7 @@ void frmSiteAssistant::wire() {
     for (const TextView folder : {u"txtTemplatesFolder", u"txtSignaturesFolder"})
         form_.on(folder, Event::change, [this, folder] { folder_typed(folder); });
     for (const TextView list : {u"cboTemplates", u"cboSignatures"}) {
-        form_.on(list, Event::drop_down, [this] { list_stationery(); });
+        form_.on(list, Event::drop_down, [this] { is_unseen_ ? open_letterhead() : list_stationery(); });
         for (const Event event : {Event::click, Event::change}) form_.on(list, event, [this] { render(); });
     }
     form_.on(u"txtvCard", Event::change, [this] { show_whole_names(); });
@@ -76,19 +76,27 @@ void frmSiteAssistant::Form_Load() {
         form_[u"cboMode"].enabled = false;
         form_[u"cboMode"].tool_tip = u"The button in the mail client's toolbar leads out of this mode.";
     }
-    for (const Field& field : setup_fields())
-        show_value(form_, field, stored_value(platform_.settings, field.key));
-    prefill();
+    for (const Field& field : setup_fields()) {
+        beginnings_.push_back({stored_value(platform_.settings, field.key), {}});
+        show_value(form_, field, beginnings_.back().stored);
+    }
+    propose();
     show_whole_names();
     form_[u"chkFrench"].ticked = std::ranges::any_of(form_.controls(), [](const Control& control) {
         return control.frame == u"fraFrench" && !control.text.empty();
     });
-    as_loaded_ = shown_values();
+    for (std::size_t i = 0; i < beginnings_.size(); ++i)
+        beginnings_[i].shown = shown_value(form_, setup_fields()[i]);
     show_page(0);
 }
 
+void frmSiteAssistant::propose() {
+    if (stored_value(platform_.settings, user::SettingButtonBar).empty()) form_[u"cboMode"].select(0);
+    propose_identity();
+}
+
 /// Of somebody who has told nothing yet Windows knows two things.
-void frmSiteAssistant::prefill() {
+void frmSiteAssistant::propose_identity() {
     const bool told = std::ranges::any_of(form_.controls(), [](const Control& control) {
         return control.frame == u"fraYou" && !control.text.empty();
     });
@@ -136,7 +144,7 @@ void frmSiteAssistant::cmdNext_Click() {
 /// A warning is passed by a second click.
 bool frmSiteAssistant::page_may_be_left() {
     std::optional<Problem> problem;
-    Text warning;
+    Warning warning;
     platform_.windows.while_user_waits([&] {
         problem = refusal_of(form_, frame(), platform_.files);
         if (!problem) warning = warning_of(form_, frame(), platform_.files);
@@ -146,8 +154,8 @@ bool frmSiteAssistant::page_may_be_left() {
         form_.next_focus = problem->control;
         return false;
     }
-    if (warning.empty() || warning == warned_) return true;
-    tell(warned_ = warning);
+    if (warning.whole.empty() || warning.whole == warned_) return true;
+    tell(warning.short_form, warned_ = warning.whole);
     return false;
 }
 
@@ -157,7 +165,7 @@ void frmSiteAssistant::ask_about_markup() {
     for (const Field& field : setup_fields()) {
         Control& control = form_[field.control];
         if (field.is_HTML && control.frame == frame() && reads_as_markup(control.text) &&
-            !kept_.contains(control.text))
+            kept_[control.name] != control.text)
             found.push_back(&control);
     }
     if (found.empty()) return;
@@ -166,7 +174,7 @@ void frmSiteAssistant::ask_about_markup() {
         if (shows)
             control->text = as_HTML(control->text);
         else
-            kept_.insert(control->text);
+            kept_[control->name] = control->text;
 }
 
 void frmSiteAssistant::cmdFinish_Click() {
@@ -178,21 +186,23 @@ void frmSiteAssistant::cmdCancel_Click() {
 }
 
 bool frmSiteAssistant::may_be_closed() {
-    return shown_values() == as_loaded_ || platform_.windows.ask_risky(site_assistant.title, cancel_question);
+    return !is_changed() || platform_.windows.ask_risky(site_assistant.title, cancel_question);
 }
 
-void frmSiteAssistant::tell(TextView sentence) {
+/// What has no room is read whole in the tool tip.
+void frmSiteAssistant::tell(TextView sentence, TextView whole) {
     form_[u"lblProblem"].caption = forms::with_access_key(sentence, u'\0');
+    form_[u"lblProblem"].tool_tip = whole;
 }
 
-std::vector<Text> frmSiteAssistant::shown_values() {
-    std::vector<Text> values;
-    for (const Field& field : setup_fields()) values.push_back(shown_value(form_, field));
-    return values;
+bool frmSiteAssistant::is_changed() {
+    for (std::size_t i = 0; i < beginnings_.size(); ++i)
+        if (shown_value(form_, setup_fields()[i]) != beginnings_[i].shown) return true;
+    return false;
 }
 
 std::vector<Change> frmSiteAssistant::changes() {
-    std::vector<Change> changes = changes_in(form_, platform_.settings);
+    std::vector<Change> changes = changes_in(form_, platform_.settings, beginnings_);
     // From now on the mail client's start opens the wizard only where the identity is missing.
     if (stored_value(platform_.settings, admin::StartupSetupWiz) != off)
         changes.push_back({admin::StartupSetupWiz, Text(off)});

@@ -3,7 +3,7 @@
 #include "programs/program.h"
 #include "programs/site_assistant/fields.h"
 
-#include <set>
+#include <map>
 
 namespace ornavel::programs {
 
@@ -26,14 +26,15 @@ private:
     void cmdFinish_Click();
     void cmdCancel_Click();
     bool may_be_closed();
-    void prefill();
+    void propose();
+    void propose_identity();
     void show_page(std::size_t page);
     TextView frame() const;
     bool is_skipped(std::size_t page);
     bool page_may_be_left();
     void ask_about_markup();
-    void tell(TextView sentence);
-    std::vector<Text> shown_values();
+    void tell(TextView sentence, TextView whole = {});
+    bool is_changed();
     std::vector<settings::Change> changes();
 
     // frmSiteAssistant_pages.cpp
@@ -48,9 +49,10 @@ private:
 
     const Platform& platform_;
     std::size_t page_ = 0;
-    Text warned_;                 ///< what the user was told of this page, and may pass
-    std::set<Text> kept_;         ///< values that the user wants as markup
-    std::vector<Text> as_loaded_; ///< what the fields showed at first
+    bool is_unseen_ = false;            ///< a folder was named and not looked into yet
+    Text warned_;                       ///< what the user was told of this page, and may pass
+    std::map<Text, Text> kept_;         ///< values that the user wants as markup, by their controls
+    std::vector<Beginning> beginnings_; ///< of the fields, in their order
     forms::Form form_;
 };
 

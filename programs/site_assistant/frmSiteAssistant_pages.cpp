@@ -26,7 +26,10 @@ void fill(Control& list, std::vector<Text> items) {
 }
 
 /// A place that may take long to answer, or never does.
-bool is_elsewhere(TextView folder) { return folder.starts_with(u"\\\\"); }
+bool is_elsewhere(TextView folder) {
+    const Text path = trim(folder);
+    return path.starts_with(u"\\\\") || path.starts_with(u"//");
+}
 
 } // namespace
 
@@ -38,6 +41,7 @@ void frmSiteAssistant::show_whole_names() {
 }
 
 void frmSiteAssistant::open_letterhead() {
+    is_unseen_ = false;
     list_stationery();
     render();
 }
@@ -75,7 +79,8 @@ void frmSiteAssistant::render() {
 /// A share is asked only once the user opens a list or goes on: not at every letter.
 void frmSiteAssistant::folder_typed(TextView control) {
     show_whole_names();
-    if (!is_elsewhere(form_[control].text)) open_letterhead();
+    is_unseen_ = is_elsewhere(form_[control].text);
+    if (!is_unseen_) open_letterhead();
 }
 
 void frmSiteAssistant::browse(TextView control, forms::PathQuestion question) {

@@ -16,7 +16,7 @@ constexpr TextView message = u"<html><body><p>Dear Ann,</p><p>this is how your m
                              u"regards</p></body></html>";
 
 /// In bytes. Nobody sends so much with each message.
-constexpr std::size_t largest_template = 4'000'000;
+constexpr std::size_t largest_file = 4'000'000;
 
 /// A sample has nobody to ask and nothing to log.
 class Nobody final : public MessageBoxes, public diagnostics::ErrorReports, public host::Objects {
@@ -33,22 +33,31 @@ public:
     host::ObjectPtr get(TextView moniker) override { return create(moniker); }
 };
 
-bool is_too_large(const Store& settings, const Files& files) {
+/// In bytes; nothing of a file that can't be read.
+std::size_t size_of(const Files& files, const std::optional<Text>& path) {
     std::size_t size = 0;
     attempt([&] {
-        const auto path =
-            template_in_use(files, read(settings, admin::HTMFilesPath), read(settings, user::Template));
         if (path) size = files.read(*path).size();
     });
-    return size > largest_template;
+    return size;
+}
+
+/// What is too large to be shown; empty where nothing is.
+TextView too_large(const Store& settings, const Files& files) {
+    const Text signature =
+        read(settings, admin::SignaturesPath) + u"\\" + trim(read(settings, user::Signature));
+    if (size_of(files, template_in_use(files, read(settings, admin::HTMFilesPath),
+                                       read(settings, user::Template))) > largest_file)
+        return u"This template";
+    return size_of(files, signature) > largest_file ? u"This signature" : TextView();
 }
 
 } // namespace
 
 Text sample_letter(Store& settings, const Files& files, const Clock& clock) {
-    if (is_too_large(settings, files))
-        return u"<html><body><p>This template is too large to be shown here. Every message would carry all "
-               u"of it.</p></body></html>";
+    if (const TextView what = too_large(settings, files); !what.empty())
+        return u"<html><body><p>" + Text(what) +
+               u" is too large to be shown here. Every message would carry all of it.</p></body></html>";
     ScratchDisk disk(files);
     Nobody nobody;
     host::Letter letter;

@@ -12,6 +12,11 @@ TEST(LocalPictures, AreThoseWhoseAddressNamesADrive) {
               (std::vector<Text>{u"C:\\a b.gif", u"D:\\c d.gif", u"c:\\g.gif", u"e:\\f.gif"}));
 }
 
+TEST(LocalPictures, AreFoundBehindTheEscapesOfAddresses) {
+    EXPECT_EQ(local_pictures(u"<img src='file:///C:/R%26D/a%5b1%5D.gif'><img src='C:\\R&amp;D\\50%.gif'>"),
+              (std::vector<Text>{u"C:\\R&D\\a[1].gif", u"C:\\R&D\\50%.gif"}));
+}
+
 TEST(LocalPictures, LeaveOutWhatLiesElsewhereOrFollowsFromAField) {
     EXPECT_TRUE(local_pictures(u"<img src='http://example.com/a.gif'><img src='file://server/share/a.gif'>"
                                u"<img src='\\\\server\\a.gif'><img src='a.gif'><img src='C:\\[#SigGifFile#]'>"

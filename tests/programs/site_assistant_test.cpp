@@ -168,6 +168,25 @@ TEST_F(NewUser, IsNotGivenWhatWindowsKnowsOnceSomethingIsTold) {
     EXPECT_EQ(form()[u"txtSigFullname"].text, u"");
 }
 
+TEST_F(NewUser, IsDressedFromTheFirstMessageOnUnlessTheyChooseOtherwise) {
+    stage.set(admin::SigEmail, u"ann@example.com");
+    stage.set(admin::SigWebsite, u"www.example.com");
+    open();
+    click(u"cmdNext");
+    type(u"txtTemplatesFolder", u"C:\\stationery");
+    type(u"txtSignaturesFolder", u"C:\\signatures");
+    user().select(u"cboTemplates", 0);
+    user().select(u"cboSignatures", 1);
+    go_to(u"fraReady");
+    EXPECT_EQ(lines(),
+              (std::vector<Text>{u"HTM Files Path: C:\\temp → C:\\stationery",
+                                 u"Signatures Path: C:\\temp → C:\\signatures",
+                                 u"Template: (empty) → card.htm", u"Signature: (empty) → partner.htm",
+                                 u"SettingButtonBar: (empty) → auto", u"StartupSetupWiz: True → False"}));
+    click(u"cmdFinish");
+    EXPECT_EQ(stage.stored(user::SettingButtonBar), modes::automatic);
+}
+
 TEST_F(NewUser, WhoChangedNothingCancelsWithoutAQuestion) {
     open();
     click(u"cmdCancel");
@@ -189,6 +208,32 @@ TEST_F(SiteAssistant, WritesExactlyWhatChanged) {
     EXPECT_EQ(stage.stored(admin::SigFullname), u"Jo B. Sender");
     save(before, admin::SigFullname, u"Jo B. Sender");
     EXPECT_EQ(stage.store.stored.sections(), before.sections());
+}
+
+TEST_F(SiteAssistant, WhatAnotherProgramWroteMeanwhileStaysUnlessItsUserChangedItHere) {
+    stage.store.remove(user::SettingButtonBar.section, user::SettingButtonBar.name);
+    open();
+    type(u"txtSigFax", u"12");
+    stage.set(user::Template, u"card.htm");
+    stage.set(user::SettingButtonBar, modes::signature);
+    stage.set(admin::SigCell, u"079");
+    stage.set(admin::SigFax, u"13");
+    finish();
+    EXPECT_EQ(stage.stored(user::Template), u"card.htm");
+    EXPECT_EQ(stage.stored(user::SettingButtonBar), modes::signature);
+    EXPECT_EQ(stage.stored(admin::SigCell), u"079");
+    EXPECT_EQ(stage.stored(admin::SigFax), u"12");
+}
+
+TEST_F(SiteAssistant, AVCardThatMovedKeepsItsName) {
+    stage.set(user::vCardPath, u"C:\\a\\jo.vcf");
+    stage.set(user::vCard, u"jo");
+    stage.set(admin::StartupSetupWiz, off);
+    open();
+    go_to(u"fraSending");
+    type(u"txtvCard", u"C:\\b\\jo.vcf");
+    go_to(u"fraReady");
+    EXPECT_EQ(lines(), std::vector<Text>{u"vCardPath: C:\\a\\jo.vcf → C:\\b\\jo.vcf"});
 }
 
 TEST_F(SiteAssistant, OnceFinishedIsNotOpenedAtTheNextStart) {
@@ -334,6 +379,46 @@ TEST_F(SiteAssistant, ATemplateThatWouldLoseTheTextIsPassedByASecondNext) {
     EXPECT_EQ(shown(), u"fraSending");
 }
 
+struct Choice {
+    TextView templates, signature, sentence;
+};
+
+TEST_F(SiteAssistant, AMissingChoiceIsPassedByASecondNext) {
+    constexpr Choice choices[] = {
+        {u"", u"",
+         u"Until a template and a signature are chosen, messages are held back. Next goes on all the same."},
+        {u"letter", u"none",
+         u"Until a template is chosen, messages are held back. Next goes on all the same."},
+        {u"letter.htm", u"jo",
+         u"Until a signature is chosen, messages are held back. Next goes on all the same."}};
+    for (const Choice& choice : choices) {
+        open();
+        go_to(u"fraLetterhead");
+        type(u"cboTemplates", choice.templates);
+        type(u"cboSignatures", choice.signature);
+        click(u"cmdNext");
+        EXPECT_EQ(problem(), choice.sentence);
+        click(u"cmdNext");
+        EXPECT_EQ(shown(), u"fraSending");
+    }
+}
+
+TEST_F(SiteAssistant, AWarningThatIsLongerThanItsRoomIsReadInItsToolTip) {
+    const Text template_name(100, u't'), picture_name(100, u'p'), other_name(100, u'o');
+    stage.files.contents[u"C:\\stationery\\" + template_name + u".htm"] =
+        "<img src='C:\\" + std::string(100, 'p') + ".gif'>";
+    stage.files.contents[u"C:\\signatures\\partner.htm"] =
+        "<img src='C:\\" + std::string(100, 'o') + ".gif'>";
+    open();
+    go_to(u"fraLetterhead");
+    type(u"cboTemplates", template_name + u".htm");
+    type(u"cboSignatures", u"partner.htm");
+    click(u"cmdNext");
+    EXPECT_LT(problem().size(), 3u * 100);
+    EXPECT_TRUE(contains(form()[u"lblProblem"].tool_tip, template_name + u".htm"));
+    EXPECT_TRUE(contains(form()[u"lblProblem"].tool_tip, other_name + u".gif"));
+}
+
 TEST_F(SiteAssistant, APictureThatIsNotThereIsPassedByASecondNext) {
     stage.files.contents[u"C:\\signatures\\partner.htm"] = "<img src=\"file:///C:/signatures/jo.gif\">";
     open();
@@ -369,6 +454,26 @@ TEST_F(SiteAssistant, WhatShallStayMarkupIsNotAskedAboutAgain) {
     EXPECT_EQ(stage.windows.boxes.size(), 1u);
     finish();
     EXPECT_EQ(stage.stored(admin::SigPosition), u"<b>Partner</b>");
+}
+
+TEST_F(SiteAssistant, MarkupThatIsWantedInOneFieldIsAskedAboutInAnother) {
+    open();
+    type(u"txtSigPosition", u"<b>Jo</b>");
+    click(u"cmdNext");
+    click(u"cmdBack");
+    type(u"txtSigOrganizationName", u"<b>Jo</b>");
+    click(u"cmdNext");
+    EXPECT_EQ(stage.windows.boxes.size(), 2u);
+}
+
+TEST_F(SiteAssistant, AsksAboutMarkupOnTheWayBackAndInFrenchToo) {
+    stage.windows.yes = [](TextView) { return true; };
+    open();
+    click(u"chkFrench");
+    click(u"cmdNext");
+    type(u"txtSigPositionFR", u"A & B");
+    click(u"cmdBack");
+    EXPECT_EQ(form()[u"txtSigPositionFR"].text, u"A &amp; B");
 }
 
 TEST_F(SiteAssistant, ListsTemplatesAndSignaturesAsThePreviewDoes) {
@@ -414,6 +519,29 @@ TEST_F(SiteAssistant, ATemplateOfFiftyMegabytesIsNotPouredIntoTheSample) {
     go_to(u"fraLetterhead");
     type(u"cboTemplates", u"huge.htm");
     EXPECT_TRUE(contains(preview(), u"too large"));
+}
+
+TEST_F(SiteAssistant, ASignatureOfFiftyMegabytesIsNotPouredIntoTheSample) {
+    stage.files.contents[u"C:\\signatures\\huge.htm"] = std::string(50'000'000, 'x');
+    open();
+    go_to(u"fraLetterhead");
+    type(u"cboSignatures", u"huge.htm");
+    EXPECT_TRUE(contains(preview(), u"too large"));
+}
+
+TEST_F(SiteAssistant, AShareIsShownOnceItsListIsOpenedAndNotAtEveryLetter) {
+    stage.files.folders.insert(u"\\\\server\\t");
+    stage.files.contents[u"\\\\server\\t\\letter.htm"] = "<u>[#Input your message here#]</u>";
+    open();
+    go_to(u"fraLetterhead");
+    int looks = 0;
+    stage.files.at_look = [&](TextView path) { looks += contains(path, u"server"); };
+    for (const TextView folder : {u" \\\\server\\t", u"//server/t", u"\\\\server\\t"})
+        type(u"txtTemplatesFolder", folder);
+    EXPECT_EQ(looks, 0);
+    user().drop_down(u"cboTemplates");
+    EXPECT_EQ(form()[u"cboTemplates"].items, std::vector<Text>{u"letter.htm"});
+    EXPECT_TRUE(contains(preview(), u"<u>"));
 }
 
 TEST_F(SiteAssistant, ASampleThatCantBeWrittenKeepsNobodyFromGoingOn) {

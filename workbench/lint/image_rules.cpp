@@ -1,3 +1,4 @@
+#include "base/file_address.h"
 #include "workbench/lint/known_fields.h"
 #include "workbench/lint/sheet.h"
 
@@ -13,22 +14,6 @@ bool is_elsewhere(const Text& address) {
     for (const TextView scheme : {u"http:", u"https:", u"cid:", u"data:", u"mailto:"})
         if (lower.starts_with(scheme)) return true;
     return false;
-}
-
-Text unescaped(const Text& address) {
-    Text path = replace_all(address, u"%20", u" ");
-    std::ranges::replace(path, u'/', u'\\');
-    return path;
-}
-
-/// An address as a path of Windows.
-Text path_of(const Text& address) {
-    Text path = unescaped(address);
-    if (!same_name(TextView(path).substr(0, 5), u"file:")) return path;
-    path.erase(0, 5);
-    const auto name = std::min(path.find_first_not_of(u'\\'), path.size());
-    const bool drive = names_drive(TextView(path).substr(name));
-    return drive ? path.substr(name) : u"\\\\" + path.substr(name);
 }
 
 bool is_absolute(TextView path) { return names_drive(path) || path.starts_with(u"\\"); }
@@ -48,7 +33,7 @@ public:
     Picture(const Sheet& sheet, const Attribute& address) : sheet_(sheet), at_(address.value_at) {
         const Text value = merged(address.value, sheet.ground.store);
         known_ = !value.empty() && !contains(value, u"[#") && !is_elsewhere(value);
-        path_ = path_of(value);
+        path_ = path_of_address(value);
         relative_ = !is_absolute(path_);
         if (relative_) path_ = folder_of(sheet.path) + u"\\" + path_;
     }
