@@ -1,5 +1,6 @@
 #include "programs/options_assistant/frmOptionsAssistant.h"
 
+#include "programs/one_line.h"
 #include "programs/options_assistant/design.h"
 #include "programs/options_assistant/values.h"
 
@@ -16,14 +17,6 @@ namespace {
 /// In front of the groups of the catalogue.
 constexpr TextView changed_group = u"changed", all_group = u"all";
 constexpr int all_index = 1;
-
-/// One line of a list, however long and many-lined the value is.
-Text in_one_line(Text value) {
-    constexpr std::size_t longest = 100;
-    for (char16_t& unit : value)
-        if (unit < u' ') unit = u' ';
-    return value.size() > longest ? value.substr(0, longest) + u"\u2026" : value;
-}
 
 /// Whether each of the words stands in the name or in the meaning.
 bool is_found(const Description& setting, TextView words) {

@@ -1,0 +1,34 @@
+#include "programs/one_line.h"
+
+#include <gtest/gtest.h>
+
+namespace ornavel::programs {
+namespace {
+
+TEST(OneLine, ShowsAValueAsItIsWhereItHasOneLine) {
+    EXPECT_EQ(in_one_line(u""), u"");
+    EXPECT_EQ(in_one_line(u"  Jo \U0001F600 & \u00C4nne "), u"  Jo \U0001F600 & \u00C4nne ");
+}
+
+TEST(OneLine, HasABlankForEachLineBreakAndEachControlSign) {
+    EXPECT_EQ(in_one_line(u"a\r\nb\nc\rd\te"), u"a b c d e");
+    EXPECT_EQ(in_one_line(Text(u"a\0b", 3)), u"a b");
+    EXPECT_EQ(in_one_line(u"\r\n\r\n"), u"  ");
+}
+
+TEST(OneLine, EndsInAnEllipsisWhereTheValueIsLonger) {
+    EXPECT_EQ(in_one_line(Text(100, u'x')), Text(100, u'x'));
+    EXPECT_EQ(in_one_line(Text(101, u'x')), Text(100, u'x') + u"\u2026");
+}
+
+TEST(OneLine, CutsNoPairInTwo) {
+    const Text before(99, u'x'), pair = u"\U0001F600";
+    EXPECT_EQ(in_one_line(before + pair), before + u"\u2026");
+    EXPECT_EQ(in_one_line(before.substr(1) + pair), before.substr(1) + pair);
+    EXPECT_EQ(in_one_line(before.substr(1) + pair + u"y"), before.substr(1) + pair + u"\u2026");
+    // A lone half is a sign like any other.
+    EXPECT_EQ(in_one_line(before + u"\xD83D" + u"yz"), before + u"\xD83D" + u"\u2026");
+}
+
+} // namespace
+} // namespace ornavel::programs
