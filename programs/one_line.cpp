@@ -5,14 +5,12 @@
 namespace ornavel::programs {
 namespace {
 
-constexpr std::size_t longest = 100;
-
 bool begins_a_pair(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 bool ends_a_pair(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
 } // namespace
 
-Text in_one_line(TextView value) {
+Text in_one_line(TextView value, std::size_t longest) {
     std::size_t length = std::min(value.size(), longest);
     if (length < value.size() && begins_a_pair(value[length - 1]) && ends_a_pair(value[length])) --length;
     Text line = replace_all(Text(value.substr(0, length)), line_end, u" ");

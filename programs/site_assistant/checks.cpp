@@ -3,6 +3,7 @@
 #include "base/errors.h"
 #include "base/file_address.h"
 #include "compose/composition.h"
+#include "programs/one_line.h"
 
 #include <algorithm>
 
@@ -73,15 +74,6 @@ TextView attribute_value(TextView rest) {
 
 Text name_of(TextView path) { return Text(path.substr(path.find_last_of(u'\\') + 1)); }
 
-/// A file's name that leaves room for the rest of its sentence.
-Text short_name(TextView path) {
-    constexpr std::size_t longest = 30;
-    const Text name = name_of(path);
-    if (name.size() <= longest) return name;
-    const bool cuts_pair = name[longest - 1] >= 0xDC00 && name[longest - 1] < 0xE000;
-    return name.substr(0, cuts_pair ? longest - 2 : longest - 1) + u"…";
-}
-
 void warn_of_marker(const Text& path, TextView html, Warning& warning) {
     if (!contains(html, compose::insertion_marker))
         warning.add(u"The template ", path,
@@ -128,7 +120,8 @@ std::optional<Problem> refusal_of(Form& form, TextView page, const Files& files)
 void Warning::add(TextView sentence) { short_form += sentence, whole += sentence; }
 
 void Warning::add(TextView before, TextView path, TextView behind) {
-    short_form += Text(before) + short_name(path) + Text(behind);
+    constexpr std::size_t longest = 30; // leaves room for the rest of the sentence
+    short_form += Text(before) + in_one_line(name_of(path), longest) + Text(behind);
     whole += Text(before) + name_of(path) + Text(behind);
 }
 

@@ -1,5 +1,6 @@
 // What the pages about the letterhead and about the changes show.
 #include "forms/stationery.h"
+#include "programs/one_line.h"
 #include "programs/site_assistant/checks.h"
 #include "programs/site_assistant/frmSiteAssistant.h"
 #include "programs/site_assistant/sample_letter.h"
@@ -11,7 +12,7 @@ using forms::Control;
 
 namespace {
 
-Text or_empty(TextView value) { return value.empty() ? Text(u"(empty)") : Text(value); }
+Text or_empty(TextView value) { return value.empty() ? Text(u"(empty)") : in_one_line(value); }
 
 /// "SigFax: (empty) → 12"
 Text line_of(const settings::Change& change, const settings::Store& store) {

@@ -580,6 +580,15 @@ TEST_F(SiteAssistant, TellsWhatWillChangeBeforeItDoes) {
     EXPECT_EQ(stage.stored(admin::SigFax), std::nullopt);
 }
 
+TEST_F(SiteAssistant, AValueOfSeveralLinesStandsInOneLineOfTheChanges) {
+    stage.set(admin::SigAddress, u"a\r\nb");
+    stage.set(admin::StartupSetupWiz, off);
+    open();
+    type(u"txtSigAddress", u"c\td");
+    go_to(u"fraReady");
+    EXPECT_EQ(lines(), std::vector<Text>{u"SigAddress: a b → c d"});
+}
+
 TEST_F(SiteAssistant, SaysWhereNothingWillChange) {
     stage.set(admin::StartupSetupWiz, off);
     open();
