@@ -47,6 +47,16 @@ Text readable_caption(const Control& control) {
     return read;
 }
 
+std::optional<char16_t> access_key_of(const Control& control) {
+    if (!has_caption(control.kind)) return {};
+    bool marked = false;
+    for (const char16_t unit : lower_case(control.caption)) {
+        if (marked && unit != u'&') return unit;
+        marked = unit == u'&' && !marked;
+    }
+    return {};
+}
+
 Text with_access_key(TextView text, char16_t letter) {
     Text caption;
     bool marked = false;

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 
+#include <optional>
 #include <vector>
 
 namespace ornavel::forms {
@@ -90,6 +91,9 @@ bool has_caption(ControlKind kind);
 /// The caption as a reader sees it. In that of a control a "&" marks the access key, and two stand for one;
 /// in that of a form it is a sign like any other.
 Text readable_caption(const Control& control);
+
+/// The letter that reaches the control together with the Alt key, in lower case; nothing where it has none.
+std::optional<char16_t> access_key_of(const Control& control);
 
 /// The text as a caption, with the first such letter as its access key, where it has one.
 Text with_access_key(TextView text, char16_t letter);

@@ -97,6 +97,7 @@ const frmPropPage::Choice frmPropPage::choices[2] = {
 frmPropPage::frmPropPage(Needs needs)
     : needs_(std::move(needs)), form_({.name = u"frmPropPage", .caption = u"Ornavel"}, designed_controls()) {
     form_.make_room({5670, buttons_top + button_size.height + window_margin});
+    form_[u"cboMode"].fixed_entries = true;
     form_.on_load = [this] { Form_Load(); };
     form_.on_resize = [this] { Form_Resize(); };
     form_.on(u"cmdSetup", Event::click, [this] { cmdSetup_Click(); });
@@ -119,6 +120,7 @@ void frmPropPage::Form_Load() {
     show_whole_names();
     form_[u"chkAutoPreview"].ticked = is_on(needs_.settings, admin::AutoPreview);
     form_[u"chkReplyAsIs"].ticked = settings::is_ticked(needs_.settings, user::ReplyAsIs);
+    before_ = chosen();
 }
 
 /// A long name is cut off in its box.
@@ -134,12 +136,12 @@ void frmPropPage::Form_Resize() {
             control.place.width = std::max(0, right - control.place.left);
 }
 
-/// The mail client's own signature is offered where the toolbar offers it, too.
+/// The mail client's own signature is offered where the toolbar offers it, too. A mode that is not stored
+/// dresses nothing, so none is shown for it.
 void frmPropPage::list_modes() {
     Control& list = form_[u"cboMode"];
-    const Text now = read(needs_.settings, user::SettingButtonBar);
+    const Text now = read(needs_.settings, user::SettingButtonBar, TextView());
     const bool all = is_on(needs_.settings, admin::eSignature);
-    list.text = now;
     for (const Mode& mode : modes) {
         if (mode.value == settings::modes::signature && !all && mode.value != now) continue;
         modes_.push_back(mode.value);
@@ -151,51 +153,60 @@ void frmPropPage::list_modes() {
 void frmPropPage::list_files(std::size_t choice) {
     const auto& [control, folder, chosen, may_be_none] = choices[choice];
     std::vector<Text>& files = files_[choice];
-    files = stationery_in(needs_.files, read(needs_.settings, folder));
+    const Text home = read(needs_.settings, folder);
+    needs_.windows.while_user_waits([&] { files = stationery_in(needs_.files, home); });
     if (may_be_none) files.insert(files.begin(), Text(none));
     Control& list = form_[control];
     for (const Text& file : files) list.items.push_back(display_name(file));
     const Text now = trim(read(needs_.settings, chosen));
     const auto entry = std::ranges::find_if(files, [&](const Text& file) { return same_name(file, now); });
     if (entry == files.end())
-        list.text = display_name(now);
+        list.text = display_name(unlisted_[choice] = now);
     else
         list.select(static_cast<int>(entry - files.begin()));
 }
 
 std::vector<Change> frmPropPage::changes() const {
+    const Chosen now = chosen();
     std::vector<Change> changed;
-    add_mode(changed);
-    for (std::size_t i = 0; i < std::size(choices); ++i) add_file(changed, i);
-    const bool preview = is_ticked(u"chkAutoPreview"), as_is = is_ticked(u"chkReplyAsIs");
-    if (preview != is_on(needs_.settings, admin::AutoPreview))
-        changed.push_back({admin::AutoPreview, Text(preview ? on : off)});
-    if (as_is != settings::is_ticked(needs_.settings, user::ReplyAsIs))
-        changed.push_back({user::ReplyAsIs, Text(as_is ? u"1" : u"0")});
+    const auto add = [&](const Key& key, const auto& value, const auto& before, Text written) {
+        if (value != before && needs_.settings.find(key.section, key.name) != written)
+            changed.push_back({key, std::move(written)});
+    };
+    add(user::SettingButtonBar, now.mode, before_.mode, now.mode);
+    for (std::size_t i = 0; i < std::size(choices); ++i)
+        add(choices[i].chosen, now.files[i], before_.files[i], now.files[i]);
+    add(admin::AutoPreview, now.preview, before_.preview, Text(now.preview ? on : off));
+    add(user::ReplyAsIs, now.as_is, before_.as_is, now.as_is ? u"1" : u"0");
     return changed;
 }
 
-/// What is typed and is none of the modes changes nothing.
-void frmPropPage::add_mode(std::vector<Change>& changed) const {
+frmPropPage::Chosen frmPropPage::chosen() const {
+    return {chosen_mode(),
+            {chosen_file(0), chosen_file(1)},
+            is_ticked(u"chkAutoPreview"),
+            is_ticked(u"chkReplyAsIs")};
+}
+
+Text frmPropPage::chosen_mode() const {
     const int index = form_.find(u"cboMode")->index;
-    if (index < 0) return;
-    const TextView mode = modes_[static_cast<std::size_t>(index)];
-    if (mode != read(needs_.settings, user::SettingButtonBar))
-        changed.push_back({user::SettingButtonBar, Text(mode)});
+    return index < 0 ? Text() : Text(modes_[static_cast<std::size_t>(index)]);
 }
 
-void frmPropPage::add_file(std::vector<Change>& changed, std::size_t choice) const {
-    const Text file = chosen_file(choice), now = read(needs_.settings, choices[choice].chosen);
-    if (!file.empty() && !same_name(file, trim(now))) changed.push_back({choices[choice].chosen, file});
-}
-
-/// Typed words name a file as the entries do; an empty text names none.
+/// Typed words name a file as the entries do, or by its name; an empty text names none.
 Text frmPropPage::chosen_file(std::size_t choice) const {
     const Control& list = *form_.find(choices[choice].control);
-    if (list.index >= 0) return files_[choice][static_cast<std::size_t>(list.index)];
-    const Text typed = trim(list.text), now = trim(read(needs_.settings, choices[choice].chosen));
-    if (typed.empty() || typed == display_name(now)) return now;
-    return typed + u".htm";
+    const std::vector<Text>& files = files_[choice];
+    if (list.index >= 0) return files[static_cast<std::size_t>(list.index)];
+    const Text typed = trim(list.text);
+    if (typed.empty()) return before_.files[choice];
+    const auto is_meant = [&](const Text& file) {
+        return same_name(file, typed) || same_name(display_name(file), typed);
+    };
+    if (is_meant(unlisted_[choice])) return unlisted_[choice];
+    const auto file = std::ranges::find_if(files, is_meant);
+    if (file != files.end()) return *file;
+    return contains(lower_case(typed), u".htm") ? typed : typed + u".htm";
 }
 
 bool frmPropPage::is_ticked(TextView check_box) const { return form_.find(check_box)->ticked; }
@@ -203,10 +214,11 @@ bool frmPropPage::is_ticked(TextView check_box) const { return form_.find(check_
 void frmPropPage::apply() {
     const std::vector<Change> changed = changes();
     const Text mode_before = read(needs_.settings, user::SettingButtonBar);
-    if (const auto unwritten = write_changes(needs_.settings, changed))
-        tell_unwritten(needs_.windows, u"Ornavel", *unwritten);
+    const auto unwritten = write_changes(needs_.settings, changed);
+    if (unwritten) tell_unwritten(needs_.windows, u"Ornavel", *unwritten);
     const Text mode = read(needs_.settings, user::SettingButtonBar);
     if (mode != mode_before) needs_.change_mode(mode_before, mode);
+    if (!unwritten) before_ = chosen();
 }
 
 void frmPropPage::cmdSetup_Click() {

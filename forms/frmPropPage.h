@@ -24,9 +24,10 @@ public:
     explicit frmPropPage(Needs needs);
 
     Form& form() { return form_; }
-    /// Whether what is chosen differs from what is stored.
+    /// Whether the user has chosen something else than was stored.
     bool is_dirty() const { return !changes().empty(); }
-    /// Writes what differs. Where that fails, what was written is taken back, and the user is told.
+    /// Writes what the user has chosen anew; what another program has written meanwhile stays. Where that
+    /// fails, what was written is taken back, and the user is told.
     void apply();
 
 private:
@@ -38,6 +39,11 @@ private:
         bool may_be_none;
     };
     static const Choice choices[2];
+    /// What is chosen; the mode is empty where none is.
+    struct Chosen {
+        Text mode, files[2];
+        bool preview = false, as_is = false;
+    };
 
     void Form_Load();
     void Form_Resize();
@@ -46,14 +52,16 @@ private:
     void list_modes();
     void list_files(std::size_t choice);
     std::vector<settings::Change> changes() const;
-    void add_mode(std::vector<settings::Change>& changed) const;
-    void add_file(std::vector<settings::Change>& changed, std::size_t choice) const;
+    Chosen chosen() const;
+    Text chosen_mode() const;
     Text chosen_file(std::size_t choice) const;
     bool is_ticked(TextView check_box) const;
 
     Needs needs_;
     std::vector<TextView> modes_; ///< in the order of their list
     std::vector<Text> files_[2];  ///< in the order of the lists
+    Text unlisted_[2];            ///< a stored name that is not in its list
+    Chosen before_;               ///< what was chosen when the page was loaded or applied
     Form form_;
 };
 

@@ -27,8 +27,10 @@ public:
     void open_within(HWND parent, const RECT& place, std::function<void()> on_entered);
     void move(const RECT& place);
     /// Of a window within another one. Offers a key; whether it was used. The Tab key is not used where it
-    /// leads out.
+    /// leads out, nor an access key that is none of the form's.
     bool takes_key(MSG& message);
+    /// Offers an access key that was pressed elsewhere in the other window; whether it was used.
+    bool takes_key_from_outside(MSG message);
     /// Gives the keyboard to the first control, or to the last.
     void take_keyboard(bool at_the_end);
 
@@ -44,6 +46,7 @@ private:
     bool translate(const MSG& message);
     bool translate_in_text_box(const ControlWindow& box, const MSG& message);
     bool translate_in_page(const ControlWindow& page, const MSG& message);
+    bool has_access_key(WPARAM letter) const;
 
     void create_dialog(DWORD style, DWORD extended_style, HWND owner);
     void fill();

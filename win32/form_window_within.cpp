@@ -3,6 +3,7 @@
 
 #include "win32/wide.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ornavel::win32 {
@@ -46,12 +47,28 @@ void FormWindow::move(const RECT& place) {
 bool FormWindow::takes_key(MSG& message) {
     const bool is_key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
     if (!is_key || !IsChild(window_, message.hwnd)) return false;
+    if (message.message == WM_SYSCHAR && !has_access_key(message.wParam)) return false;
     const bool pressed = message.message == WM_KEYDOWN;
     if (pressed && message.wParam == VK_TAB && leads_out(window_, GetKeyState(VK_SHIFT) < 0)) return false;
     if (pressed && (message.wParam == VK_ESCAPE || message.wParam == VK_RETURN) &&
         !is_open_list(message.hwnd))
         return false;
     return IsDialogMessageW(window_, &message);
+}
+
+/// The system looks for the access key from the control on that the key was pressed in.
+bool FormWindow::takes_key_from_outside(MSG message) {
+    if (message.message != WM_SYSCHAR || !has_access_key(message.wParam)) return false;
+    message.hwnd = edge_of(window_, false);
+    return IsDialogMessageW(window_, &message);
+}
+
+bool FormWindow::has_access_key(WPARAM letter) const {
+    const auto wanted = static_cast<char16_t>(letter);
+    return std::ranges::any_of(form_.controls(), [&](const forms::Control& control) {
+        const auto key = forms::access_key_of(control);
+        return key && control.visible && lower_case(TextView(&wanted, 1)).front() == *key;
+    });
 }
 
 void FormWindow::take_keyboard(bool at_the_end) {

@@ -78,8 +78,8 @@ public:
     HRESULT STDMETHODCALLTYPE ResizeBorder(LPCRECT, IOleInPlaceUIWindow*, BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return S_OK; }
 
-    // IOleControl: its access keys are the dialog's own way to its controls.
-    HRESULT STDMETHODCALLTYPE GetControlInfo(CONTROLINFO*) override { return E_NOTIMPL; }
+    // IOleControl
+    HRESULT STDMETHODCALLTYPE GetControlInfo(CONTROLINFO* information) override;
     HRESULT STDMETHODCALLTYPE OnMnemonic(LPMSG message) override;
     HRESULT STDMETHODCALLTYPE OnAmbientPropertyChange(DISPID) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE FreezeEvents(BOOL) override { return S_OK; }
@@ -103,6 +103,10 @@ protected:
     void end_window() noexcept;
 
 private:
+    struct FreeAccessKeys {
+        void operator()(HACCEL keys) const { DestroyAcceleratorTable(keys); }
+    };
+
     HRESULT show(HWND parent, const RECT* place);
     HRESULT take_keyboard(const MSG* message);
     void enter();
@@ -111,6 +115,7 @@ private:
     ComPtr<IOleClientSite> site_;
     ComPtr<IOleInPlaceFrame> frame_;
     std::unique_ptr<FormWindow> window_;
+    std::unique_ptr<HACCEL__, FreeAccessKeys> access_keys_; ///< as the container was told them
     bool has_keyboard_ = false;
     SIZEL extent_{};
 };

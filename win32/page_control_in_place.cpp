@@ -106,9 +106,30 @@ HRESULT PageControl::TranslateAccelerator(LPMSG message) {
     return site->TranslateAccelerator(message, held_keys());
 }
 
+/// The container looks for the keys by the sign that is typed, so each stands there in both its spellings.
+HRESULT PageControl::GetControlInfo(CONTROLINFO* information) {
+    if (!information) return E_POINTER;
+    const bool told = attempt([&] {
+        std::vector<ACCEL> keys;
+        for (const forms::Control& control : form().controls())
+            if (const auto key = forms::access_key_of(control))
+                for (const Text& spelled : {Text(1, *key), upper_case(Text(1, *key))})
+                    keys.push_back({FALT, spelled.front(), 0});
+        const int count = static_cast<int>(keys.size());
+        access_keys_.reset(CreateAcceleratorTableW(keys.data(), count));
+        information->hAccel = access_keys_.get();
+        information->cAccel = static_cast<USHORT>(access_keys_ ? count : 0);
+        information->dwFlags = 0;
+    });
+    return told ? S_OK : E_OUTOFMEMORY;
+}
+
+/// A key that was pressed elsewhere in the container.
 HRESULT PageControl::OnMnemonic(LPMSG message) {
     if (!message || !window_) return E_UNEXPECTED;
-    return IsDialogMessageW(window_->window(), message) ? S_OK : S_FALSE;
+    bool used = false;
+    attempt([&] { used = window_->takes_key_from_outside(*message); });
+    return used ? S_OK : S_FALSE;
 }
 
 } // namespace ornavel::win32

@@ -29,5 +29,18 @@ TEST(Captions, HaveTheFirstSuchLetterAsTheirAccessKey) {
     EXPECT_EQ(with_access_key(u"OK", u'N'), u"OK");
 }
 
+std::optional<char16_t> key(ControlKind kind, TextView caption) {
+    return access_key_of({.kind = kind, .caption = Text(caption)});
+}
+
+TEST(AccessKeys, AreTheLettersBehindTheMark) {
+    EXPECT_EQ(key(ControlKind::command_button, u"&Send"), u's');
+    EXPECT_EQ(key(ControlKind::label, u"Marlow && &Hale"), u'h');
+    EXPECT_EQ(key(ControlKind::label, u"Marlow && Hale"), std::nullopt);
+    EXPECT_EQ(key(ControlKind::check_box, u"&&&a&"), u'a');
+    EXPECT_EQ(key(ControlKind::check_box, u"none&"), std::nullopt);
+    EXPECT_EQ(key(ControlKind::text_box, u"&text"), std::nullopt);
+}
+
 } // namespace
 } // namespace ornavel::forms

@@ -134,6 +134,72 @@ TEST_F(OptionsPage, AnEmptiedListChangesNothing) {
     EXPECT_EQ(stored(user::Template), u"letter.htm");
 }
 
+TEST_F(OptionsPage, AFileMayBeTypedAsItsEntryReadsOrByItsName) {
+    for (const TextView typed : {u"card", u"CARD", u"card.htm", u" Card.HTM "}) {
+        user().set_text(u"cboTemplates", typed);
+        page().apply();
+        EXPECT_EQ(stored(user::Template), u"card.htm") << to_utf8(typed);
+        user().select(u"cboTemplates", 1);
+        page().apply();
+    }
+    user().set_text(u"cboTemplates", u"letter.htm");
+    EXPECT_FALSE(page().is_dirty());
+    user().set_text(u"cboSignatures", u"None");
+    EXPECT_FALSE(page().is_dirty());
+}
+
+TEST_F(OptionsPage, AFileThatIsNotThereMayBeTypedToo) {
+    for (const TextView typed : {u"later", u"later.htm"}) {
+        user().set_text(u"cboTemplates", typed);
+        page().apply();
+        EXPECT_EQ(stored(user::Template), u"later.htm");
+    }
+    user().set_text(u"cboTemplates", u"later.html");
+    page().apply();
+    EXPECT_EQ(stored(user::Template), u"later.html");
+}
+
+TEST_F(OptionsPage, AFileThatIsNotThereIsKeptUntilAnotherIsChosen) {
+    save(store, user::Template, u"gone.htm");
+    EXPECT_EQ(page().form()[u"cboTemplates"].text, u"gone");
+    EXPECT_FALSE(page().is_dirty());
+    user().select(u"cboTemplates", 0);
+    user().set_text(u"cboTemplates", u"gone");
+    EXPECT_FALSE(page().is_dirty());
+}
+
+TEST_F(OptionsPage, AModeThatIsNotSetIsNoneUntilOneIsChosen) {
+    store.remove(user::SettingButtonBar.section, user::SettingButtonBar.name);
+    EXPECT_EQ(page().form()[u"cboMode"].index, -1);
+    EXPECT_FALSE(page().is_dirty());
+    user().select(u"cboMode", 0);
+    EXPECT_TRUE(page().is_dirty());
+    page().apply();
+    EXPECT_EQ(stored(user::SettingButtonBar), modes::automatic);
+}
+
+TEST_F(OptionsPage, WhatAnotherProgramWritesMeanwhileStaysUnlessItsUserChangedItHere) {
+    EXPECT_FALSE(page().is_dirty());
+    save(store, user::Template, u"card.htm");
+    save(store, user::SettingButtonBar, modes::off);
+    save(store, admin::AutoPreview, on);
+    EXPECT_FALSE(page().is_dirty());
+    user().tick(u"chkReplyAsIs", true);
+    page().apply();
+    EXPECT_EQ(stored(user::Template), u"card.htm");
+    EXPECT_EQ(stored(user::SettingButtonBar), modes::off);
+    EXPECT_EQ(stored(admin::AutoPreview), on);
+    EXPECT_EQ(stored(user::ReplyAsIs), u"1");
+    EXPECT_TRUE(modes.empty());
+    EXPECT_FALSE(page().is_dirty());
+}
+
+TEST_F(OptionsPage, AskedForItsFilesItShowsThatTheUserWaits) {
+    files.at_look = [this](TextView path) { EXPECT_TRUE(windows.user_waits) << to_utf8(path); };
+    page();
+    EXPECT_FALSE(windows.user_waits);
+}
+
 TEST_F(OptionsPage, HandsAChangedModeOverWithTheOneBefore) {
     user().select(u"cboMode", 3);
     page().apply();
@@ -174,15 +240,12 @@ TEST_F(OptionsPage, ListsGrowWithTheRoomThatTheDialogGives) {
 
 TEST_F(OptionsPage, HasAnAccessKeyOfItsOwnForEverythingThatTheUserReaches) {
     std::set<char16_t> keys;
-    int wanted = 0;
     for (const Control& control : page().form().controls()) {
         if (!has_caption(control.kind)) continue;
-        ++wanted;
-        const auto mark = control.caption.find(u'&');
-        ASSERT_NE(mark, Text::npos) << to_utf8(control.caption);
-        keys.insert(lower_case(control.caption)[mark + 1]);
+        const auto key = access_key_of(control);
+        ASSERT_TRUE(key) << to_utf8(control.caption);
+        EXPECT_TRUE(keys.insert(*key).second) << to_utf8(control.caption);
     }
-    EXPECT_EQ(keys.size(), static_cast<std::size_t>(wanted));
 }
 
 } // namespace

@@ -82,18 +82,27 @@ void with_long_identity(Stage& stage) {
 }
 
 /// The stationery of the samples, where the package puts it.
+void choose_samples(settings::Store& store) {
+    save(store, admin::HTMFilesPath, u"C:\\Stationery\\Templates");
+    save(store, admin::SignaturesPath, u"C:\\Stationery\\Signatures");
+    save(store, user::Template, u"letterhead.htm");
+    save(store, user::Signature, u"partner.htm");
+}
+
 void with_samples(Stage& stage) {
     with_identity(stage);
-    stage.set(admin::HTMFilesPath, u"C:\\Stationery\\Templates");
-    stage.set(admin::SignaturesPath, u"C:\\Stationery\\Signatures");
-    stage.set(user::Template, u"letterhead.htm");
-    stage.set(user::Signature, u"partner.htm");
+    choose_samples(stage.store);
+}
+
+void without_anything(Stage& stage) {
+    for (const Key& key : catalogue()) stage.store.remove(key.section, key.name);
 }
 
 /// What a new user tells who has chosen from the samples.
 void tell_all(Form& form) {
     settings::MemoryStore told;
     programs::save_identity(told);
+    choose_samples(told);
     for (const programs::Field& field : programs::setup_fields())
         if (const auto value = told.find(field.key.section, field.key.name))
             programs::show_value(form, field, *value);
@@ -184,6 +193,14 @@ constexpr State all[] = {
          stage.set(user::Signature, long_name);
          stage.show_setup(2);
      }},
+    {u"setup-letterhead-warned",
+     [](Stage& stage) {
+         with_identity(stage);
+         stage.write(long_name, "<img src='C:\\" + std::string(80, 'p') + ".gif'>");
+         stage.set(user::Template, long_name);
+         stage.set(user::Signature, long_name);
+         stage.show_setup(2);
+     }},
     {u"setup-letterhead-samples", [](Stage& stage) { with_samples(stage), stage.show_setup(1); }},
     {u"setup-sending", [](Stage& stage) { with_identity(stage), stage.show_setup(2); }},
     {u"setup-sending-own-signature",
@@ -194,7 +211,7 @@ constexpr State all[] = {
          stage.show_setup(2);
      }},
     {u"setup-ready", [](Stage& stage) { with_identity(stage), stage.show_setup(3); }},
-    {u"setup-ready-new-user", [](Stage& stage) { stage.show_setup(3, tell_all); }},
+    {u"setup-ready-new-user", [](Stage& stage) { without_anything(stage), stage.show_setup(3, tell_all); }},
     {u"setup-ready-long", [](Stage& stage) { with_identity(stage), stage.show_setup(3, change_everything); }},
     {u"many-empty", [](Stage& stage) { stage.show_send_to_many({}); }},
     {u"many",
@@ -211,7 +228,7 @@ constexpr State all[] = {
                      u"\r\n" + Text(80, u'x') + u"\r\n";
          stage.show_send_to_many(list);
      }},
-    {u"page", [](Stage& stage) { show_page(stage); }},
+    {u"page", [](Stage& stage) { with_identity(stage), show_page(stage); }},
     {u"page-modes", [](Stage& stage) { show_page(stage); }, u"cboMode"},
     {u"page-long-names",
      [](Stage& stage) {

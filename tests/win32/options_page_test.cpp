@@ -48,6 +48,12 @@ protected:
         message.wParam = key;
         return message;
     }
+    static MSG access_key(HWND window, WPARAM letter) {
+        MSG message = pressed(window, letter);
+        message.message = WM_SYSCHAR;
+        message.lParam = 1 << 29; // the Alt key is held
+        return message;
+    }
     bool take_tab() {
         MSG key = pressed(GetFocus(), VK_TAB);
         return host->takes_key(key);
@@ -123,6 +129,32 @@ TEST_F(OptionsPage, LeavesEnterAndEscapeToTheDialog) {
         EXPECT_FALSE(host->takes_key(other));
     }
     EXPECT_TRUE(IsWindow(host->window()));
+}
+
+TEST_F(OptionsPage, TellsItsAccessKeysAndIsReachedByThemFromTheDialog) {
+    ComPtr<IOleControl> control_of_dialog;
+    ASSERT_EQ(host->control().QueryInterface(IID_IOleControl, control_of_dialog.out_untyped()), S_OK);
+    CONTROLINFO information{};
+    information.cb = sizeof information;
+    ASSERT_EQ(control_of_dialog->GetControlInfo(&information), S_OK);
+    ASSERT_EQ(information.cAccel, 14); // of seven controls, in small and in capital letters
+    ACCEL keys[14];
+    ASSERT_EQ(CopyAcceleratorTableW(information.hAccel, keys, 14), 14);
+    EXPECT_TRUE(
+        std::ranges::any_of(keys, [](const ACCEL& key) { return key.key == L't' && key.fVirt == FALT; }));
+    MSG key = access_key(host->dialog(), L't');
+    EXPECT_EQ(control_of_dialog->OnMnemonic(&key), S_OK);
+    EXPECT_TRUE(IsChild(control(u"cboTemplates"), GetFocus()));
+    EXPECT_EQ(control_of_dialog->GetControlInfo(nullptr), E_POINTER);
+}
+
+TEST_F(OptionsPage, LeavesAccessKeysThatAreNoneOfItsOwnToTheDialog) {
+    MSG tab = pressed(host->dialog(), VK_TAB);
+    host->enter(tab);
+    MSG own = access_key(GetFocus(), L'T'), other = access_key(GetFocus(), L'a');
+    EXPECT_FALSE(host->takes_key(other));
+    EXPECT_TRUE(host->takes_key(own));
+    EXPECT_TRUE(IsChild(control(u"cboTemplates"), GetFocus()));
 }
 
 TEST_F(OptionsPage, ClosesWithoutWritingAndGivesItsSiteBack) {

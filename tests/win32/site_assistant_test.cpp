@@ -15,11 +15,13 @@ struct SetupProgram : testing::Test {
 
     SetupProgram() {
         const Text folder = expanded(u"%SystemRoot%");
-        registry.change_settings({{u"Admin Settings",
-                                   {{u"SigEmail", u"jo@example.com"},
-                                    {u"SigWebsite", u"www.example.com"},
-                                    {u"HTM Files Path", folder},
-                                    {u"Signatures Path", folder}}}});
+        registry.change_settings(
+            {{u"Admin Settings",
+              {{u"SigEmail", u"jo@example.com"},
+               {u"SigWebsite", u"www.example.com"},
+               {u"HTM Files Path", folder},
+               {u"Signatures Path", folder}}},
+             {u"User Settings", {{u"Template", u"letter.htm"}, {u"Signature", u"none"}}}});
     }
 
     rehearsal::ByName<rehearsal::SettingValue> settings() const {
