@@ -136,18 +136,23 @@ void frmPropPage::Form_Resize() {
             control.place.width = std::max(0, right - control.place.left);
 }
 
-/// The mail client's own signature is offered where the toolbar offers it, too. A mode that is not stored
-/// dresses nothing, so none is shown for it.
+/// The mail client's own signature is offered where the toolbar offers it, too. A mode that nobody knows is
+/// shown as it is; one that is not stored dresses nothing, so none is shown for it.
 void frmPropPage::list_modes() {
-    Control& list = form_[u"cboMode"];
     const Text now = read(needs_.settings, user::SettingButtonBar, TextView());
     const bool all = is_on(needs_.settings, admin::eSignature);
-    for (const Mode& mode : modes) {
-        if (mode.value == settings::modes::signature && !all && mode.value != now) continue;
-        modes_.push_back(mode.value);
-        list.items.emplace_back(mode.words);
-        if (mode.value == now) list.select(static_cast<int>(list.items.size()) - 1);
-    }
+    for (const Mode& mode : modes)
+        if (mode.value != settings::modes::signature || all || mode.value == now)
+            list_mode(mode.value, mode.words);
+    const auto chosen = std::ranges::find(modes_, now) - modes_.begin();
+    if (now.empty()) return;
+    if (chosen == std::ssize(modes_)) list_mode(now, now);
+    form_[u"cboMode"].select(static_cast<int>(chosen));
+}
+
+void frmPropPage::list_mode(TextView mode, TextView words) {
+    modes_.emplace_back(mode);
+    form_[u"cboMode"].items.emplace_back(words);
 }
 
 void frmPropPage::list_files(std::size_t choice) {
@@ -190,7 +195,7 @@ frmPropPage::Chosen frmPropPage::chosen() const {
 
 Text frmPropPage::chosen_mode() const {
     const int index = form_.find(u"cboMode")->index;
-    return index < 0 ? Text() : Text(modes_[static_cast<std::size_t>(index)]);
+    return index < 0 ? Text() : modes_[static_cast<std::size_t>(index)];
 }
 
 /// Typed words name a file as the entries do, or by its name; an empty text names none.

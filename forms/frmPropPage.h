@@ -50,6 +50,7 @@ private:
     void show_whole_names();
     void cmdSetup_Click();
     void list_modes();
+    void list_mode(TextView mode, TextView words);
     void list_files(std::size_t choice);
     std::vector<settings::Change> changes() const;
     Chosen chosen() const;
@@ -58,10 +59,10 @@ private:
     bool is_ticked(TextView check_box) const;
 
     Needs needs_;
-    std::vector<TextView> modes_; ///< in the order of their list
-    std::vector<Text> files_[2];  ///< in the order of the lists
-    Text unlisted_[2];            ///< a stored name that is not in its list
-    Chosen before_;               ///< what was chosen when the page was loaded or applied
+    std::vector<Text> modes_;    ///< in the order of their list
+    std::vector<Text> files_[2]; ///< in the order of the lists
+    Text unlisted_[2];           ///< a stored name that is not in its list
+    Chosen before_;              ///< what was chosen when the page was loaded or applied
     Form form_;
 };
 

@@ -130,10 +130,21 @@ Json as_given(const SettingsTree& settings) {
     return json;
 }
 
-/// Of one run of a program: its changes are all there, or none of them.
+bool writes_for_its_user(const Act& act) { return act.kind == Act::Kind::run || act.kind == Act::Kind::page; }
+
+bool begins_or_ends(const Act& act) {
+    constexpr Act::Kind around[] = {Act::Kind::connect, Act::Kind::start, Act::Kind::shutdown,
+                                    Act::Kind::disconnect};
+    return std::ranges::find(around, act.kind) != std::end(around);
+}
+
+/// Of one run of a program, or one visit of the options page: its changes are all there, or none of them.
 bool half_written(const Scenario& scenario, const Play& sound, const Play& faulty, const Planted& planted) {
-    const bool is_one_run = scenario.acts.size() == 1 && scenario.acts[0].kind == Act::Kind::run;
-    if (!is_one_run || planted.use.kind != Failing::Kind::save_setting) return false;
+    const auto others = std::ranges::count_if(scenario.acts, begins_or_ends);
+    const bool is_one =
+        others + 1 == std::ssize(scenario.acts) && std::ranges::any_of(scenario.acts, writes_for_its_user);
+    if (!is_one || planted.use.kind != Failing::Kind::save_setting) return false;
+    if (!writes_for_its_user(scenario.acts[planted.use.act])) return false;
     // The scenario names them in an order of its own.
     const auto in_order = [](const Json& settings) { return nlohmann::json(settings); };
     const auto settings = in_order(faulty.outcome.at("settings"));
