@@ -251,7 +251,7 @@ int print(const Tally& tally) {
                           {"sends blocked by a fault", tally.blocked},
                           {"half-dressed items", tally.half_dressed},
                           {"leaks", tally.leaked},
-                          {"errors without a line in the log", tally.silent},
+                          {"errors that nobody is told of", tally.silent},
                           {"changes of a program half written", tally.half_written},
                           {"not played to the end", tally.unfinished}};
     for (const auto& [name, times] : rows) std::printf("%-34s %8zu\n", name, times);

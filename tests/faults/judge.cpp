@@ -138,18 +138,28 @@ bool begins_or_ends(const Act& act) {
     return std::ranges::find(around, act.kind) != std::end(around);
 }
 
-/// Of one run of a program, or one visit of the options page: its changes are all there, or none of them.
-bool half_written(const Scenario& scenario, const Play& sound, const Play& faulty, const Planted& planted) {
+/// What came of the changes that a user made in one run of a program, or in one visit of the options page.
+enum class Changes { of_no_concern, all, none, some };
+
+Changes changes_of_user(const Scenario& scenario, const Play& sound, const Play& faulty,
+                        const Planted& planted) {
     const auto others = std::ranges::count_if(scenario.acts, begins_or_ends);
     const bool is_one =
         others + 1 == std::ssize(scenario.acts) && std::ranges::any_of(scenario.acts, writes_for_its_user);
-    if (!is_one || planted.use.kind != Failing::Kind::save_setting) return false;
-    if (!writes_for_its_user(scenario.acts[planted.use.act])) return false;
+    if (!is_one || planted.use.kind != Failing::Kind::save_setting) return Changes::of_no_concern;
+    if (!writes_for_its_user(scenario.acts[planted.use.act])) return Changes::of_no_concern;
     // The scenario names them in an order of its own.
     const auto in_order = [](const Json& settings) { return nlohmann::json(settings); };
     const auto settings = in_order(faulty.outcome.at("settings"));
-    return settings != in_order(as_given(scenario.settings)) &&
-           settings != in_order(sound.outcome.at("settings"));
+    if (settings == in_order(sound.outcome.at("settings"))) return Changes::all;
+    return settings == in_order(as_given(scenario.settings)) ? Changes::none : Changes::some;
+}
+
+bool is_told_of(const Json& outcome) {
+    return std::ranges::any_of(outcome.at("windows"), [](const Json& window) {
+        return window.contains("message box") &&
+               window.at("text").get<std::string>().find("can't be written") != std::string::npos;
+    });
 }
 
 } // namespace
@@ -157,7 +167,9 @@ bool half_written(const Scenario& scenario, const Play& sound, const Play& fault
 Verdict judge(const Scenario& scenario, const Play& sound, const Play& faulty, const Planted& planted) {
     Verdict verdict;
     verdict.escaped = !faulty.outcome.at("error").is_null();
-    verdict.half_written = half_written(scenario, sound, faulty, planted);
+    const Changes changes = changes_of_user(scenario, sound, faulty, planted);
+    verdict.half_written = changes == Changes::some;
+    verdict.silent = changes == Changes::none && !is_told_of(faulty.outcome);
     verdict.leaked = ends_disconnected(scenario) && faulty.outcome.at("references").at("held") != 0;
     for (const Send& send : faulty.sends) {
         verdict.blocked |= send.cancelled && !may_cancel(send, sound, faulty, planted);

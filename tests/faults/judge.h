@@ -19,8 +19,8 @@ struct Planted {
 
 /// What must not happen. `blocked`: a send was cancelled although no gate decided so. `half_dressed`: an item
 /// lost its text, or carries the stamp without being dressed. `silent`: an error ended the add-in's part of a
-/// send and the log has no line of it. `half_written`: a program wrote some of its user's changes and not the
-/// others.
+/// send and the log has no line of it, or a user's changes could not be written and nobody told them.
+/// `half_written`: a program wrote some of its user's changes and not the others.
 struct Verdict {
     bool escaped = false, blocked = false, half_dressed = false, leaked = false, silent = false,
          half_written = false;
