@@ -83,7 +83,7 @@ int run_here(const Program& program) {
 } // namespace
 
 int start(const Program& program) {
-    const win32::Handle mutex(CreateMutexW(nullptr, FALSE, win32::wide(program.file).c_str()));
+    const win32::Handle mutex(CreateMutexW(nullptr, FALSE, win32::wide(program.title).c_str()));
     if (mutex && !is_the_only_one(mutex, program.title)) return ended;
     CoInitialize(nullptr);
     int code = gave_up;
