@@ -124,14 +124,7 @@ TEST_F(PreviewWindow, NothingOverlapsInTheSmallestWindow) {
     show([](Form& form, FormUser user) {
         for (Control& control : form.controls()) control.visible = !is_hidden_list(control.name);
         user.resize(0, 0);
-        for (const Control& one : form.controls()) {
-            EXPECT_LE(one.place.left + one.place.width, form.room().width) << to_utf8(one.name);
-            EXPECT_LE(one.place.top + one.place.height, form.room().height) << to_utf8(one.name);
-            for (const Control& other : form.controls()) {
-                if (&one == &other || !one.visible || !other.visible) continue;
-                EXPECT_FALSE(overlap(one.place, other.place)) << to_utf8(one.name + u", " + other.name);
-            }
-        }
+        expect_apart(form);
         EXPECT_GE(form[u"brwWebBrowser"].place.height, 2250);
     });
 }
