@@ -6,14 +6,20 @@ namespace ornavel::programs {
 
 using namespace settings;
 
-namespace {
-
-/// Two spellings of one name are one setting.
 bool is_same(const Key& one, const Key& other) {
     return same_name(one.section, other.section) && same_name(one.name, other.name);
 }
 
-} // namespace
+std::optional<Store::Stored> stored_in(const Store& store, const Key& key) {
+    auto stored = store.find_stored(key.section, key.name);
+    if (stored && stored->has_variables && key.kind != SettingKind::path) stored.reset();
+    return stored;
+}
+
+Change change_to(const Key& key, const std::optional<Store::Stored>& value) {
+    if (!value) return {key, std::nullopt};
+    return {key, value->text, value->has_variables};
+}
 
 std::optional<Store::Stored> Draft::find(const Key& key) const {
     for (const Change& change : changes_) {
@@ -21,7 +27,7 @@ std::optional<Store::Stored> Draft::find(const Key& key) const {
         if (!change.value) return {};
         return Store::Stored{*change.value, change.has_variables};
     }
-    return store_.find_stored(key.section, key.name);
+    return stored_in(store_, key);
 }
 
 bool Draft::changes(const Key& key) const {
@@ -35,16 +41,19 @@ Text Draft::value(const Key& key) const {
 
 bool Draft::differs_from_default(const Key& key) const { return value(key) != key.default_value; }
 
-void Draft::set(const Key& key, std::optional<Store::Stored> value) {
+void Draft::set(const Key& key, const std::optional<Store::Stored>& value) {
+    forget(key);
+    const auto before = stored_in(store_, key);
+    const Text text_before = before ? before->text : Text(key.default_value);
+    if (value ? value->text == text_before : !before) return;
+    changes_.push_back(change_to(key, value));
+}
+
+void Draft::forget(const Key& key) {
     std::vector<Change> others;
     for (const Change& change : changes_)
         if (!is_same(change.key, key)) others.push_back(change);
     changes_.swap(others);
-    if (store_.find_stored(key.section, key.name) == value) return;
-    if (value)
-        changes_.push_back({key, value->text, value->has_variables});
-    else
-        changes_.push_back({key, std::nullopt});
 }
 
 } // namespace ornavel::programs

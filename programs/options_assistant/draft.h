@@ -4,6 +4,16 @@
 
 namespace ornavel::programs {
 
+/// Two spellings of one name are one setting.
+bool is_same(const settings::Key& one, const settings::Key& other);
+
+/// What is stored, as the add-in reads it: a text with variables counts in a path and is absent elsewhere.
+/// Variables stand as they are stored.
+std::optional<settings::Store::Stored> stored_in(const settings::Store& store, const settings::Key& key);
+
+/// The change to this value; without one the setting becomes absent.
+settings::Change change_to(const settings::Key& key, const std::optional<settings::Store::Stored>& value);
+
 /// The settings as they will be once they are saved: what the user has changed lies over what is stored.
 class Draft {
 public:
@@ -15,11 +25,13 @@ public:
     Text value(const settings::Key& key) const;
     bool differs_from_default(const settings::Key& key) const;
 
-    /// Nothing makes the setting absent. What is stored already is no change.
-    void set(const settings::Key& key, std::optional<settings::Store::Stored> value);
+    /// Nothing makes the setting absent. The text that is stored already is no change, nor is the default of
+    /// one that is absent.
+    void set(const settings::Key& key, const std::optional<settings::Store::Stored>& value);
     /// What lies over the store.
     const std::vector<settings::Change>& changes() const { return changes_; }
     bool changes(const settings::Key& key) const;
+    void forget(const settings::Key& key);
     void forget() { changes_.clear(); }
 
 private:

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "programs/options_assistant/registry_files.h"
+#include "programs/options_assistant/draft.h"
+#include "programs/options_assistant/registry_export.h"
+#include "programs/options_assistant/registry_import.h"
 #include "programs/program.h"
 #include "settings/descriptions.h"
 
@@ -30,15 +32,18 @@ private:
     void cmdReset_Click();
     void cmdBrowseValue_Click();
     void cmdSave_Click();
+    void refuse(const settings::Description& setting, TextView objection);
     void cmdClose_Click();
     bool may_close();
 
     void cmdImport_Click();
+    bool read_import(TextView path);
     void cmdTakeOver_Click();
     void show_import(bool shown);
     void leave_import();
     void cmdExport_Click();
     void cmdPreset_Click();
+    std::optional<Text> ask_for_new_file(TextView heading, TextView proposed);
     void write(TextView path, Exported which);
 
     const Platform& platform_;

@@ -1,105 +1,140 @@
-#include "programs/options_assistant/registry_files.h"
+#include "programs/options_assistant/registry_import.h"
 
-#include "settings/descriptions.h"
+#include "programs/one_line.h"
+#include "programs/options_assistant/draft.h"
+#include "programs/options_assistant/values.h"
 #include "settings/reg_settings.h"
+
+#include <algorithm>
 
 namespace ornavel::programs {
 namespace {
 
 using namespace settings;
 
-Text shown(const std::optional<Text>& value) { return value ? u"\"" + *value + u"\"" : Text(u"(not set)"); }
+Text shown(const std::optional<Store::Stored>& value) {
+    return value ? u"\"" + in_one_line(value->text) + u"\"" : Text(u"(not set)");
+}
+
+std::optional<Store::Stored> value_of(const Change& change) {
+    if (!change.value) return {};
+    return Store::Stored{*change.value, change.has_variables};
+}
+
+Text left_out_line(TextView what, TextView why) {
+    return u"Not imported: " + Text(what) + u" (" + Text(why) + u")";
+}
+
+const Description* find_setting(TextView section, TextView name) {
+    const Key* const key = find_key(section, name);
+    if (!key) return nullptr;
+    const auto is_it = [&](const Description& each) { return is_same(each.key, *key); };
+    return &*std::ranges::find_if(descriptions(), is_it);
+}
+
+/// A setting with its last value in the file, or what keeps it from being imported.
+struct Wanted {
+    const Description* setting;
+    std::optional<Store::Stored> value;
+    std::optional<Text> objection;
+};
+
+Wanted wanted(const Description& setting, const RegValue& value) {
+    const bool expands = value.kind == RegValue::Kind::expand_text;
+    if (value.kind == RegValue::Kind::removed) return {&setting, {}, {}};
+    if (value.kind == RegValue::Kind::other || (expands && setting.key.kind != SettingKind::path))
+        return {&setting, {}, u"its value is no text"};
+    return {&setting, Store::Stored{value.value, expands}, objection(setting, value.value)};
+}
+
+/// A value that is no text is nowhere stored.
+bool is_stored(const Wanted& wanted, const Store& store) {
+    const bool is_text = wanted.value || !wanted.objection;
+    return is_text && stored_in(store, wanted.setting->key) == wanted.value;
+}
+
+Text refusal(const Wanted& wanted) {
+    const Key& key = wanted.setting->key;
+    const Text name = Text(key.section) + u" / " + Text(key.name);
+    if (!wanted.value) return left_out_line(name, *wanted.objection);
+    return left_out_line(name + u" = " + shown(wanted.value), *wanted.objection);
+}
+
+/// Of what is left out: a whole machine's registry has a hundred thousand keys.
+constexpr std::size_t most_lines = 100;
 
 class Importing {
 public:
-    explicit Importing(const Draft& draft) : draft_(draft) {}
-
     void take(const RegKey& key) {
         const auto section = section_of(key.path);
         if (!section) return leave_out(key.path, u"it does not belong to Ornavel");
         if (key.removed) return leave_out(key.path, u"whole sections are not removed");
         for (const RegValue& value : key.values) take(*section, value);
     }
-    Import result() {
-        Import import{std::move(changes_), std::move(lines_)};
-        import.lines.insert(import.lines.end(), left_out_.begin(), left_out_.end());
-        return import;
-    }
     void leave_out(TextView what, TextView why) {
-        left_out_.push_back(u"Not imported: " + Text(what) + u" (" + Text(why) + u")");
+        ++others_;
+        if (first_others_.size() < most_lines) first_others_.push_back(left_out_line(in_one_line(what), why));
     }
+    Import result(const Store& store) const;
 
 private:
     void take(const Text& section, const RegValue& value) {
-        const Text name = section + u" / " + value.name;
-        const Key* const key = find_key(section, value.name);
-        if (!key) return leave_out(name, u"Ornavel knows no such setting");
-        const bool expands = value.kind == RegValue::Kind::expand_text;
-        if (value.kind == RegValue::Kind::other || (expands && key->kind != SettingKind::path))
-            return leave_out(name, u"its value is no text");
-        const bool removed = value.kind == RegValue::Kind::removed;
-        change(*key, removed ? std::nullopt : std::optional(Store::Stored{value.value, expands}));
+        const Description* const setting = find_setting(section, value.name);
+        if (!setting) return leave_out(section + u" / " + value.name, u"Ornavel knows no such setting");
+        std::erase_if(wanted_, [&](const Wanted& each) { return each.setting == setting; });
+        wanted_.push_back(wanted(*setting, value));
     }
 
-    /// Of two values for one setting the last one counts.
-    void change(const Key& key, const std::optional<Store::Stored>& value) {
-        const auto now = draft_.find(key);
-        if (now == value) return;
-        const auto text_of = [](const auto& stored) {
-            return stored ? std::optional(stored->text) : std::nullopt;
-        };
-        lines_.push_back(Text(key.name) + u": " + shown(text_of(now)) + u" becomes " + shown(text_of(value)));
-        changes_.push_back({key, text_of(value), value && value->has_variables});
-    }
+    void add_others(std::vector<Text>& lines) const;
 
-    const Draft& draft_;
-    std::vector<Change> changes_;
-    std::vector<Text> lines_, left_out_;
+    std::vector<Wanted> wanted_;
+    std::vector<Text> first_others_;
+    std::size_t others_ = 0;
 };
 
-bool is_for_others(const Description& description) {
-    return description.owner != Owner::state && description.group != Group::signature_fields;
+Import Importing::result(const Store& store) const {
+    Import import;
+    for (const Wanted& each : wanted_) {
+        if (is_stored(each, store)) continue;
+        if (each.objection)
+            import.left_out.push_back(refusal(each));
+        else
+            import.changes.push_back(change_to(each.setting->key, each.value));
+    }
+    add_others(import.left_out);
+    return import;
 }
 
-bool is_wanted(const Description& description, const Draft& draft, Exported which) {
-    if (which == Exported::differing) return draft.differs_from_default(description.key);
-    return which == Exported::all || is_for_others(description);
-}
-
-RegValue value_of(const Key& key, const Store::Stored& stored) {
-    return {.name = Text(key.name),
-            .kind = stored.has_variables ? RegValue::Kind::expand_text : RegValue::Kind::text,
-            .value = stored.text};
-}
-
-bool holds(const RegKey& section, TextView name) {
-    for (const RegValue& value : section.values)
-        if (same_name(value.name, name)) return true;
-    return false;
+/// Behind the settings that are refused.
+void Importing::add_others(std::vector<Text>& lines) const {
+    const std::size_t all = lines.size() + others_;
+    lines.insert(lines.end(), first_others_.begin(), first_others_.end());
+    if (all <= most_lines) return;
+    lines.resize(most_lines);
+    lines.push_back(u"And " + to_text(static_cast<long long>(all - most_lines)) +
+                    u" more that were not imported");
 }
 
 } // namespace
 
-Import import_of(const RegFile& file, const Draft& draft) {
-    Importing importing(draft);
+Import import_of(const RegFile& file, const Store& store) {
+    Importing importing;
     for (const RegKey& key : file.keys) importing.take(key);
     for (const RegComplaint& complaint : file.complaints)
         importing.leave_out(u"line " + to_text(static_cast<long long>(complaint.at.line)),
                             complaint.description);
-    return importing.result();
+    return importing.result(store);
 }
 
-std::vector<RegKey> exported(const Draft& draft, Exported which) {
-    std::vector<RegKey> keys;
-    for (const Description& description : descriptions()) {
-        const Key& key = description.key;
-        const auto stored = draft.find(key);
-        if (!stored || !is_wanted(description, draft, which)) continue;
-        const Text path = Text(registry_area) + u"\\" + Text(key.section);
-        if (keys.empty() || keys.back().path != path) keys.push_back({.path = path});
-        if (!holds(keys.back(), key.name)) keys.back().values.push_back(value_of(key, *stored));
+std::vector<Text> lines_of(const Import& import, const Store& store) {
+    std::vector<Text> lines;
+    for (const Change& change : import.changes) {
+        const auto now = stored_in(store, change.key);
+        if (now == value_of(change)) continue;
+        lines.push_back(Text(change.key.name) + u": " + shown(now) + u" becomes " + shown(value_of(change)));
     }
-    return keys;
+    lines.insert(lines.end(), import.left_out.begin(), import.left_out.end());
+    return lines;
 }
 
 } // namespace ornavel::programs

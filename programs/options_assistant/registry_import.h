@@ -1,6 +1,6 @@
 #pragma once
 
-#include "programs/options_assistant/draft.h"
+#include "settings/changes.h"
 #include "settings/reg_file.h"
 
 namespace ornavel::programs {
@@ -8,17 +8,15 @@ namespace ornavel::programs {
 /// What a registry file would do to the settings, and what of it is left out.
 struct Import {
     std::vector<settings::Change> changes;
-    /// For the user: one line for each change, and one for each key or value that is not imported.
-    std::vector<Text> lines;
+    /// For the user: a line for each key or value, and beyond the first hundred one for all.
+    std::vector<Text> left_out;
 };
 
-/// Only keys in the add-in's own area and settings that the catalogue knows are imported.
-Import import_of(const settings::RegFile& file, const Draft& draft);
+/// Settings that the catalogue knows are imported from the add-in's own area, each with its last value in the
+/// file, unless that is stored already or one that the setting can't have.
+Import import_of(const settings::RegFile& file, const settings::Store& store);
 
-enum class Exported { all, differing, preset };
-
-/// The settings that are set, by their sections: all of them, those that differ from their default, or what
-/// others may be given: nobody's own signature, and nothing that the add-in remembers for itself.
-std::vector<settings::RegKey> exported(const Draft& draft, Exported which);
+/// For the user: a line for each setting that would change now, and what is left out.
+std::vector<Text> lines_of(const Import& import, const settings::Store& store);
 
 } // namespace ornavel::programs

@@ -9,13 +9,17 @@ using namespace settings;
 namespace {
 
 bool is_number(TextView value) {
-    if (!value.empty() && value.front() == u'-') value.remove_prefix(1);
+    if (value.starts_with(u'-') && value.size() > 1) value.remove_prefix(1);
     return std::ranges::all_of(value, [](char16_t unit) { return unit >= u'0' && unit <= u'9'; });
 }
 
-bool is_allowed(const Description& setting, TextView value) {
+/// Nothing where the value is one of those that are told apart.
+std::optional<Text> not_of_the_list(const Description& setting, TextView value) {
     const auto allowed = split(setting.allowed, u"|");
-    return std::ranges::find(allowed, value) != allowed.end();
+    if (std::ranges::find(allowed, value) != allowed.end()) return {};
+    Text words;
+    for (const Text& word : allowed) words += (words.empty() ? u"\"" : u", \"") + word + u"\"";
+    return u"it is none of " + words;
 }
 
 } // namespace
@@ -33,11 +37,9 @@ Text tick_of(const Description& setting, bool ticked) {
 }
 
 std::optional<Text> objection(const Description& setting, TextView value) {
-    const Text name = u"\"" + Text(value) + u"\" is no value for " + Text(setting.key.name);
-    if (value.find(u'\0') != TextView::npos) return name + u": it holds a sign that no setting can hold.";
-    if (setting.key.kind == SettingKind::number && !is_number(value)) return name + u": it is no number.";
-    if (editor_of(setting) == Editor::list && !is_allowed(setting, value))
-        return name + u": choose one of the list.";
+    if (contains(value, TextView(u"\0", 1))) return u"it holds a sign that no setting can hold";
+    if (setting.key.kind == SettingKind::number && !is_number(value)) return u"it is no number";
+    if (editor_of(setting) == Editor::list) return not_of_the_list(setting, value);
     return {};
 }
 

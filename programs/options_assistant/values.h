@@ -13,7 +13,7 @@ Editor editor_of(const settings::Description& setting);
 /// A ticked check box, and one that is not, as this setting has them.
 Text tick_of(const settings::Description& setting, bool ticked);
 
-/// Why a setting can't have this value, in a sentence; nothing where it can.
+/// Why a setting can't have this value, as in "it is no number"; nothing where it can.
 std::optional<Text> objection(const settings::Description& setting, TextView value);
 
 /// Whether the path is that of a folder, as far as the meaning says.

@@ -1,14 +1,8 @@
-#include "programs/options_assistant/frmOptionsAssistant.h"
 #include "programs/options_assistant/options_assistant.h"
-
-#include "base/encoding.h"
-#include "forms/form_user.h"
-#include "settings/reg_settings.h"
+#include "programs/options_assistant/values.h"
 #include "tests/forms/drawing.h"
 #include "tests/forms/overlap.h"
-#include "tests/programs/program_stage.h"
-
-#include <gtest/gtest.h>
+#include "tests/programs/options_stage.h"
 
 #include <algorithm>
 #include <set>
@@ -19,50 +13,10 @@ namespace {
 using namespace forms;
 using namespace settings;
 
-class Options : public ::testing::Test {
-protected:
-    frmOptionsAssistant& options() {
-        if (!options_) options_ = std::make_unique<frmOptionsAssistant>(stage.platform);
-        options_->form().load();
-        return *options_;
-    }
-    Form& form() { return options().form(); }
-    FormUser user() { return FormUser(form()); }
-    void choose(TextView name) {
-        user().set_text(u"txtSearch", name);
-        const auto& lines = form()[u"lstSettings"].items;
-        const auto line = std::ranges::find_if(
-            lines, [&](const Text& each) { return contains(each, u" " + Text(name) + u" = "); });
-        ASSERT_NE(line, lines.end()) << to_utf8(name);
-        user().select(u"lstSettings", static_cast<int>(line - lines.begin()));
-    }
-    /// The buttons that Enter or Escape presses.
-    Text pressed_by(bool Control::*key) {
-        Text names;
-        for (const Control& control : form().controls()) {
-            const Control* const frame = form().find(control.frame);
-            const bool is_seen = control.visible && (!frame || frame->visible);
-            if (is_seen && control.enabled && control.*key) names += control.name;
-        }
-        return names;
-    }
-    std::optional<Text> stored(const Key& key) { return stage.stored(key); }
-    Text last_box() { return stage.windows.boxes.empty() ? Text() : stage.windows.boxes.back(); }
-    std::string written(TextView path) { return stage.files.contents.at(Text(path)); }
-
-    ProgramStage stage;
-
-private:
-    std::unique_ptr<frmOptionsAssistant> options_;
-};
-
 TEST_F(Options, LookAsDrawn) {
     choose(admin::HTMFilesPath.name);
     expect_drawn(form(), "options");
-    stage.files.contents[u"C:\\in.reg"] =
-        "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n\"A\"=\"x\"\r\n";
-    stage.windows.path = u"C:\\in.reg";
-    user().click(u"cmdImport");
+    import("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n\"A\"=\"x\"\r\n");
     expect_drawn(form(), "options while an import is looked at");
 }
 
@@ -157,13 +111,13 @@ TEST_F(Options, OneOfWhichCannotBeWrittenAreAllPutBack) {
 }
 
 TEST_F(Options, RefuseANumberThatIsNone) {
-    choose(user::BrowserTop.name);
-    user().set_text(u"txtValue", u"12x");
+    type(user::BrowserTop, u"12x");
     choose(admin::SigEmail.name);
     user().click(u"cmdSave");
     EXPECT_EQ(stored(user::BrowserTop), std::nullopt);
     EXPECT_EQ(last_box(), u"Ornavel Options: \"12x\" is no value for BrowserTop: it is no number.");
     EXPECT_EQ(form()[u"txtValue"].text, u"12x");
+    EXPECT_EQ(form().next_focus, u"txtValue");
 }
 
 TEST_F(Options, RefuseAChoiceThatIsNotInTheList) {
@@ -171,7 +125,15 @@ TEST_F(Options, RefuseAChoiceThatIsNotInTheList) {
     user().set_text(u"cboValue", u"sometimes");
     user().click(u"cmdSave");
     EXPECT_EQ(stored(user::SettingButtonBar), std::nullopt);
-    EXPECT_TRUE(contains(last_box(), u"choose one of the list"));
+    EXPECT_EQ(last_box(), u"Ornavel Options: \"sometimes\" is no value for SettingButtonBar: it is none of "
+                          u"\"auto\", \"on\", \"off\", \"eSignature\".");
+    EXPECT_EQ(form().next_focus, u"cboValue");
+}
+
+TEST_F(Options, RefusedForALongValueSaySoInAShortBox) {
+    type(user::BrowserTop, Text(40000, u'x'));
+    user().click(u"cmdSave");
+    EXPECT_LT(last_box().size(), 200U);
 }
 
 TEST_F(Options, ThatAreNotSavedKeepTheWindowOpenUnlessTheUserSaysSo) {
@@ -186,118 +148,6 @@ TEST_F(Options, ThatAreNotSavedKeepTheWindowOpenUnlessTheUserSaysSo) {
     user().click(u"cmdClose");
     EXPECT_EQ(stored(admin::SigEmail), u"jo@example.com");
     EXPECT_EQ(stage.windows.boxes.size(), 2U);
-}
-
-constexpr const char* from_elsewhere = "REGEDIT4\r\n\r\n"
-                                       "[HKEY_CURRENT_USER\\Software\\Other]\r\n\"Evil\"=\"x\"\r\n"
-                                       "[HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\Ornavel\\"
-                                       "Admin Settings]\r\n"
-                                       "\"AutoPreview\"=\"True\"\r\n\"Invented\"=\"x\"\r\n\"SigEmail\"=-\r\n"
-                                       "\"SigCell\"=dword:00000001\r\n";
-
-TEST_F(Options, FromAFileAreShownBeforeTheyAreImported) {
-    stage.set(admin::SigEmail, u"jo@example.com");
-    stage.files.contents[u"C:\\in.reg"] = from_elsewhere;
-    stage.windows.path = u"C:\\in.reg";
-    user().click(u"cmdImport");
-    EXPECT_EQ(stored(admin::AutoPreview), std::nullopt);
-    EXPECT_TRUE(form()[u"fraImport"].visible);
-    EXPECT_FALSE(form()[u"cmdSave"].visible);
-    EXPECT_EQ(
-        form()[u"lstImport"].items,
-        (std::vector<Text>{
-            u"AutoPreview: (not set) becomes \"True\"", u"SigEmail: \"jo@example.com\" becomes (not set)",
-            u"Not imported: HKEY_CURRENT_USER\\Software\\Other (it does not belong to Ornavel)",
-            u"Not imported: Admin Settings / Invented (Ornavel knows no such setting)",
-            u"Not imported: Admin Settings / SigCell (its value is no text)"}));
-    user().click(u"cmdTakeOver");
-    EXPECT_EQ(stored(admin::AutoPreview), u"True");
-    EXPECT_EQ(stored(admin::SigEmail), std::nullopt);
-    EXPECT_EQ(stage.store.find(u"Admin Settings", u"Invented"), std::nullopt);
-    EXPECT_FALSE(form()[u"fraImport"].visible);
-    EXPECT_TRUE(form()[u"cmdSave"].visible);
-}
-
-TEST_F(Options, FromAFileAreForgottenWhenTheImportIsCancelled) {
-    stage.files.contents[u"C:\\in.reg"] = from_elsewhere;
-    stage.windows.path = u"C:\\in.reg";
-    user().click(u"cmdImport");
-    user().click(u"cmdCancelImport");
-    EXPECT_EQ(stored(admin::AutoPreview), std::nullopt);
-    EXPECT_FALSE(form()[u"fraImport"].visible);
-}
-
-TEST_F(Options, FromAFileAreLookedAtWithTheKeyboardAlone) {
-    stage.files.contents[u"C:\\in.reg"] = from_elsewhere;
-    stage.windows.path = u"C:\\in.reg";
-    user().click(u"cmdImport");
-    EXPECT_EQ(form().next_focus, u"lstImport");
-    EXPECT_EQ(pressed_by(&Control::is_default), u"cmdTakeOver");
-    EXPECT_EQ(pressed_by(&Control::is_cancel), u"cmdCancelImport");
-    user().click(u"cmdCancelImport");
-    EXPECT_EQ(form().next_focus, u"cmdImport");
-    EXPECT_EQ(pressed_by(&Control::is_cancel), u"cmdClose");
-}
-
-TEST_F(Options, OfAFileThatIsNoneStayAsTheyAre) {
-    stage.files.contents[u"C:\\in.reg"] = "<html>";
-    stage.windows.path = u"C:\\in.reg";
-    user().click(u"cmdImport");
-    EXPECT_TRUE(contains(last_box(), u"in.reg was not imported"));
-    stage.windows.path = u"C:\\gone.reg";
-    user().click(u"cmdImport");
-    EXPECT_TRUE(contains(last_box(), u"gone.reg was not imported"));
-    EXPECT_FALSE(form()[u"fraImport"].visible);
-}
-
-TEST_F(Options, AreExportedWithEverySignAndReadBackAsTheyWere) {
-    stage.set(admin::SigFullname, u"\u00C4nne \"Q\" \\ 50 % <b>&amp;</b>\r\nL\u00E9e");
-    stage.set(admin::SigPosition, u"");
-    stage.windows.path = u"C:\\out.reg";
-    user().click(u"cmdExport");
-    EXPECT_TRUE(written(u"C:\\out.reg").starts_with("REGEDIT4"));
-    stage.set(admin::SigFullname, u"\u65E5\u672C");
-    stage.windows.path = u"C:\\wide.reg";
-    user().click(u"cmdExport");
-    const auto read_back = settings_of(read_reg_file(written(u"C:\\wide.reg"), windows_1252()));
-    ASSERT_EQ(read_back.size(), 2U);
-    EXPECT_TRUE(std::ranges::any_of(read_back, [](const FileSetting& each) {
-        return each.name == admin::SigFullname.name && each.value == u"\u65E5\u672C";
-    }));
-    EXPECT_TRUE(written(u"C:\\wide.reg").starts_with("\xFF\xFE"));
-}
-
-TEST_F(Options, ThatEqualTheirDefaultCanBeLeftOutOfAnExport) {
-    stage.set(user::SettingButtonBar, u"auto");
-    stage.set(admin::AutoPreview, on);
-    user().tick(u"chkOnlyDifferent", true);
-    stage.windows.path = u"C:\\out.reg";
-    user().click(u"cmdExport");
-    EXPECT_EQ(written(u"C:\\out.reg").find("SettingButtonBar"), std::string::npos);
-    EXPECT_NE(written(u"C:\\out.reg").find("\"AutoPreview\"=\"True\""), std::string::npos);
-}
-
-TEST_F(Options, OfOneUserAloneAreInNoPreset) {
-    stage.set(admin::SigFullname, u"Jo Sender");
-    stage.set(admin::CurrentSignature, u"1");
-    stage.set(admin::AutoPreview, on);
-    stage.windows.path = u"C:\\x\\other.reg";
-    user().click(u"cmdPreset");
-    EXPECT_TRUE(contains(last_box(), u"NewUser.reg or DefaultUser.reg"));
-    EXPECT_FALSE(stage.files.file_exists(u"C:\\x\\other.reg"));
-    stage.windows.path = u"C:\\x\\newuser.reg";
-    user().click(u"cmdPreset");
-    const std::string preset = written(u"C:\\x\\newuser.reg");
-    EXPECT_NE(preset.find("AutoPreview"), std::string::npos);
-    EXPECT_EQ(preset.find("SigFullname"), std::string::npos);
-    EXPECT_EQ(preset.find("Current Signature"), std::string::npos);
-}
-
-TEST_F(Options, ThatCannotBeExportedAreToldInOneSentence) {
-    stage.files.refused.insert(u"C:\\out.reg");
-    stage.windows.path = u"C:\\out.reg";
-    user().click(u"cmdExport");
-    EXPECT_EQ(last_box(), u"Ornavel Options: C:\\out.reg could not be written.");
 }
 
 TEST_F(Options, ACancelledFileDialogChangesNothing) {
@@ -318,19 +168,115 @@ TEST_F(Options, ThatArePathsAreBrowsedFor) {
 }
 
 TEST_F(Options, StandApartWhateverTheirEditorAndTheSizeOfTheWindow) {
+    const Text long_value(40, u'm');
+    stage.set(admin::SigEmail, long_value);
     for (const Size size : {Size{0, 0}, Size{14000, 11000}}) {
         form().take_place({0, 0, size.width, size.height});
-        for (const TextView name : {TextView(admin::AutoPreview.name), TextView(admin::HTMFilesPath.name)}) {
-            choose(name);
-            const auto& controls = form().controls();
-            for (auto one = controls.begin(); one != controls.end(); ++one)
-                for (auto other = one + 1; other != controls.end(); ++other) {
-                    const bool are_seen = one->visible && other->visible;
-                    EXPECT_FALSE(are_seen && overlap(one->place, other->place))
-                        << to_utf8(one->name) << " " << to_utf8(other->name);
-                }
+        for (const Key* key : std::initializer_list<const Key*>{&admin::AutoPreview, &admin::HTMFilesPath,
+                                                                &admin::SigEmail, &user::SettingButtonBar}) {
+            choose(key->name);
+            expect_apart(form());
+            unique_access_keys(form());
         }
+        import("REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n");
+        expect_apart(form());
+        EXPECT_EQ(unique_access_keys(form()), (std::set<char16_t>{u'm', u'w'}));
+        user().click(u"cmdCancelImport");
     }
+}
+
+TEST_F(Options, AreReachedByKeysOfTheirOwn) {
+    choose(admin::HTMFilesPath.name);
+    EXPECT_EQ(unique_access_keys(form()),
+              (std::set<char16_t>{u'a', u'b', u'd', u'e', u'g', u'i', u'p', u'r', u's', u't', u'v'}));
+    choose(admin::AutoPreview.name);
+    EXPECT_TRUE(unique_access_keys(form()).contains(u'n'));
+}
+
+TEST_F(Options, ThatAreOneUnderTwoNamesChangeTogether) {
+    user().set_text(u"txtSearch", u"fax");
+    type(admin::SigFax, u"12");
+    const auto& lines = form()[u"lstSettings"].items;
+    EXPECT_NE(std::ranges::find(lines, u"* SigFax = 12"), lines.end());
+    EXPECT_NE(std::ranges::find(lines, u"* Sigfax = 12"), lines.end());
+}
+
+TEST_F(Options, TypedAndTakenBackAreNoChange) {
+    type(admin::SigFax, u"1");
+    EXPECT_TRUE(form()[u"cmdSave"].enabled);
+    EXPECT_TRUE(form()[u"cmdReset"].enabled);
+    user().set_text(u"txtValue", u"");
+    EXPECT_FALSE(form()[u"cmdSave"].enabled);
+    EXPECT_FALSE(form()[u"cmdReset"].enabled);
+    choose(admin::AutoPreview.name);
+    user().tick(u"chkValue", true);
+    user().tick(u"chkValue", false);
+    EXPECT_FALSE(form()[u"cmdSave"].enabled);
+    user().click(u"cmdClose");
+    EXPECT_TRUE(stage.windows.boxes.empty());
+}
+
+TEST_F(Options, ThatAreStoredTypedAndTakenBackAreNoChangeEither) {
+    stage.set(admin::SigFax, u"1");
+    stage.set(admin::HTMFilesPath, u"%APPDATA%\\x"); // as a text, which has no variables
+    type(admin::SigFax, u"12");
+    user().set_text(u"txtValue", u"1");
+    type(admin::HTMFilesPath, u"%APPDATA%\\xy");
+    user().set_text(u"txtValue", u"%APPDATA%\\x");
+    EXPECT_FALSE(form()[u"cmdSave"].enabled);
+    type(admin::SigFax, u"");
+    EXPECT_TRUE(form()[u"cmdSave"].enabled);
+}
+
+TEST_F(Options, WithLineBreaksStayAsTheyAreWhenTheyAreLookedAt) {
+    stage.set(admin::SigAddress, u"1 High Street\r\nMarlow");
+    choose(admin::SigAddress.name);
+    EXPECT_EQ(form()[u"txtValue"].text, u"1 High Street\r\nMarlow");
+    EXPECT_EQ(form()[u"lstSettings"].items[0], u"* SigAddress = 1 High Street Marlow");
+    choose(admin::SigCell.name);
+    EXPECT_FALSE(form()[u"cmdSave"].enabled);
+}
+
+TEST_F(Options, AreShownAsTheAddInReadsThem) {
+    stage.set(admin::SigFax, u"%FAX%");
+    stage.set(admin::HTMFilesPath, u"%APPDATA%");
+    stage.store.with_variables = {Text(admin::SigFax.name), Text(admin::HTMFilesPath.name)};
+    choose(admin::HTMFilesPath.name);
+    EXPECT_EQ(form()[u"txtValue"].text, u"%APPDATA%");
+    choose(admin::SigFax.name);
+    EXPECT_EQ(form()[u"txtValue"].text, u"");
+    EXPECT_FALSE(form()[u"cmdReset"].enabled);
+    EXPECT_FALSE(has(written_by(u"cmdExport", u"C:\\out.reg"), "SigFax"));
+    choose(admin::SigFax.name);
+    user().set_text(u"txtValue", u"12");
+    user().click(u"cmdSave");
+    EXPECT_EQ(stored(admin::SigFax), u"12");
+}
+
+TEST_F(Options, AreRefusedWithTheirWholeReason) {
+    const auto why_not = [](TextView name, TextView value) {
+        const auto all = descriptions();
+        return objection(*std::ranges::find(all, name, [](const auto& each) { return each.key.name; }),
+                         value);
+    };
+    EXPECT_EQ(why_not(u"BrowserTop", u"-"), u"it is no number");
+    EXPECT_EQ(why_not(u"BrowserTop", u"--1"), u"it is no number");
+    EXPECT_EQ(why_not(u"BrowserTop", u"-1"), std::nullopt);
+    EXPECT_EQ(why_not(u"BrowserTop", u""), std::nullopt);
+    EXPECT_EQ(why_not(u"InsertDateFormat", u"Short"), u"it is none of \"\", \"Long\"");
+    EXPECT_EQ(why_not(u"InsertDateFormat", u""), std::nullopt);
+    EXPECT_EQ(why_not(u"SigFax", TextView(u"1\0002", 3)), u"it holds a sign that no setting can hold");
+}
+
+TEST_F(Options, EndAsTheUserEndsThem) {
+    EXPECT_EQ(run(options_assistant, stage.platform), ended);
+    EXPECT_EQ(stage.windows.forms_shown, 1);
+    ScriptedWindows broken([](Form&, FormUser) { throw Failure(u"no window is to be had"); });
+    Platform without_windows{stage.store,   stage.files, stage.clock,   stage.launcher,
+                             stage.objects, broken,      stage.machine, u"C:\\Ornavel"};
+    EXPECT_EQ(run(options_assistant, without_windows), gave_up);
+    EXPECT_EQ(broken.boxes,
+              std::vector<Text>{u"Ornavel Options: Ornavel Options can't go on: no window is to be had."});
 }
 
 } // namespace
