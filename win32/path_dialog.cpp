@@ -25,9 +25,15 @@ std::wstring filter_of(const PathQuestion& question) {
     return filter;
 }
 
+/// Of the first pattern, without its dot; empty where any file will do.
+std::wstring extension_of(const PathQuestion& question) {
+    const Text first = split(question.pattern, u";").front();
+    return wide(first.substr(std::min(first.size(), first.find_last_of(u'.') + 1)));
+}
+
 std::optional<Text> ask_for_file(HWND owner, const PathQuestion& question) {
     const std::wstring filter = filter_of(question), title = wide(question.title);
-    const std::wstring proposed = wide(question.proposed);
+    const std::wstring proposed = wide(question.proposed), extension = extension_of(question);
     std::wstring path(longest_path, L'\0');
     std::copy_n(proposed.begin(), std::min(proposed.size(), longest_path - 1), path.begin());
     OPENFILENAMEW dialog{};
@@ -38,6 +44,7 @@ std::optional<Text> ask_for_file(HWND owner, const PathQuestion& question) {
     dialog.nMaxFile = static_cast<DWORD>(path.size());
     dialog.lpstrTitle = title.c_str();
     const bool saves = question.kind == PathQuestion::Kind::new_file;
+    if (saves && !extension.empty()) dialog.lpstrDefExt = extension.c_str();
     dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST |
                    (saves ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
     if (saves ? GetSaveFileNameW(&dialog) : GetOpenFileNameW(&dialog)) return text_of(path.c_str());

@@ -38,6 +38,23 @@ TEST(PathDialog, GivesTheWholePathOfTheProposedFile) {
     WindowsFiles().remove(path);
 }
 
+TEST(PathDialog, ANewFileHasTheExtensionOfItsPattern) {
+    const auto named = [](TextView file, TextView pattern) {
+        const Text path = expanded(u"%TEMP%\\") + Text(file);
+        const auto answer = ask({.kind = PathQuestion::Kind::new_file,
+                                 .title = u"Export",
+                                 .proposed = path,
+                                 .files = u"Registry files",
+                                 .pattern = Text(pattern)},
+                                {pressing_number(IDOK)});
+        return answer.value_or(Text()).substr(answer.value_or(Text()).find_last_of(u'\\') + 1);
+    };
+    EXPECT_EQ(named(u"backup", u"*.reg"), u"backup.reg");
+    EXPECT_EQ(named(u"backup.reg", u"*.reg"), u"backup.reg");
+    EXPECT_EQ(named(u"people", u"*.csv;*.txt"), u"people.csv");
+    EXPECT_EQ(named(u"backup", u""), u"backup");
+}
+
 TEST(PathDialog, AProposalThatIsNoFilesNameKeepsNobodyFromTheDialog) {
     EXPECT_EQ(
         ask({.title = u"vCard File", .proposed = u"C:\\a|b?.vcf;C:\\c.vcf"}, {pressing_number(IDCANCEL)}),
