@@ -94,7 +94,7 @@ ControlWindow::ControlWindow(const Control& control, HWND parent, int id, HFONT 
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font));
     give_name(window_, control.name);
     // Without this the system cuts off what is pasted behind 30,000 characters.
-    if (control.several_lines) send(EM_SETLIMITTEXT);
+    if (control.kind == ControlKind::text_box) send(EM_SETLIMITTEXT);
     if (control.icon != forms::Icon::none)
         send(STM_SETICON, reinterpret_cast<WPARAM>(LoadIconW(nullptr, system_icon(control.icon))));
     if (control.kind == ControlKind::web_browser) make_browser(control.follows_links);
@@ -162,16 +162,24 @@ void ControlWindow::show_list(const Control& control) {
 }
 
 void ControlWindow::show_entries(const Control& control) {
-    if (control.items != shown_.items) {
-        send(WM_SETREDRAW, FALSE);
-        send(LB_RESETCONTENT);
-        for (const Text& item : control.items)
-            send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(item).c_str()));
-        send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width_of_entries(control)));
-        send(WM_SETREDRAW, TRUE);
-        InvalidateRect(window_, nullptr, TRUE);
-    }
-    if (send(LB_GETCURSEL) != control.index) send(LB_SETCURSEL, static_cast<WPARAM>(control.index));
+    if (control.items == shown_.items) return mark_entry(control.index);
+    // The texts of a list change while its user types elsewhere: the list stays where it was scrolled to.
+    const bool stays = control.items.size() == shown_.items.size() && control.index == shown_.index;
+    const LRESULT first_shown = send(LB_GETTOPINDEX);
+    send(WM_SETREDRAW, FALSE);
+    send(LB_RESETCONTENT);
+    for (const Text& item : control.items)
+        send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(item).c_str()));
+    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width_of_entries(control)));
+    mark_entry(control.index);
+    if (stays) send(LB_SETTOPINDEX, static_cast<WPARAM>(first_shown));
+    send(WM_SETREDRAW, TRUE);
+    InvalidateRect(window_, nullptr, TRUE);
+}
+
+/// Scrolls to it.
+void ControlWindow::mark_entry(int index) const {
+    if (send(LB_GETCURSEL) != index) send(LB_SETCURSEL, static_cast<WPARAM>(index));
 }
 
 /// In pixels: how far the list must scroll for its longest entry to be read.

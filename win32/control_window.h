@@ -41,6 +41,7 @@ private:
     void show_text(const forms::Control& control);
     void show_list(const forms::Control& control);
     void show_entries(const forms::Control& control);
+    void mark_entry(int index) const;
     int width_of_entries(const forms::Control& control) const;
     /// Whether it stood elsewhere before.
     bool show_place(const forms::Bounds& place, const Scale& scale);

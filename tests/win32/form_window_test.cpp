@@ -106,6 +106,16 @@ TEST_F(FormWindowTest, TypedTextArrivesInTheForm) {
     EXPECT_EQ(events, u"+++");
 }
 
+TEST_F(FormWindowTest, WhatIsPastedArrivesHoweverLongItIs) {
+    const std::wstring long_text(40000, L'm');
+    show(form, {[&](HWND window) {
+             SendMessageW(control(window, L"txtNote"), EM_REPLACESEL, FALSE,
+                          reinterpret_cast<LPARAM>(long_text.c_str()));
+             EXPECT_GT(SendMessageW(control(window, L"txtNote"), EM_GETLIMITTEXT, 0, 0), 1000000);
+         }});
+    EXPECT_EQ(form[u"txtNote"].text.size(), long_text.size());
+}
+
 TEST_F(FormWindowTest, AnEntryChosenFromTheListIsTheFormsEntry) {
     form.on(u"cboSize", Event::click, [this] { events += form[u"cboSize"].text; });
     show(form, {[](HWND window) {

@@ -63,6 +63,46 @@ TEST_F(ListsWindow, ALongEntryCanBeScrolledTo) {
          }});
 }
 
+TEST_F(ListsWindow, StaysScrolledWhereItIsWhileTheTextOfAnEntryChanges) {
+    form[u"lstGoods"].items.assign(40, u"ink");
+    form.on(u"txtNote", Event::change, [&] { form[u"lstGoods"].items[12] = form[u"txtNote"].text; });
+    const auto first_shown = [](HWND window) {
+        return SendMessageW(control(window, L"lstGoods"), LB_GETTOPINDEX, 0, 0);
+    };
+    show(form, {[](HWND window) {
+                    SendMessageW(control(window, L"lstGoods"), LB_SETCURSEL, 12, 0);
+                    notify(window, L"lstGoods", LBN_SELCHANGE);
+                },
+                [](HWND window) {
+                    SendMessageW(control(window, L"lstGoods"), LB_SETTOPINDEX, 10, 0);
+                    SetWindowTextW(control(window, L"txtNote"), L"paper");
+                },
+                [&](HWND window) {
+                    EXPECT_EQ(form[u"lstGoods"].items[12], u"paper");
+                    EXPECT_EQ(first_shown(window), 10);
+                    // Also where the user has scrolled the marked entry out of sight.
+                    SendMessageW(control(window, L"lstGoods"), LB_SETTOPINDEX, 20, 0);
+                    SetWindowTextW(control(window, L"txtNote"), L"pens");
+                },
+                [&](HWND window) {
+                    EXPECT_EQ(form[u"lstGoods"].items[12], u"pens");
+                    EXPECT_EQ(first_shown(window), 20);
+                    EXPECT_EQ(SendMessageW(control(window, L"lstGoods"), LB_GETCURSEL, 0, 0), 12);
+                }});
+}
+
+TEST_F(ListsWindow, AnEntryThatTheFormMarksIsScrolledTo) {
+    form[u"lstGoods"].items.assign(40, u"ink");
+    form.on(u"txtNote", Event::change, [&] {
+        form[u"lstGoods"].items[0] = form[u"txtNote"].text;
+        form[u"lstGoods"].select(30);
+    });
+    show(form, {[](HWND window) { SetWindowTextW(control(window, L"txtNote"), L"paper"); },
+                [](HWND window) {
+                    EXPECT_GT(SendMessageW(control(window, L"lstGoods"), LB_GETTOPINDEX, 0, 0), 15);
+                }});
+}
+
 TEST_F(ListsWindow, TheKeyboardGoesWhereTheFormWantsIt) {
     form.next_focus = u"cboSize";
     form.on(u"lstGoods", Event::click, [&] { form.next_focus = u"txtNote"; });
