@@ -26,5 +26,9 @@ TEST(OptionsProgram, ShowsItsWindowWritesWhatItsUserSavesAndEnds) {
     EXPECT_EQ(settings()[u"User Settings"][u"SettingButtonBar"], rehearsal::SettingValue(Text(u"off")));
 }
 
+TEST(OptionsProgram, StartedTwiceBringsTheFirstToTheFront) {
+    expect_one_at_a_time(u"OptionsAssistant.exe", L"Ornavel Options");
+}
+
 } // namespace
 } // namespace ornavel::win32

@@ -62,4 +62,16 @@ void type(HWND form, const wchar_t* text_box, const wchar_t* text) {
 
 void press(HWND form, const wchar_t* button) { SendMessageW(control(form, button), BM_CLICK, 0, 0); }
 
+void expect_one_at_a_time(TextView file, const wchar_t* title) {
+    const RealProgram first(file);
+    const HWND form = first.window(title);
+    ASSERT_TRUE(form);
+    ShowWindow(form, SW_MINIMIZE);
+    const RealProgram second(file);
+    EXPECT_EQ(second.exit_code(), 0u);
+    EXPECT_FALSE(IsIconic(form));
+    SendMessageW(form, WM_CLOSE, 0, 0);
+    EXPECT_EQ(first.exit_code(), 0u);
+}
+
 } // namespace ornavel::win32

@@ -33,4 +33,7 @@ private:
 void type(HWND form, const wchar_t* text_box, const wchar_t* text);
 void press(HWND form, const wchar_t* button);
 
+/// Started while it runs already, the program ends at once and brings its first window to the front.
+void expect_one_at_a_time(TextView file, const wchar_t* title);
+
 } // namespace ornavel::win32

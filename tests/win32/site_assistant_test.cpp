@@ -47,15 +47,7 @@ TEST_F(SetupProgram, ShowsItsWindowWritesWhatItsUserFinishesAndEnds) {
 }
 
 TEST_F(SetupProgram, StartedTwiceBringsTheFirstToTheFront) {
-    const RealProgram first(u"SiteAssistant.exe");
-    const HWND form = first.window(title);
-    ASSERT_TRUE(form);
-    ShowWindow(form, SW_MINIMIZE);
-    const RealProgram second(u"SiteAssistant.exe");
-    EXPECT_EQ(second.exit_code(), 0u);
-    EXPECT_FALSE(IsIconic(form));
-    SendMessageW(form, WM_CLOSE, 0, 0);
-    EXPECT_EQ(first.exit_code(), 0u);
+    expect_one_at_a_time(u"SiteAssistant.exe", title);
 }
 
 } // namespace
