@@ -2,7 +2,6 @@
 
 #include "programs/one_line.h"
 #include "programs/options_assistant/design.h"
-#include "programs/options_assistant/values.h"
 
 #include <algorithm>
 
@@ -46,9 +45,7 @@ void frmOptionsAssistant::wire() {
     form_.on(u"txtValue", Event::change, [this] { take_value(form_[u"txtValue"].text); });
     form_.on(u"cboValue", Event::click, [this] { take_value(form_[u"cboValue"].text); });
     form_.on(u"cboValue", Event::change, [this] { take_value(form_[u"cboValue"].text); });
-    form_.on(u"chkValue", Event::click, [this] {
-        if (const Description* setting = chosen()) take_value(tick_of(*setting, form_[u"chkValue"].ticked));
-    });
+    form_.on(u"chkValue", Event::click, [this] { chkValue_Click(); });
     form_.on(u"cmdBrowseValue", Event::click, [this] { cmdBrowseValue_Click(); });
     form_.on(u"cmdReset", Event::click, [this] { cmdReset_Click(); });
     form_.on(u"cmdSave", Event::click, [this] { cmdSave_Click(); });

@@ -29,6 +29,7 @@ private:
     const settings::Description* chosen() const;
     void choose(const settings::Description& setting);
     void take_value(Text value);
+    void chkValue_Click();
     void cmdReset_Click();
     void cmdBrowseValue_Click();
     void cmdSave_Click();

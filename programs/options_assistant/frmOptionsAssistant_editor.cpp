@@ -56,6 +56,16 @@ void frmOptionsAssistant::take_value(Text value) {
     form_[u"cmdSave"].enabled = !draft_.changes().empty();
 }
 
+/// A stored word that reads as the box now shows stays as it is.
+void frmOptionsAssistant::chkValue_Click() {
+    const Description* const setting = chosen();
+    if (!setting) return;
+    const bool ticked = form_[u"chkValue"].ticked;
+    const auto stored = stored_in(platform_.settings, setting->key);
+    const bool is_as_stored = stored && (stored->text == tick_of(*setting, true)) == ticked;
+    take_value(is_as_stored ? stored->text : tick_of(*setting, ticked));
+}
+
 /// Wherever it stands.
 void frmOptionsAssistant::choose(const Description& setting) {
     form_[u"lstGroups"].select(all_index);

@@ -16,7 +16,7 @@ using namespace settings;
 TEST_F(Options, LookAsDrawn) {
     choose(admin::HTMFilesPath.name);
     expect_drawn(form(), "options");
-    import("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n\"A\"=\"x\"\r\n");
+    open_import("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n\"A\"=\"x\"\r\n");
     expect_drawn(form(), "options while an import is looked at");
 }
 
@@ -178,7 +178,7 @@ TEST_F(Options, StandApartWhateverTheirEditorAndTheSizeOfTheWindow) {
             expect_apart(form());
             unique_access_keys(form());
         }
-        import("REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n");
+        open_import("REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n");
         expect_apart(form());
         EXPECT_EQ(unique_access_keys(form()), (std::set<char16_t>{u'm', u'w'}));
         user().click(u"cmdCancelImport");
@@ -226,6 +226,16 @@ TEST_F(Options, ThatAreStoredTypedAndTakenBackAreNoChangeEither) {
     EXPECT_FALSE(form()[u"cmdSave"].enabled);
     type(admin::SigFax, u"");
     EXPECT_TRUE(form()[u"cmdSave"].enabled);
+}
+
+TEST_F(Options, TickedAndUntickedKeepTheWordThatMeansTheSame) {
+    stage.set(admin::AutoPreview, u"yes");
+    choose(admin::AutoPreview.name);
+    user().tick(u"chkValue", true);
+    EXPECT_EQ(form()[u"lstSettings"].items[0], u"* AutoPreview = True");
+    user().tick(u"chkValue", false);
+    EXPECT_EQ(form()[u"lstSettings"].items[0], u"* AutoPreview = yes");
+    EXPECT_FALSE(form()[u"cmdSave"].enabled);
 }
 
 TEST_F(Options, WithLineBreaksStayAsTheyAreWhenTheyAreLookedAt) {

@@ -20,7 +20,7 @@ constexpr const char* from_elsewhere = "REGEDIT4\r\n\r\n"
 
 TEST_F(Options, FromAFileAreShownBeforeTheyAreImported) {
     stage.set(admin::SigEmail, u"jo@example.com");
-    import(from_elsewhere);
+    open_import(from_elsewhere);
     EXPECT_EQ(stored(admin::AutoPreview), std::nullopt);
     EXPECT_TRUE(form()[u"fraImport"].visible);
     EXPECT_FALSE(form()[u"cmdSave"].visible);
@@ -46,8 +46,8 @@ std::string in_section(const std::string& name, const std::string& values) {
 
 TEST_F(Options, ThatHaveSeveralValuesInAFileGetTheLastOne) {
     stage.set(admin::AutoPreview, on);
-    import(in_section("Admin Settings", "\"AutoPreview\"=\"False\"\r\n\"SigFax\"=\"1\"\r\n"
-                                        "\"Sigfax\"=\"2\"\r\n\"AutoPreview\"=\"True\"\r\n"));
+    open_import(in_section("Admin Settings", "\"AutoPreview\"=\"False\"\r\n\"SigFax\"=\"1\"\r\n"
+                                             "\"Sigfax\"=\"2\"\r\n\"AutoPreview\"=\"True\"\r\n"));
     EXPECT_EQ(import_lines(), std::vector<Text>{u"SigFax: (not set) becomes \"2\""});
     user().click(u"cmdTakeOver");
     EXPECT_EQ(stored(admin::AutoPreview), on);
@@ -57,7 +57,7 @@ TEST_F(Options, ThatHaveSeveralValuesInAFileGetTheLastOne) {
 TEST_F(Options, FromAFileAreComparedWithWhatIsSaved) {
     type(admin::SigFax, u"12");
     type(admin::SigCell, u"34");
-    import(in_section("Admin Settings", "\"SigFax\"=\"12\"\r\n"));
+    open_import(in_section("Admin Settings", "\"SigFax\"=\"12\"\r\n"));
     EXPECT_EQ(import_lines(), std::vector<Text>{u"SigFax: (not set) becomes \"12\""});
     user().click(u"cmdTakeOver");
     EXPECT_EQ(stored(admin::SigFax), u"12");
@@ -72,15 +72,15 @@ TEST_F(Options, FromAFileAreComparedWithWhatIsSaved) {
 TEST_F(Options, FromAFileThatAreSavedAlreadyAreNoChange) {
     stage.set(admin::SigFax, u"12");
     type(admin::SigFax, u"13");
-    import(in_section("Admin Settings", "\"SigFax\"=\"12\"\r\n"));
+    open_import(in_section("Admin Settings", "\"SigFax\"=\"12\"\r\n"));
     EXPECT_EQ(last_box(), u"Ornavel Options: The file would change nothing.");
     EXPECT_EQ(form()[u"txtValue"].text, u"13");
 }
 
 TEST_F(Options, AreNotImportedWithAValueThatTheyCannotHave) {
-    import(in_section("User Settings", "\"BrowserTop\"=\"12x\"\r\n\"SettingButtonBar\"=\"sometimes\"\r\n"
-                                       "\"BrowserLeft\"=\"12\"\r\n\"BrowserLeft\"=\"-\"\r\n"
-                                       "\"BrowserWidth\"=\"-\"\r\n\"BrowserWidth\"=\"12\"\r\n"));
+    open_import(in_section("User Settings", "\"BrowserTop\"=\"12x\"\r\n\"SettingButtonBar\"=\"sometimes\"\r\n"
+                                            "\"BrowserLeft\"=\"12\"\r\n\"BrowserLeft\"=\"-\"\r\n"
+                                            "\"BrowserWidth\"=\"-\"\r\n\"BrowserWidth\"=\"12\"\r\n"));
     EXPECT_EQ(import_lines(),
               (std::vector<Text>{
                   u"BrowserWidth: (not set) becomes \"12\"",
@@ -94,7 +94,7 @@ TEST_F(Options, AreNotImportedWithAValueThatTheyCannotHave) {
 
 TEST_F(Options, FromAFileStandInOneLineEach) {
     stage.set(admin::SigFullname, u"Jo\r\nLee");
-    import(in_section("Admin Settings", "\"SigFullname\"=\"" + std::string(200, 'x') + "\"\r\n"));
+    open_import(in_section("Admin Settings", "\"SigFullname\"=\"" + std::string(200, 'x') + "\"\r\n"));
     EXPECT_EQ(import_lines(),
               std::vector<Text>{u"SigFullname: \"Jo Lee\" becomes \"" + Text(100, u'x') + u"\u2026\""});
 }
@@ -102,7 +102,8 @@ TEST_F(Options, FromAFileStandInOneLineEach) {
 TEST_F(Options, OfAWholeMachinesRegistryAreNotBuriedBelowAllThatIsLeftOut) {
     std::string bytes = "REGEDIT4\r\n";
     for (int key = 0; key < 250; ++key) bytes += "[HKEY_LOCAL_MACHINE\\" + std::to_string(key) + "]\r\n";
-    import(bytes + in_section("Admin Settings", "\"SigFax\"=\"12\"\r\n\"SigCell\"=dword:1\r\n").substr(10));
+    open_import(bytes +
+                in_section("Admin Settings", "\"SigFax\"=\"12\"\r\n\"SigCell\"=dword:1\r\n").substr(10));
     ASSERT_EQ(import_lines().size(), 102U);
     EXPECT_EQ(import_lines()[0], u"SigFax: (not set) becomes \"12\"");
     EXPECT_EQ(import_lines()[1], u"Not imported: Admin Settings / SigCell (its value is no text)");
@@ -112,7 +113,7 @@ TEST_F(Options, OfAWholeMachinesRegistryAreNotBuriedBelowAllThatIsLeftOut) {
 
 TEST_F(Options, OfWhichOneCannotBeImportedAreLookedAtAgain) {
     stage.store.refused = admin::SigWebsite.name;
-    import(in_section("Admin Settings", "\"SigEmail\"=\"jo@example.com\"\r\n\"SigWebsite\"=\"x\"\r\n"));
+    open_import(in_section("Admin Settings", "\"SigEmail\"=\"jo@example.com\"\r\n\"SigWebsite\"=\"x\"\r\n"));
     const std::vector<Text> lines = import_lines();
     user().click(u"cmdTakeOver");
     EXPECT_TRUE(contains(last_box(), u"Nothing was changed"));
@@ -127,7 +128,7 @@ TEST_F(Options, OfWhichOneCannotBeImportedAreLookedAtAgain) {
 }
 
 TEST_F(Options, ThatCouldNotBePutBackAreShownAsTheyAre) {
-    import(in_section("Admin Settings", "\"SigEmail\"=\"jo@example.com\"\r\n\"SigFax\"=\"1\"\r\n"));
+    open_import(in_section("Admin Settings", "\"SigEmail\"=\"jo@example.com\"\r\n\"SigFax\"=\"1\"\r\n"));
     stage.store.writes_left = 1;
     user().click(u"cmdTakeOver");
     EXPECT_EQ(import_lines(), std::vector<Text>{u"SigFax: (not set) becomes \"1\""});
@@ -142,7 +143,7 @@ TEST_F(Options, AreReadAndWrittenOnlyWhileTheUserSeesThatSomethingIsDone) {
         ++looks;
         EXPECT_TRUE(stage.windows.user_waits) << to_utf8(path);
     };
-    import(in_section("Admin Settings", "\"SigFax\"=\"1\"\r\n"));
+    open_import(in_section("Admin Settings", "\"SigFax\"=\"1\"\r\n"));
     user().click(u"cmdTakeOver");
     EXPECT_EQ(looks, 1);
     written_by(u"cmdExport", u"C:\\out.reg");
@@ -152,14 +153,14 @@ TEST_F(Options, AreReadAndWrittenOnlyWhileTheUserSeesThatSomethingIsDone) {
 }
 
 TEST_F(Options, FromAFileAreForgottenWhenTheImportIsCancelled) {
-    import(from_elsewhere);
+    open_import(from_elsewhere);
     user().click(u"cmdCancelImport");
     EXPECT_EQ(stored(admin::AutoPreview), std::nullopt);
     EXPECT_FALSE(form()[u"fraImport"].visible);
 }
 
 TEST_F(Options, FromAFileAreLookedAtWithTheKeyboardAlone) {
-    import(from_elsewhere);
+    open_import(from_elsewhere);
     EXPECT_EQ(form().next_focus, u"lstImport");
     EXPECT_EQ(pressed_by(&Control::is_default), u"cmdTakeOver");
     EXPECT_EQ(pressed_by(&Control::is_cancel), u"cmdCancelImport");
@@ -169,7 +170,7 @@ TEST_F(Options, FromAFileAreLookedAtWithTheKeyboardAlone) {
 }
 
 TEST_F(Options, OfAFileThatIsNoneStayAsTheyAre) {
-    import("<html>");
+    open_import("<html>");
     EXPECT_TRUE(contains(last_box(), u"in.reg was not imported"));
     stage.windows.path = u"C:\\gone.reg";
     user().click(u"cmdImport");

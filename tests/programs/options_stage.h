@@ -36,7 +36,7 @@ protected:
         user().set_text(u"txtValue", value);
     }
     /// Asks for the import of a file with these bytes.
-    void import(std::string bytes) {
+    void open_import(std::string bytes) {
         stage.files.contents[u"C:\\in.reg"] = std::move(bytes);
         stage.windows.path = u"C:\\in.reg";
         user().click(u"cmdImport");
