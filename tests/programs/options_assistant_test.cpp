@@ -263,7 +263,7 @@ TEST_F(Options, AreShownAsTheAddInReadsThem) {
     EXPECT_EQ(stored(admin::SigFax), u"12");
 }
 
-TEST_F(Options, AreRefusedWithTheirWholeReason) {
+TEST_F(Options, SayWhyTheyCannotHaveAValue) {
     const auto why_not = [](TextView name, TextView value) {
         const auto all = descriptions();
         return objection(*std::ranges::find(all, name, [](const auto& each) { return each.key.name; }),

@@ -234,48 +234,14 @@ TEST_F(Options, OfAPresetHaveOneOfTwoNames) {
 }
 
 // Written down by hand: what is one person's own, and what the add-in remembers for itself.
-const std::set<Text> in_no_preset = {
-    u"BrowserHeight",
-    u"BrowserLeft",
-    u"BrowserTop",
-    u"BrowserWidth",
-    u"Current Signature",
-    u"LastTipNumber",
-    u"MainFormHeight",
-    u"SendQuoteString",
-    u"SendToManySubject",
-    u"SigAddress",
-    u"SigAddress2",
-    u"SigAddress2FR",
-    u"SigAddress3",
-    u"SigAddress3FR",
-    u"SigAddress4",
-    u"SigAddress4FR",
-    u"SigAddressFR",
-    u"SigBranch",
-    u"SigBranchFR",
-    u"SigCell",
-    u"SigDivision",
-    u"SigDivisionFR",
-    u"SigEmail",
-    u"SigFax",
-    u"SigFullname",
-    u"SigFullnameFR",
-    u"SigOrganizationName",
-    u"SigOrganizationNameFR",
-    u"SigPosition",
-    u"SigPositionFR",
-    u"SigTelephone",
-    u"SigWebsite",
-    u"SigWebsiteDisplayName",
-    u"SigWebsiteDisplayNameFR",
-    u"SigWebsiteFR",
-    u"SignatureList",
-    u"vCard",
-    u"vCardPath",
-    u"vCardPathSelected",
-    u"vCardSelected",
-};
+constexpr TextView in_no_preset =
+    u"BrowserHeight|BrowserLeft|BrowserTop|BrowserWidth|Current Signature|LastTipNumber|"
+    u"MainFormHeight|SendQuoteString|SendToManySubject|SigAddress|SigAddress2|SigAddress2FR|"
+    u"SigAddress3|SigAddress3FR|SigAddress4|SigAddress4FR|SigAddressFR|SigBranch|SigBranchFR|SigCell|"
+    u"SigDivision|SigDivisionFR|SigEmail|SigFax|SigFullname|SigFullnameFR|SigOrganizationName|"
+    u"SigOrganizationNameFR|SigPosition|SigPositionFR|SigTelephone|SigWebsite|SigWebsiteDisplayName|"
+    u"SigWebsiteDisplayNameFR|SigWebsiteFR|SignatureList|vCard|vCardPath|vCardPathSelected|"
+    u"vCardSelected";
 
 TEST_F(Options, OfOnePersonAloneAreInNoPresetAndAllOthersAre) {
     for (const Key& key : catalogue()) stage.set(key, u"x");
@@ -287,7 +253,8 @@ TEST_F(Options, OfOnePersonAloneAreInNoPresetAndAllOthersAre) {
         if (std::ranges::none_of(in_file, is_it))
             left_out.insert(Text(find_key(key.section, key.name)->name));
     }
-    EXPECT_EQ(left_out, in_no_preset);
+    const auto wanted = split(in_no_preset, u"|");
+    EXPECT_EQ(left_out, std::set<Text>(wanted.begin(), wanted.end()));
     for (const Field& field : setup_fields())
         EXPECT_TRUE(!field.is_HTML || left_out.contains(Text(field.key.name))) << to_utf8(field.key.name);
 }
