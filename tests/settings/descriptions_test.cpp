@@ -122,8 +122,9 @@ TEST(Descriptions, ChoicesListTheirWords) {
                                  Text(modes::signature)}));
     EXPECT_EQ(about(user::InsertDateFormat).allowed, u"|Long");
     EXPECT_EQ(about(user::InsertOrder).allowed, u"|DateString|StringDate");
-    EXPECT_EQ(about(user::Importance).allowed, u"|Normal|Low|High");
-    EXPECT_EQ(about(user::Sensitivity).allowed, u"|Normal|Private|Personal|Confidential");
+    EXPECT_EQ(about(user::Importance).allowed, u"|Normal|Low|High|Normale|Faible|Haute");
+    EXPECT_EQ(about(user::Sensitivity).allowed,
+              u"|Normal|Private|Personal|Confidential|Normale|Privé|Personnel|Confidentiel");
     EXPECT_EQ(about(user::Template).allowed, u"");
 }
 
