@@ -40,19 +40,11 @@ inline void expect_apart(const Form& form) {
     }
 }
 
-/// The letter that the caption marks; nothing where it marks none. Two "&" stand for one.
-inline std::optional<char16_t> access_key(const Control& control) {
-    const Text caption = replace_all(lower_case(control.caption), u"&&", u"");
-    const auto mark = caption.find(u'&');
-    if (!has_caption(control.kind) || mark == Text::npos) return {};
-    return caption[mark + 1];
-}
-
 /// The access keys of the controls that are seen, each of which may stand there once.
 inline std::set<char16_t> unique_access_keys(const Form& form) {
     std::set<char16_t> keys;
     for (const Control* control : seen_controls(form)) {
-        const auto key = access_key(*control);
+        const auto key = access_key_of(*control);
         EXPECT_TRUE(!key || keys.insert(*key).second) << to_utf8(control->name);
     }
     return keys;

@@ -1,6 +1,7 @@
 #include "programs/site_assistant/frmSiteAssistant.h"
 #include "settings/modes.h"
 #include "tests/forms/drawing.h"
+#include "tests/forms/overlap.h"
 #include "tests/programs/identity.h"
 #include "tests/programs/program_stage.h"
 
@@ -75,6 +76,20 @@ TEST_F(SiteAssistant, LooksAsDrawn) {
     for (const TextView page : {u"fraYou", u"fraFrench", u"fraLetterhead", u"fraSending", u"fraReady"}) {
         go_to(page);
         expect_drawn(form(), "setup " + to_utf8(page));
+    }
+}
+
+TEST_F(SiteAssistant, EachPageIsReachedByKeysOfItsOwnAndNothingOverlaps) {
+    open();
+    click(u"chkFrench");
+    for (const auto& [page, keys] : {std::pair{u"fraYou", 15u},
+                                     {u"fraFrench", 10u},
+                                     {u"fraLetterhead", 8u},
+                                     {u"fraSending", 10u},
+                                     {u"fraReady", 3u}}) {
+        go_to(page);
+        expect_apart(form());
+        EXPECT_EQ(unique_access_keys(form()).size(), keys) << to_utf8(page);
     }
 }
 
