@@ -2,14 +2,12 @@
 
 #include "forms/measures.h"
 
-#include <algorithm>
-
 namespace ornavel::programs::options_design {
 namespace {
 
 using namespace forms;
 
-constexpr int groups_width = 2400, browse_width = 1125, editor_width = 5100;
+constexpr int groups_width = 2400, browse_width = 1125;
 constexpr int meaning_height = 4 * label_height, least_list = 1800;
 constexpr int grip_margin = 270; ///< below the buttons, so that the size grip covers none
 constexpr int labels_top = window_margin + box_height + control_gap;
@@ -133,7 +131,7 @@ std::vector<Control> controls() {
 
 Size least_room() {
     constexpr int buttons = 2 * window_margin + 5 * button_size.width + 3000 + 5 * control_gap;
-    return {std::max(buttons, 2 * window_margin + editor_width), list_top + least_list + below_lists};
+    return {buttons, list_top + least_list + below_lists};
 }
 
 void arrange(Form& form) {

@@ -48,9 +48,7 @@ bool is_folder(const Description& setting) {
 }
 
 bool holds_variables(const Description& setting, TextView value) {
-    const auto begin = value.find(u'%');
-    return setting.key.kind == SettingKind::path && begin != TextView::npos &&
-           value.find(u'%', begin + 1) != TextView::npos;
+    return setting.key.kind == SettingKind::path && std::ranges::count(value, u'%') > 1;
 }
 
 } // namespace ornavel::programs

@@ -29,6 +29,9 @@ public:
         if (is_saved) with_variables.erase(Text(key));
         return is_saved;
     }
+    bool save_with_variables(TextView section, TextView key, TextView value) noexcept override {
+        return save(section, key, value) && with_variables.emplace(key).second;
+    }
     bool remove(TextView section, TextView key) noexcept override {
         return takes(key) && stored.remove(section, key);
     }

@@ -148,6 +148,55 @@ TEST_F(SendToManyWindow, SendsAtThePaceThatItsUserAskedFor) {
     EXPECT_NEAR((people - 1) / minutes, pace, pace * 0.05);
 }
 
+TEST_F(SendToManyWindow, TellsHowFarItIsAndHowLongItStillTakes) {
+    Text people = u"Name;Mail\r\n";
+    for (int i = 0; i < 130; ++i) people += u"N;p" + to_text(i) + u"@x\r\n";
+    Texts told;
+    show([&](Form& form, FormUser user) {
+        form.shows_changes = [&] {
+            const Text words = form[u"lblProgress"].caption;
+            if (told.empty() || told.back() != words) told.push_back(words);
+        };
+        user.set_text(u"txtList", people);
+        user.set_text(u"txtPace", u"60");
+        user.click(u"cmdStart");
+    });
+    ASSERT_EQ(told.size(), 132u);
+    EXPECT_EQ(told[1], u"1 of 130 messages sent");
+    EXPECT_EQ(told[2], u"2 of 130 messages sent, 120 a minute, 1 minute left");
+    EXPECT_EQ(told[37], u"37 of 130 messages sent, 62 a minute, 2 minutes left");
+    EXPECT_EQ(told[38], u"38 of 130 messages sent, 62 a minute, 1 minute left");
+    EXPECT_EQ(told[69], u"69 of 130 messages sent, 61 a minute, 1 minute left");
+    EXPECT_EQ(told[70], u"70 of 130 messages sent, 61 a minute, less than a minute left");
+    EXPECT_EQ(told.back(), u"130 of 130 messages sent");
+}
+
+TEST_F(SendToManyWindow, AnEmptySubjectIsToldBeforeTheStart) {
+    for (const TextView subject : {u"Spring", u" "}) {
+        client.sent.clear();
+        windows.boxes.clear();
+        files.contents.erase(u"C:\\lists\\spring.sent.csv");
+        show([&](Form&, FormUser user) {
+            user.set_text(u"txtSubject", subject);
+            user.set_text(u"txtList", list);
+            user.click(u"cmdStart");
+        });
+        EXPECT_EQ(is_told(u"The message has no subject."), subject == u" ");
+    }
+}
+
+TEST_F(SendToManyWindow, EachPersonsMessageIsReachedInTurnThereAndBack) {
+    show([&](Form& form, FormUser user) {
+        user.set_text(u"txtList", u"Mail\r\na@x\r\nb@x\r\nc@x\r\n");
+        Texts seen;
+        for (const TextView button : {u"cmdFollowing", u"cmdFollowing", u"cmdPrevious", u"cmdPrevious"}) {
+            user.click(button);
+            seen.push_back(form[u"lblPreview"].caption);
+        }
+        EXPECT_EQ(seen, (Texts{u"b@x", u"c@x", u"b@x", u"a@x"}));
+    });
+}
+
 TEST_F(SendToManyWindow, WithoutAYesNothingIsSentOrWritten) {
     windows.yes = {};
     show([&](Form&, FormUser user) {

@@ -154,6 +154,8 @@ TEST_F(Journals, WhatCameOfAMessageIsWrittenLaterWhereTheDiskWasFull) {
     EXPECT_EQ(journal().state_of(u"a@x"), State::unknown);
     one.begin();
     EXPECT_EQ(journal().state_of(u"a@x"), State::sent);
+    EXPECT_EQ(bytes(), "list 0123456789ABCDEF\r\nsending a@x\r\n ...\r\nsent a@x 11-20-2003 12:00:00\r\n")
+        << "a part of the line that failed may stand there";
 }
 
 TEST_F(Journals, OfAPastedListStandAmongTheUsersData) {

@@ -259,6 +259,7 @@ TEST_F(SendingToMany, TellsHowFastItIsAndHowLongItStillTakes) {
     one.go_on();
     EXPECT_NEAR(one.rate(), 60, 25);
     EXPECT_NEAR(static_cast<double>(one.seconds_left()), 6, 2);
+    EXPECT_EQ(one.seconds_left(), static_cast<long long>(6 * 60 / one.rate()));
 }
 
 TEST_F(SendingToMany, TheUsageLogHasARowForEachMessageWithTheFlagOfBulkMail) {

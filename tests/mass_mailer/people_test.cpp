@@ -27,7 +27,7 @@ using Texts = std::vector<Text>;
 TEST(Addresses, QuotesUmlautsAndSignsAreParts) {
     for (const TextView address :
          {u"ann@example.com", u"o'brien@example.com", u"a+b=c@ex-ample.co.uk", u"\"john doe\"@example.com",
-          u"jörg@müller.de", u"\"a@b\"@example.com", u"x@localhost"})
+          u"jörg@müller.de", u"\"a@b\"@example.com", u"x@localhost", u"a@a-az.AZ", u"a@0x9"})
         EXPECT_EQ(why_no_address(address), u"") << to_utf8(address);
 }
 
@@ -41,6 +41,16 @@ TEST(Addresses, WhatTheMailClientWouldTakeForAnotherIsNone) {
     EXPECT_NE(why_no_address(Text(300, u'a') + u"@example.com"), u"");
 }
 
+TEST(Addresses, WhyOneIsNoneIsSaidInASentence) {
+    EXPECT_EQ(why_no_address(u""), u"There is no address");
+    EXPECT_EQ(why_no_address(Text(250, u'a') + u"@b.c"), u"");
+    EXPECT_EQ(why_no_address(Text(251, u'a') + u"@b.c"), u"No address is as long as this");
+    EXPECT_EQ(why_no_address(u"a\x7f@b.c"), u"An address has no such character");
+    EXPECT_EQ(why_no_address(u"a@b.c,d@e.f"), u"There is more than one address");
+    EXPECT_EQ(why_no_address(u"ann"), u"An address has an \"@\"");
+    EXPECT_EQ(why_no_address(u"ann@"), u"This is no address");
+}
+
 TEST(Addresses, ANameMayStandInFront) {
     EXPECT_EQ(address_in(u" Ann Lee <ann@example.com> "), u"ann@example.com");
     EXPECT_EQ(address_in(u"\"Lee, Ann\" < ann@example.com >"), u"ann@example.com");
@@ -51,6 +61,8 @@ TEST(Addresses, AreComparedWithoutCaseAndBlanks) {
     EXPECT_EQ(address_key(u"Ann@Example.COM"), address_key(u" ann@example.com"));
     EXPECT_EQ(address_key(u"JÖRG@EXAMPLE.COM"), address_key(u"jörg@example.com"));
     EXPECT_NE(address_key(u"ann@example.com"), address_key(u"anne@example.com"));
+    EXPECT_EQ(address_key(u"AZ\u00C0\u00DE"), u"az\u00E0\u00FE");
+    EXPECT_EQ(address_key(u"@[\u00BF\u00D7\u00DF"), u"@[\u00BF\u00D7\u00DF") << "these are no capitals";
 }
 
 TEST(MailingLists, TheFirstLineNamesTheColumnsAndOneWithMailInItIsTheAddress) {
@@ -123,6 +135,11 @@ TEST(PastedLists, AddressesStandOneOrSeveralALine) {
     EXPECT_EQ(addresses(people),
               (Texts{u"ann@example.com", u"bob@example.com", u"carol@example.com", u"dave@example.com"}));
     EXPECT_EQ(rejections(people), Texts{u"3: nobody: An address has an \"@\""});
+}
+
+TEST(PastedLists, ASignOfAnAddressInTheFirstLineTellsThatThereAreNoNames) {
+    EXPECT_EQ(read_pasted(u"ann@b.c").rows.size(), 1u);
+    EXPECT_EQ(read_pasted(u"Fax;E-mail\r\n1;ann@b.c").columns, (Texts{u"Fax", u"E-mail"}));
 }
 
 TEST(PastedLists, ATableIsPastedWithItsNames) {

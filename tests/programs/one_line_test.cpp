@@ -26,6 +26,7 @@ TEST(OneLine, CutsNoPairInTwo) {
     EXPECT_EQ(in_one_line(before + pair), before + u"\u2026");
     EXPECT_EQ(in_one_line(before.substr(1) + pair), before.substr(1) + pair);
     EXPECT_EQ(in_one_line(before.substr(1) + pair + u"y"), before.substr(1) + pair + u"\u2026");
+    EXPECT_EQ(in_one_line(u"ab\xDC00", 2), u"ab\u2026");
     // A lone half is a sign like any other.
     EXPECT_EQ(in_one_line(before + u"\xD83D" + u"yz"), before + u"\xD83D" + u"\u2026");
 }

@@ -185,6 +185,29 @@ TEST_F(Options, StandApartWhateverTheirEditorAndTheSizeOfTheWindow) {
     }
 }
 
+TEST_F(Options, OfWhichNoneIsFoundHaveNoEditor) {
+    user().set_text(u"txtSearch", u"no such setting");
+    for (const TextView name :
+         {u"txtValue", u"chkValue", u"cboValue", u"cmdBrowseValue", u"cmdReset", u"lblValue"})
+        EXPECT_FALSE(form()[name].visible) << to_utf8(name);
+    EXPECT_EQ(form()[u"lblMeaning"].caption, u"");
+    EXPECT_EQ(form()[u"lblDefault"].caption, u"");
+}
+
+TEST_F(Options, ThatArePathsMayHoldVariables) {
+    for (const auto& [value, holds] :
+         {std::pair{u"%APPDATA%\\x", true}, {u"C:\\50%", false}, {u"C:\\", false}}) {
+        choose(admin::HTMFilesPath.name);
+        user().set_text(u"txtValue", value);
+        user().click(u"cmdSave");
+        EXPECT_EQ(stage.store.with_variables.contains(Text(admin::HTMFilesPath.name)), holds)
+            << to_utf8(value);
+    }
+    type(admin::SigFax, u"%APPDATA%");
+    user().click(u"cmdSave");
+    EXPECT_TRUE(stage.store.with_variables.empty());
+}
+
 TEST_F(Options, AreReachedByKeysOfTheirOwn) {
     choose(admin::HTMFilesPath.name);
     EXPECT_EQ(unique_access_keys(form()),

@@ -471,6 +471,22 @@ TEST_F(SiteAssistant, WhatShallStayMarkupIsNotAskedAboutAgain) {
     EXPECT_EQ(stage.stored(admin::SigPosition), u"<b>Partner</b>");
 }
 
+TEST_F(SiteAssistant, AsksAboutMarkupInEachTextThatIsPouredIntoMessages) {
+    stage.windows.yes = [](TextView) { return true; };
+    for (const Field& field : setup_fields()) {
+        open();
+        click(u"chkFrench");
+        const Text page = form()[field.control].frame;
+        if (page != u"fraYou" && page != u"fraFrench") continue;
+        go_to(page);
+        if (contains(field.control, u"Email") || contains(field.control, u"Website")) continue;
+        type(field.control, u"a & b");
+        click(u"cmdNext");
+        EXPECT_EQ(form()[field.control].text, u"a &amp; b") << to_utf8(field.control);
+        stage.windows.boxes.clear();
+    }
+}
+
 TEST_F(SiteAssistant, MarkupThatIsWantedInOneFieldIsAskedAboutInAnother) {
     open();
     type(u"txtSigPosition", u"<b>Jo</b>");
@@ -557,6 +573,9 @@ TEST_F(SiteAssistant, AShareIsShownOnceItsListIsOpenedAndNotAtEveryLetter) {
     user().drop_down(u"cboTemplates");
     EXPECT_EQ(form()[u"cboTemplates"].items, std::vector<Text>{u"letter.htm"});
     EXPECT_TRUE(contains(preview(), u"<u>"));
+    const int visits = form()[u"brwPreview"].visits;
+    user().drop_down(u"cboTemplates");
+    EXPECT_EQ(form()[u"brwPreview"].visits, visits) << "it is shown already";
 }
 
 TEST_F(SiteAssistant, ASampleThatCantBeWrittenKeepsNobodyFromGoingOn) {
