@@ -32,6 +32,7 @@ public:
 
     std::optional<Text> ask_for_path(const forms::PathQuestion& question) override {
         questions.push_back(question.title);
+        last_question = question;
         return path;
     }
 
@@ -46,6 +47,7 @@ public:
     std::vector<Text> boxes;           ///< title and text of each message box
     std::function<bool(TextView)> yes; ///< which questions are answered so, by their text
     std::vector<Text> questions;       ///< titles of the file dialogs
+    forms::PathQuestion last_question; ///< of these dialogs
     std::optional<Text> path;          ///< the answer to all of them
 
 private:

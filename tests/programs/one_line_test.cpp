@@ -27,6 +27,10 @@ TEST(OneLine, CutsNoPairInTwo) {
     EXPECT_EQ(in_one_line(before.substr(1) + pair), before.substr(1) + pair);
     EXPECT_EQ(in_one_line(before.substr(1) + pair + u"y"), before.substr(1) + pair + u"\u2026");
     EXPECT_EQ(in_one_line(u"ab\xDC00", 2), u"ab\u2026");
+    for (const TextView first_and_last : {u"\xD800\xDC00", u"\xDBFF\xDFFF"})
+        EXPECT_EQ(in_one_line(u"a" + Text(first_and_last), 2), u"a\u2026");
+    for (const TextView no_pair : {u"\xD7FF\xDC00", u"\xDC00\xDC00", u"\xD800\xDBFF", u"\xD800\xE000"})
+        EXPECT_EQ(in_one_line(u"a" + Text(no_pair), 2), u"a" + Text(no_pair.substr(0, 1)) + u"\u2026");
     // A lone half is a sign like any other.
     EXPECT_EQ(in_one_line(before + u"\xD83D" + u"yz"), before + u"\xD83D" + u"\u2026");
 }

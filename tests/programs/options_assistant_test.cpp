@@ -185,6 +185,36 @@ TEST_F(Options, StandApartWhateverTheirEditorAndTheSizeOfTheWindow) {
     }
 }
 
+struct Dialog {
+    TextView button, title, proposed, pattern;
+    PathQuestion::Kind kind;
+};
+
+TEST_F(Options, AskForFilesInDialogsThatSayWhichTheyMean) {
+    using enum PathQuestion::Kind;
+    constexpr Dialog dialogs[] = {{u"cmdImport", u"Import", u"", u"*.reg", existing_file},
+                                  {u"cmdExport", u"Export", u"Ornavel.reg", u"*.reg", new_file},
+                                  {u"cmdPreset", u"Preset", u"NewUser.reg", u"*.reg", new_file}};
+    const PathQuestion& asked = stage.windows.last_question;
+    for (const Dialog& dialog : dialogs) {
+        user().click(dialog.button);
+        EXPECT_EQ(asked.title, dialog.title);
+        EXPECT_EQ(asked.proposed, dialog.proposed);
+        EXPECT_EQ(asked.pattern, dialog.pattern);
+        EXPECT_EQ(asked.files, u"Registry files");
+        EXPECT_EQ(asked.kind, dialog.kind);
+    }
+    stage.set(admin::HTMFilesPath, u"C:\\t");
+    stage.set(admin::ErrorFileLocation, u"C:\\log.txt");
+    for (const Key* key : {&admin::HTMFilesPath, &admin::ApplicationPath, &admin::ErrorFileLocation}) {
+        choose(key->name);
+        user().click(u"cmdBrowseValue");
+        EXPECT_EQ(asked.title, key->name);
+        EXPECT_EQ(asked.proposed, stored(*key).value_or(Text()));
+        EXPECT_EQ(asked.kind == folder, key != &admin::ErrorFileLocation) << to_utf8(key->name);
+    }
+}
+
 TEST_F(Options, OfWhichNoneIsFoundHaveNoEditor) {
     user().set_text(u"txtSearch", u"no such setting");
     for (const TextView name :
