@@ -348,6 +348,27 @@ TEST_F(SendToManyWindow, ATestGoesToOneselfWithThePersonsValues) {
     EXPECT_EQ(client.sent[0][u"Subject"], u"Hello Bob");
 }
 
+TEST_F(SendToManyWindow, ATestCountsForTheListThatItWasMadeWith) {
+    windows.yes = {};
+    show([&](Form&, FormUser user) {
+        user.set_text(u"txtList", list);
+        user.click(u"cmdTest");
+        user.click(u"cmdStart");
+        EXPECT_FALSE(is_told(u"No test message was sent yet."));
+        user.set_text(u"txtList", u"Name;Mail\r\nCy;cy@x\r\n");
+        user.click(u"cmdStart");
+        EXPECT_TRUE(is_told(u"No test message was sent yet."));
+    });
+}
+
+TEST_F(SendToManyWindow, AnotherSubjectIsPreviewedAtOnce) {
+    show([&](Form& form, FormUser user) {
+        user.set_text(u"txtList", list);
+        user.set_text(u"txtSubject", u"Good bye {{Name}}");
+        EXPECT_EQ(form[u"lblPreviewSubject"].caption, u"Subject: Good bye Ann");
+    });
+}
+
 TEST_F(SendToManyWindow, ATestThatFailsSaysWhy) {
     client.at = [](TextView) { throw host::Error(u"ActiveX component can't create object"); };
     show([&](Form&, FormUser user) {

@@ -24,6 +24,13 @@ TEST(LocalPictures, LeaveOutWhatLiesElsewhereOrFollowsFromAField) {
                     .empty());
 }
 
+TEST(Folders, AreNamedWithoutBackslashesAtTheirEndUnlessTheyAreDrives) {
+    EXPECT_EQ(without_end(u"C:\\t\\\\"), u"C:\\t");
+    EXPECT_EQ(without_end(u"C:t\\"), u"C:t");
+    EXPECT_EQ(without_end(u"C:\\"), u"C:\\");
+    EXPECT_EQ(without_end(u"\\\\s\\t\\"), u"\\\\s\\t");
+}
+
 TEST(TemplateInUse, IsTheChosenOneOrTheFirstOfTheFolder) {
     MemoryFiles files;
     files.contents = {{u"C:\\t\\a.htm", "x"}, {u"C:\\t\\b.htm", "x"}};
