@@ -15,7 +15,6 @@ namespace {
 
 /// In front of the groups of the catalogue.
 constexpr TextView changed_group = u"changed", all_group = u"all";
-constexpr int all_index = 1;
 
 /// Whether each of the words stands in the name or in the meaning.
 bool is_found(const Description& setting, TextView words) {
