@@ -10,7 +10,7 @@ import subprocess
 import sys
 from xml.sax.saxutils import quoteattr
 
-from package_bits import PLATFORMS, code, family, names, rows_of_bits
+from package_bits import BY_REGISTRY, MACHINE, PLATFORMS, code, family, names, rows_of_bits
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PACKAGING = ROOT / "packaging"
@@ -71,16 +71,30 @@ def version_of(file):
 
 
 def rows(file):
-    """Without its version a program would never take the place of one that has one. A sample outlives the package
-    unless it is as it was installed (see packaging/actions); a component without a code is one that the installer puts
-    there and then forgets."""
+    """Without its version a program would never take the place of one that has one. A sample outlives the package, and is
+    not replaced by another, unless it is as it was installed (see packaging/actions); a component without a code is one
+    that the installer puts there and then forgets."""
     if version_of(file):
         yield f"UPDATE `File` SET `Version` = '{version_of(file)}', `Language` = '1033' WHERE `File` = '{key(file)}'"
         yield f"DELETE FROM `MsiFileHash` WHERE `File_` = '{key(file)}'"
     if file.folder in KEPT:
-        yield f"UPDATE `Component` SET `ComponentId` = '' WHERE `Component` = '{key(file)}'"
+        yield (f"UPDATE `Component` SET `ComponentId` = '', `Condition` = 'NOT changed_{key(file)}' "
+               f"WHERE `Component` = '{key(file)}'")
         yield ("INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `FileName`, `DirProperty`, `InstallMode`) "
                f"VALUES ('{key(file)}', 'registration', '{file.name}', 'unchanged_{key(file)}', 2)")
+
+
+def notes(files):
+    """The package notes each sample's hash, which is also that of Windows Installer, where the next one finds it. The
+    component is of 32 bits in both packages: each finds what the other noted."""
+    noted = [file for file in files if file.folder in KEPT]
+    yield ("INSERT INTO `Component` (`Component`, `ComponentId`, `Directory_`, `Attributes`, `KeyPath`) "
+           f"VALUES ('samples', '{{{code('samples')}}}', 'STATIONERY', {BY_REGISTRY}, 'note_{key(noted[0])}')")
+    yield "INSERT INTO `FeatureComponents` (`Feature_`, `Component_`) VALUES ('everything', 'samples')"
+    for file in noted:
+        digest = hashlib.md5(file.source.read_bytes(), usedforsecurity=False).hexdigest()
+        yield ("INSERT INTO `Registry` (`Registry`, `Root`, `Key`, `Name`, `Value`, `Component_`) VALUES "
+               f"('note_{key(file)}', {MACHINE}, 'Software\\Brevant\\Ornavel\\Samples', '{file.name}', '#x{digest}', 'samples')")
 
 
 def contents(package, scratch):
@@ -137,8 +151,7 @@ def make_package(files, version, moment, scratch, package, bits):
     defined = [part for name, value in words.items() for part in ("-D", f"{name}={value}")]
     run("wixl", *defined, "-o", package, "ornavel.wxs", "files.wxs", cwd=scratch, env={**os.environ, "TZ": "UTC"})
     fixed = (PACKAGING / "rows.sql").read_text("utf-8").splitlines()
-    kept = {key(file): file.folder in KEPT for file in files}
-    more = [*(row for file in files for row in rows(file)), *rows_of_bits(version, bits, kept)]
+    more = [*(row for file in files for row in rows(file)), *notes(files), *rows_of_bits(version, bits, map(key, files))]
     run("msibuild", package, *(part for row in [*fixed, *more] for part in ("-q", row)))
     own_code = package_code(package, scratch)
     run("msibuild", package, "-s", f"Ornavel {version}", "Brevant", PLATFORMS[bits], f"{{{own_code}}}")
