@@ -9,7 +9,7 @@ INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`)
 INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z8_menu', 'registration', 'menu', 2)
 UPDATE `CustomAction` SET `Type` = 51 WHERE `Source` = 'PRESET'
 UPDATE `CustomAction` SET `Type` = 51 WHERE `Source` = 'PRESETVERSION'
-UPDATE `CustomAction` SET `Type` = 1 WHERE `Action` = 'look_at_samples'
+UPDATE `CustomAction` SET `Type` = 65 WHERE `Action` = 'look_at_samples'
 UPDATE `InstallExecuteSequence` SET `Sequence` = 51 WHERE `Action` = 'keep_preset'
 UPDATE `InstallExecuteSequence` SET `Sequence` = 52 WHERE `Action` = 'keep_preset_version'
 UPDATE `InstallExecuteSequence` SET `Sequence` = 53 WHERE `Action` = 'look_at_samples'
