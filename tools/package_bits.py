@@ -6,7 +6,7 @@ FAMILY = uuid.UUID("E0B5E4E7-7C5D-4E12-9C34-0B7A5F6C1D27")
 PLATFORMS = {32: "Intel;1033", 64: "x64;1033"}
 WORDS, ENDINGS = {32: "x86", 64: "x64"}, {32: "", 64: "-x64"}
 VERSIONS_WITH_BITNESS = ("14", "15", "16")  # of mail clients whose setup notes its bits
-BY_REGISTRY, OF_64_BITS = 4, 256  # of a component
+BY_REGISTRY, TRANSITIVE, OF_64_BITS = 4, 64, 256  # of a component
 MACHINE, SEARCH_VALUE, SEARCH_64_BIT = 2, 2, 16  # of a search in the registry
 FROM_THIS_VERSION_ON = 256
 
@@ -45,7 +45,7 @@ def rows_of_bits(version, bits, files):
 def component_rows(bits, files):
     """A component of 64 bits has its files and keys where programs of 64 bits look."""
     own = OF_64_BITS if bits == 64 else 0
-    found = {"registration": BY_REGISTRY, "preset": BY_REGISTRY, **dict.fromkeys(files, 0)}
+    found = {"registration": BY_REGISTRY, "preset": BY_REGISTRY + TRANSITIVE, **dict.fromkeys(files, 0)}
     for name, value in found.items():
         yield f"UPDATE `Component` SET `Attributes` = {value + own} WHERE `Component` = '{name}'"
 
