@@ -24,18 +24,14 @@ def family(bits):
 def names(bits):
     """What ornavel.wxs leaves open because the packages differ in it."""
     if bits == 32:
-        return {"place": "ProgramFilesFolder", "registration": "FA3C2A55-9E85-4C24-AB38-1F15E70DDC56",
-                "preset": "4D7C0F63-0C58-4B0B-9C36-6E1B0B9B7A24"}
-    return {"place": "ProgramFiles64Folder", "registration": code("registration", 64), "preset": code("preset", 64)}
+        return {"place": "ProgramFilesFolder", "registration": "FA3C2A55-9E85-4C24-AB38-1F15E70DDC56"}
+    return {"place": "ProgramFiles64Folder", "registration": code("registration", 64)}
 
 
 def rows_of_bits(version, bits, files):
     """The files are given by their keys."""
     yield from component_rows(bits, files)
     yield from search_rows()
-    if bits == 64:
-        where = SEARCH_VALUE + SEARCH_64_BIT
-        yield f"UPDATE `RegLocator` SET `Type` = {where} WHERE `Key` = 'Software\\Brevant\\Ornavel'"
     yield condition_row(version, bits, 96 - bits)
     # The other package gives way.
     yield ("INSERT INTO `Upgrade` (`UpgradeCode`, `VersionMin`, `Attributes`, `ActionProperty`) VALUES "
@@ -45,9 +41,9 @@ def rows_of_bits(version, bits, files):
 def component_rows(bits, files):
     """A component of 64 bits has its files and keys where programs of 64 bits look."""
     own = OF_64_BITS if bits == 64 else 0
-    found = {"registration": BY_REGISTRY, "preset": BY_REGISTRY + TRANSITIVE, **dict.fromkeys(files, 0)}
+    found = {"registration": BY_REGISTRY + own, "preset": BY_REGISTRY + TRANSITIVE, **dict.fromkeys(files, own)}
     for name, value in found.items():
-        yield f"UPDATE `Component` SET `Attributes` = {value + own} WHERE `Component` = '{name}'"
+        yield f"UPDATE `Component` SET `Attributes` = {value} WHERE `Component` = '{name}'"
 
 
 def notes():
