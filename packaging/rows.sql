@@ -18,5 +18,6 @@ UPDATE `InstallExecuteSequence` SET `Sequence` = 53 WHERE `Action` = 'keep_prese
 UPDATE `InstallExecuteSequence` SET `Sequence` = 54 WHERE `Action` = 'keep_preset_version'
 UPDATE `InstallExecuteSequence` SET `Sequence` = 55 WHERE `Action` = 'look_at_samples'
 UPDATE `InstallExecuteSequence` SET `Sequence` = 1501 WHERE `Action` = 'RemoveExistingProducts'
-UPDATE `Property` SET `Value` = 'WIX_DOWNGRADE_DETECTED;WIX_UPGRADE_DETECTED;PRESET;PRESETVERSION;OLDPRESET;OLDPRESETVERSION;OTHERBITS;OL1432;OL1464;OL1532;OL1564;OL1632;OL1664' WHERE `Property` = 'SecureCustomProperties'
-INSERT INTO `LaunchCondition` (`Condition`, `Description`) VALUES ('NOT PRESET OR PRESET >< ":\" OR PRESET << "\\"', 'PRESET needs a full path, as C:\Presets\company.reg or \\server\share\company.reg.')
+UPDATE `Property` SET `Value` = 'WIX_DOWNGRADE_DETECTED;WIX_UPGRADE_DETECTED;PRESET;PRESETVERSION;OLDPRESET;OLDPRESETVERSION;OTHERBITS;OTHERBITSNEWER;OL1432;OL1464;OL1532;OL1564;OL1632;OL1664' WHERE `Property` = 'SecureCustomProperties'
+INSERT INTO `LaunchCondition` (`Condition`, `Description`) VALUES ('REMOVE OR NOT PRESET OR PRESET >< ":\" OR PRESET << "\\"', 'PRESET needs a full path, as C:\Presets\company.reg or \\server\share\company.reg.')
+INSERT INTO `LaunchCondition` (`Condition`, `Description`) VALUES ('REMOVE OR NOT PRESETVERSION OR PRESETVERSION >= 1 AND PRESETVERSION <= 32767', 'PRESETVERSION is a whole number from 1 to 32767.')

@@ -8,7 +8,7 @@ WORDS, ENDINGS = {32: "x86", 64: "x64"}, {32: "", 64: "-x64"}
 VERSIONS_WITH_BITNESS = ("14", "15", "16")  # of mail clients whose setup notes its bits
 BY_REGISTRY, TRANSITIVE, OF_64_BITS = 4, 64, 256  # of a component
 MACHINE, SEARCH_VALUE, SEARCH_64_BIT = 2, 2, 16  # of a search in the registry
-FROM_THIS_VERSION_ON = 256
+FROM_THIS_VERSION_ON, UP_TO_THIS_VERSION, ONLY_DETECTED = 256, 512, 2
 
 
 def code(name, bits=32):
@@ -33,9 +33,17 @@ def rows_of_bits(version, bits, files):
     yield from component_rows(bits, files)
     yield from search_rows()
     yield condition_row(version, bits, 96 - bits)
-    # The other package gives way.
+    yield from upgrade_rows(version, 96 - bits)
+
+
+def upgrade_rows(version, other):
+    """The other package gives way, unless it is newer."""
+    yield ("INSERT INTO `Upgrade` (`UpgradeCode`, `VersionMin`, `VersionMax`, `Attributes`, `ActionProperty`) VALUES "
+           f"('{{{family(other)}}}', '0.0.0', '{version}', {FROM_THIS_VERSION_ON + UP_TO_THIS_VERSION}, 'OTHERBITS')")
     yield ("INSERT INTO `Upgrade` (`UpgradeCode`, `VersionMin`, `Attributes`, `ActionProperty`) VALUES "
-           f"('{{{family(96 - bits)}}}', '0.0.0', {FROM_THIS_VERSION_ON}, 'OTHERBITS')")
+           f"('{{{family(other)}}}', '{version}', {ONLY_DETECTED}, 'OTHERBITSNEWER')")
+    yield ("INSERT INTO `LaunchCondition` (`Condition`, `Description`) VALUES ('NOT OTHERBITSNEWER', "
+           f"'A newer Ornavel, for {other}-bit Outlook, is installed on this computer. Remove it first.')")
 
 
 def component_rows(bits, files):
