@@ -41,13 +41,22 @@ def key(file):
     return re.sub(r"[^\w.]", "_", file.name)
 
 
+def named(name, number):
+    """As the tables want it: a short name, and a long one behind it where that is another. The number is the file's own."""
+    stem, ending = os.path.splitext(name)
+    if re.fullmatch(r"[\w-]{1,8}", stem) and re.fullmatch(r"(\.\w{1,3})?", ending):
+        return name
+    short = re.sub(r"\W", "", stem)[:5]
+    return f"{short}~{number}{ending[:4]}".upper() + f"|{name}"
+
+
 def component(file, bits):
     shortcut = ""
     if file.entry:
-        shortcut = (f'<Shortcut Id="entry_{key(file)}" Directory="menu" Name={quoteattr(file.entry)} '
+        shortcut = (f'<Shortcut Id="entry_{key(file)}" Directory="menu" Name={quoteattr(named(file.entry, file.number))} '
                     f'Target="[{file.folder}]{file.name}" WorkingDirectory="{file.folder}"/>')
     return (f'<Component Id="{key(file)}" Guid="{code(f"{file.folder}/{file.name}", bits)}"><File Id="{key(file)}" '
-            f'Name="{file.name}" Source="{file.folder}/{file.name}" KeyPath="yes"/>{shortcut}</Component>')
+            f'Name="{named(file.name, file.number)}" Source="{file.folder}/{file.name}" KeyPath="yes"/>{shortcut}</Component>')
 
 
 def fragment(files, bits):
@@ -81,7 +90,7 @@ def rows(file):
         yield (f"UPDATE `Component` SET `ComponentId` = '', `Condition` = 'NOT changed_{key(file)}' "
                f"WHERE `Component` = '{key(file)}'")
         yield ("INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `FileName`, `DirProperty`, `InstallMode`) "
-               f"VALUES ('{key(file)}', 'registration', '{file.name}', 'unchanged_{key(file)}', 2)")
+               f"VALUES ('{key(file)}', 'registration', '{named(file.name, file.number)}', 'unchanged_{key(file)}', 2)")
 
 
 def notes(files):
@@ -137,15 +146,17 @@ def set_times(package, moment):
 
 def check(package, files, scratch):
     """What wixl and msibuild were told is really there."""
-    held = {row.split("\t")[0] for row in run("msiinfo", "export", package, "File", cwd=scratch).splitlines()[3:]}
+    rows = [row.split("\t") for row in run("msiinfo", "export", package, "File", cwd=scratch).splitlines()[3:]]
+    held = {row[0]: row[2] for row in rows}
     removed = run("msiinfo", "export", package, "RemoveFile", cwd=scratch)
-    if held != {key(file) for file in files} or not all(key(file) in removed for file in files if file.folder in KEPT):
-        fail(f"{package.name} lacks something; it holds {', '.join(sorted(held))}")
+    if held != {key(file): named(file.name, file.number) for file in files} or not all(
+            key(file) in removed for file in files if file.folder in KEPT):
+        fail(f"{package.name} lacks something; it holds {', '.join(sorted(held.values()))}")
 
 
 def make_package(files, version, moment, scratch, package, bits):
-    """Writes the package and gives back its package code. A file has a source, a name, a folder and the words of its entry
-    in the start menu; the moment is that of everything inside, the bits those of the mail client."""
+    """Writes the package and gives back its package code. A file has a source, a name, a folder, a number of its own
+    and the words of its entry in the start menu; the moment is that of everything inside, the bits those of the mail client."""
     gather(files, moment, scratch, bits)
     words = {"version": version, "product": code(version, bits), "family": family(bits), **NAMES, **names(bits)}
     defined = [part for name, value in words.items() for part in ("-D", f"{name}={value}")]
