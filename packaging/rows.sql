@@ -2,7 +2,7 @@ UPDATE `Component` SET `Condition` = 'PRESET' WHERE `Component` = 'preset'
 INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z1_templates', 'registration', 'templates', 2)
 INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z2_signatures', 'registration', 'signatures', 2)
 INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z3_pictures', 'registration', 'pictures', 2)
-INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z4_stationery', 'registration', 'STATIONERY', 2)
+INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z4_stationery', 'registration', 'stationery', 2)
 INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z5_programs', 'registration', 'programs', 2)
 INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z6_ornavel', 'registration', 'ornavel', 2)
 INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `DirProperty`, `InstallMode`) VALUES ('z7_brevant', 'registration', 'brevant', 2)

@@ -98,7 +98,7 @@ def notes(files):
     component is of 32 bits in both packages: each finds what the other noted."""
     noted = [file for file in files if file.folder in KEPT]
     yield ("INSERT INTO `Component` (`Component`, `ComponentId`, `Directory_`, `Attributes`, `KeyPath`) "
-           f"VALUES ('samples', '{{{code('samples')}}}', 'STATIONERY', {BY_REGISTRY}, 'note_{key(noted[0])}')")
+           f"VALUES ('samples', '{{{code('samples')}}}', 'stationery', {BY_REGISTRY}, 'note_{key(noted[0])}')")
     yield "INSERT INTO `FeatureComponents` (`Feature_`, `Component_`) VALUES ('everything', 'samples')"
     for file in noted:
         digest = hashlib.md5(file.source.read_bytes(), usedforsecurity=False).hexdigest()

@@ -79,7 +79,7 @@ Words folder_of(MSIHANDLE installation, MSIHANDLE row) {
     Words path;
     DWORD length = longest;
     const Words words = text_of(row, folder);
-    if (MsiGetPropertyW(installation, L"STATIONERY", path.text, &length) != ERROR_SUCCESS) return {};
+    if (MsiGetPropertyW(installation, L"stationery", path.text, &length) != ERROR_SUCCESS) return {};
     if (!append(path, long_name(words)) || !append(path, L"\\")) return {};
     return path;
 }
