@@ -14,7 +14,7 @@ from package_bits import BY_REGISTRY, MACHINE, PLATFORMS, code, family, names, r
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PACKAGING = ROOT / "packaging"
-ACTIONS = ROOT / "build/windows/packaging/package_actions.dll"
+ACTIONS = "build/windows/packaging/package_actions.dll"
 KEPT = ("templates", "signatures", "pictures")
 SUMMARY, TIME = "\x05SummaryInformation", 64
 NAMES = {
@@ -123,11 +123,11 @@ def package_code(package, scratch):
     return code(digest.hexdigest())
 
 
-def gather(files, moment, scratch, bits):
+def gather(files, actions, moment, scratch, bits):
     """All that wixl reads, in one folder: it takes no full paths."""
     (scratch / "files.wxs").write_text(fragment(files, bits), "utf-8")
     places = [(file.source, f"{file.folder}/{file.name}") for file in files]
-    places += [(file, file.name) for file in (PACKAGING / "ornavel.wxs", PACKAGING / "ornavel.ico", ACTIONS)]
+    places += [(file, file.name) for file in (PACKAGING / "ornavel.wxs", PACKAGING / "ornavel.ico", actions)]
     for source, name in places:
         (scratch / name).parent.mkdir(exist_ok=True)
         shutil.copyfile(source, scratch / name)
@@ -154,10 +154,11 @@ def check(package, files, scratch):
         fail(f"{package.name} lacks something; it holds {', '.join(sorted(held.values()))}")
 
 
-def make_package(files, version, moment, scratch, package, bits):
-    """Writes the package and gives back its package code. A file has a source, a name, a folder, a number of its own
-    and the words of its entry in the start menu; the moment is that of everything inside, the bits those of the mail client."""
-    gather(files, moment, scratch, bits)
+def make_package(files, actions, version, moment, scratch, package, bits):
+    """Writes the package and gives back its package code. A file has a source, a name, a folder, a number of its own and the
+    words of its entry in the start menu; the actions are the DLL that the package itself runs. The moment is that of
+    everything inside, the bits those of the mail client."""
+    gather(files, actions, moment, scratch, bits)
     words = {"version": version, "product": code(version, bits), "family": family(bits), **NAMES, **names(bits)}
     defined = [part for name, value in words.items() for part in ("-D", f"{name}={value}")]
     run("wixl", *defined, "-o", package, "ornavel.wxs", "files.wxs", cwd=scratch, env={**os.environ, "TZ": "UTC"})
