@@ -166,7 +166,8 @@ class World:
         """Each file of the drive with what its contents come to, and each folder. What plays keep for themselves counts
         for nothing."""
         own = self.drive / "windows/ornavel_prefix"
-        return {str(path.relative_to(self.drive)): self.digest(path) for path in self.drive.rglob("*") if own not in path.parents}
+        return {str(path.relative_to(self.drive)): self.digest(path) for path in self.drive.rglob("*")
+                if own not in path.parents}
 
     def digest(self, path):
         """Of the contents; a file that nobody has written to since is not read again."""
