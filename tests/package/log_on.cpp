@@ -1,6 +1,7 @@
 // Does what Active Setup does when a user logs on: starts what each component of the machine wants for a user
 // who has no note of it, or of a lower version, as it is written there, and makes the note. Windows of 64
-// bits has two lists of components, each with notes of its own.
+// bits has two lists of components, and notes for each; here they share one place, because Wine's 32-bit
+// programs lose sight of a user's keys once HKEY_CURRENT_USER has a Wow6432Node.
 #include <windows.h>
 
 #include <cstdio>
@@ -57,10 +58,13 @@ void look_at(HKEY component, HKEY notes, const wchar_t* name) {
     std::printf("%ls: %s\n", command.c_str(), run(command) ? "started" : "can't be started");
 }
 
-void log_on(const wchar_t* components) {
+constexpr wchar_t own_list[] = L"Software\\Microsoft\\Active Setup\\Installed Components";
+constexpr wchar_t list_of_32_bits[] = L"Software\\Wow6432Node\\Microsoft\\Active Setup\\Installed Components";
+
+void log_on(const wchar_t* list) {
     HKEY machine = nullptr, notes = nullptr;
-    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, components, 0, KEY_READ, &machine)) return;
-    RegCreateKeyExW(HKEY_CURRENT_USER, components, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &notes, nullptr);
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, list, 0, KEY_READ, &machine)) return;
+    RegCreateKeyExW(HKEY_CURRENT_USER, own_list, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &notes, nullptr);
     wchar_t name[256];
     for (DWORD index = 0; !RegEnumKeyW(machine, index, name, 256); ++index) {
         HKEY component = nullptr;
@@ -75,7 +79,7 @@ void log_on(const wchar_t* components) {
 } // namespace
 
 int main() {
-    log_on(L"Software\\Microsoft\\Active Setup\\Installed Components");
-    if (sizeof(void*) == 8) log_on(L"Software\\Wow6432Node\\Microsoft\\Active Setup\\Installed Components");
+    log_on(own_list);
+    if (sizeof(void*) == 8) log_on(list_of_32_bits);
     return 0;
 }

@@ -96,7 +96,7 @@ class World:
 
     def forget_notes(self):
         """Of what Windows brought to the user at a logon; so another user is without them."""
-        self.import_registry(*(rf"[-HKEY_CURRENT_USER\Software{node}\Microsoft\Active Setup]" for node in ("", NODE)))
+        self.import_registry(r"[-HKEY_CURRENT_USER\Software\Microsoft\Active Setup]")
 
     def installer(self, act, name, *words):
         return self.run("system32/msiexec.exe", act, f"Z:{self.scratch / name}", "/qn", *words)
