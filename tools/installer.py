@@ -103,7 +103,8 @@ def notes(files):
     for file in noted:
         digest = hashlib.md5(file.source.read_bytes(), usedforsecurity=False).hexdigest()
         yield ("INSERT INTO `Registry` (`Registry`, `Root`, `Key`, `Name`, `Value`, `Component_`) VALUES "
-               f"('note_{key(file)}', {MACHINE}, 'Software\\Brevant\\Ornavel\\Samples', '{file.name}', '#x{digest}', 'samples')")
+               f"('note_{key(file)}', {MACHINE}, 'Software\\Brevant\\Ornavel\\Samples', '{file.name}', '#x{digest}', "
+               "'samples')")
 
 
 def contents(package, scratch):
@@ -146,8 +147,8 @@ def set_times(package, moment):
 
 def check(package, files, scratch):
     """What wixl and msibuild were told is really there."""
-    rows = [row.split("\t") for row in run("msiinfo", "export", package, "File", cwd=scratch).splitlines()[3:]]
-    held = {row[0]: row[2] for row in rows}
+    lines = [line.split("\t") for line in run("msiinfo", "export", package, "File", cwd=scratch).splitlines()[3:]]
+    held = {line[0]: line[2] for line in lines}
     removed = run("msiinfo", "export", package, "RemoveFile", cwd=scratch)
     if held != {key(file): named(file.name, file.number) for file in files} or not all(
             key(file) in removed for file in files if file.folder in KEPT):
