@@ -10,11 +10,11 @@ import subprocess
 import sys
 from xml.sax.saxutils import quoteattr
 
-from package_bits import PLATFORMS, code, family, names, rows_of_bits
+from package_bits import BY_REGISTRY, MACHINE, PLATFORMS, code, family, names, rows_of_bits
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PACKAGING = ROOT / "packaging"
-ACTIONS = ROOT / "build/windows/packaging/package_actions.dll"
+ACTIONS = "build/windows/packaging/package_actions.dll"
 KEPT = ("templates", "signatures", "pictures")
 SUMMARY, TIME = "\x05SummaryInformation", 64
 NAMES = {
@@ -41,13 +41,22 @@ def key(file):
     return re.sub(r"[^\w.]", "_", file.name)
 
 
+def named(name, number):
+    """As the tables want it: a short name, and a long one behind it where that is another. The number is the file's own."""
+    stem, ending = os.path.splitext(name)
+    if re.fullmatch(r"[\w-]{1,8}", stem) and re.fullmatch(r"(\.\w{1,3})?", ending):
+        return name
+    short = re.sub(r"\W", "", stem)[:5]
+    return f"{short}~{number}{ending[:4]}".upper() + f"|{name}"
+
+
 def component(file, bits):
     shortcut = ""
     if file.entry:
-        shortcut = (f'<Shortcut Id="entry_{key(file)}" Directory="menu" Name={quoteattr(file.entry)} '
+        shortcut = (f'<Shortcut Id="entry_{key(file)}" Directory="menu" Name={quoteattr(named(file.entry, file.number))} '
                     f'Target="[{file.folder}]{file.name}" WorkingDirectory="{file.folder}"/>')
     return (f'<Component Id="{key(file)}" Guid="{code(f"{file.folder}/{file.name}", bits)}"><File Id="{key(file)}" '
-            f'Name="{file.name}" Source="{file.folder}/{file.name}" KeyPath="yes"/>{shortcut}</Component>')
+            f'Name="{named(file.name, file.number)}" Source="{file.folder}/{file.name}" KeyPath="yes"/>{shortcut}</Component>')
 
 
 def fragment(files, bits):
@@ -71,16 +80,31 @@ def version_of(file):
 
 
 def rows(file):
-    """Without its version a program would never take the place of one that has one. A sample outlives the package
-    unless it is as it was installed (see packaging/actions); a component without a code is one that the installer puts
-    there and then forgets."""
+    """Without its version a program would never take the place of one that has one. A sample outlives the package, and is
+    not replaced by another, unless it is as it was installed (see packaging/actions); a component without a code is one
+    that the installer puts there and then forgets."""
     if version_of(file):
         yield f"UPDATE `File` SET `Version` = '{version_of(file)}', `Language` = '1033' WHERE `File` = '{key(file)}'"
         yield f"DELETE FROM `MsiFileHash` WHERE `File_` = '{key(file)}'"
     if file.folder in KEPT:
-        yield f"UPDATE `Component` SET `ComponentId` = '' WHERE `Component` = '{key(file)}'"
+        yield (f"UPDATE `Component` SET `ComponentId` = '', `Condition` = 'NOT changed_{key(file)}' "
+               f"WHERE `Component` = '{key(file)}'")
         yield ("INSERT INTO `RemoveFile` (`FileKey`, `Component_`, `FileName`, `DirProperty`, `InstallMode`) "
-               f"VALUES ('{key(file)}', 'registration', '{file.name}', 'unchanged_{key(file)}', 2)")
+               f"VALUES ('{key(file)}', 'registration', '{named(file.name, file.number)}', 'unchanged_{key(file)}', 2)")
+
+
+def notes(files):
+    """The package notes each sample's hash, which is also that of Windows Installer, where the next one finds it. The
+    component is of 32 bits in both packages: each finds what the other noted."""
+    noted = [file for file in files if file.folder in KEPT]
+    yield ("INSERT INTO `Component` (`Component`, `ComponentId`, `Directory_`, `Attributes`, `KeyPath`) "
+           f"VALUES ('samples', '{{{code('samples')}}}', 'stationery', {BY_REGISTRY}, 'note_{key(noted[0])}')")
+    yield "INSERT INTO `FeatureComponents` (`Feature_`, `Component_`) VALUES ('everything', 'samples')"
+    for file in noted:
+        digest = hashlib.md5(file.source.read_bytes(), usedforsecurity=False).hexdigest()
+        yield ("INSERT INTO `Registry` (`Registry`, `Root`, `Key`, `Name`, `Value`, `Component_`) VALUES "
+               f"('note_{key(file)}', {MACHINE}, 'Software\\Brevant\\Ornavel\\Samples', '{file.name}', '#x{digest}', "
+               "'samples')")
 
 
 def contents(package, scratch):
@@ -100,11 +124,11 @@ def package_code(package, scratch):
     return code(digest.hexdigest())
 
 
-def gather(files, moment, scratch, bits):
+def gather(files, actions, moment, scratch, bits):
     """All that wixl reads, in one folder: it takes no full paths."""
     (scratch / "files.wxs").write_text(fragment(files, bits), "utf-8")
     places = [(file.source, f"{file.folder}/{file.name}") for file in files]
-    places += [(file, file.name) for file in (PACKAGING / "ornavel.wxs", PACKAGING / "ornavel.ico", ACTIONS)]
+    places += [(file, file.name) for file in (PACKAGING / "ornavel.wxs", PACKAGING / "ornavel.ico", actions)]
     for source, name in places:
         (scratch / name).parent.mkdir(exist_ok=True)
         shutil.copyfile(source, scratch / name)
@@ -123,22 +147,24 @@ def set_times(package, moment):
 
 def check(package, files, scratch):
     """What wixl and msibuild were told is really there."""
-    held = {row.split("\t")[0] for row in run("msiinfo", "export", package, "File", cwd=scratch).splitlines()[3:]}
+    lines = [line.split("\t") for line in run("msiinfo", "export", package, "File", cwd=scratch).splitlines()[3:]]
+    held = {line[0]: line[2] for line in lines}
     removed = run("msiinfo", "export", package, "RemoveFile", cwd=scratch)
-    if held != {key(file) for file in files} or not all(key(file) in removed for file in files if file.folder in KEPT):
-        fail(f"{package.name} lacks something; it holds {', '.join(sorted(held))}")
+    if held != {key(file): named(file.name, file.number) for file in files} or not all(
+            key(file) in removed for file in files if file.folder in KEPT):
+        fail(f"{package.name} lacks something; it holds {', '.join(sorted(held.values()))}")
 
 
-def make_package(files, version, moment, scratch, package, bits):
-    """Writes the package and gives back its package code. A file has a source, a name, a folder and the words of its entry
-    in the start menu; the moment is that of everything inside, the bits those of the mail client."""
-    gather(files, moment, scratch, bits)
+def make_package(files, actions, version, moment, scratch, package, bits):
+    """Writes the package and gives back its package code. A file has a source, a name, a folder, a number of its own and the
+    words of its entry in the start menu; the actions are the DLL that the package itself runs. The moment is that of
+    everything inside, the bits those of the mail client."""
+    gather(files, actions, moment, scratch, bits)
     words = {"version": version, "product": code(version, bits), "family": family(bits), **NAMES, **names(bits)}
     defined = [part for name, value in words.items() for part in ("-D", f"{name}={value}")]
     run("wixl", *defined, "-o", package, "ornavel.wxs", "files.wxs", cwd=scratch, env={**os.environ, "TZ": "UTC"})
     fixed = (PACKAGING / "rows.sql").read_text("utf-8").splitlines()
-    kept = {key(file): file.folder in KEPT for file in files}
-    more = [*(row for file in files for row in rows(file)), *rows_of_bits(version, bits, kept)]
+    more = [*(row for file in files for row in rows(file)), *notes(files), *rows_of_bits(version, bits, map(key, files))]
     run("msibuild", package, *(part for row in [*fixed, *more] for part in ("-q", row)))
     own_code = package_code(package, scratch)
     run("msibuild", package, "-s", f"Ornavel {version}", "Brevant", PLATFORMS[bits], f"{{{own_code}}}")

@@ -6,9 +6,9 @@ FAMILY = uuid.UUID("E0B5E4E7-7C5D-4E12-9C34-0B7A5F6C1D27")
 PLATFORMS = {32: "Intel;1033", 64: "x64;1033"}
 WORDS, ENDINGS = {32: "x86", 64: "x64"}, {32: "", 64: "-x64"}
 VERSIONS_WITH_BITNESS = ("14", "15", "16")  # of mail clients whose setup notes its bits
-BY_REGISTRY, NEVER_OVERWRITTEN, OF_64_BITS = 4, 128, 256  # of a component
+BY_REGISTRY, TRANSITIVE, OF_64_BITS = 4, 64, 256  # of a component
 MACHINE, SEARCH_VALUE, SEARCH_64_BIT = 2, 2, 16  # of a search in the registry
-FROM_THIS_VERSION_ON = 256
+FROM_THIS_VERSION_ON, UP_TO_THIS_VERSION, ONLY_DETECTED = 256, 512, 2
 
 
 def code(name, bits=32):
@@ -24,31 +24,34 @@ def family(bits):
 def names(bits):
     """What ornavel.wxs leaves open because the packages differ in it."""
     if bits == 32:
-        return {"place": "ProgramFilesFolder", "registration": "FA3C2A55-9E85-4C24-AB38-1F15E70DDC56",
-                "preset": "4D7C0F63-0C58-4B0B-9C36-6E1B0B9B7A24"}
-    return {"place": "ProgramFiles64Folder", "registration": code("registration", 64), "preset": code("preset", 64)}
+        return {"place": "ProgramFilesFolder", "registration": "FA3C2A55-9E85-4C24-AB38-1F15E70DDC56"}
+    return {"place": "ProgramFiles64Folder", "registration": code("registration", 64)}
 
 
-def rows_of_bits(version, bits, kept):
-    """The files are given by their keys, with whether each is kept once it was changed."""
-    yield from component_rows(bits, kept)
+def rows_of_bits(version, bits, files):
+    """The files are given by their keys."""
+    yield from component_rows(bits, files)
     yield from search_rows()
-    if bits == 64:
-        where = SEARCH_VALUE + SEARCH_64_BIT
-        yield f"UPDATE `RegLocator` SET `Type` = {where} WHERE `Key` = 'Software\\Brevant\\Ornavel'"
     yield condition_row(version, bits, 96 - bits)
-    # The other package gives way.
+    yield from upgrade_rows(version, 96 - bits)
+
+
+def upgrade_rows(version, other):
+    """The other package gives way, unless it is newer."""
+    yield ("INSERT INTO `Upgrade` (`UpgradeCode`, `VersionMin`, `VersionMax`, `Attributes`, `ActionProperty`) VALUES "
+           f"('{{{family(other)}}}', '0.0.0', '{version}', {FROM_THIS_VERSION_ON + UP_TO_THIS_VERSION}, 'OTHERBITS')")
     yield ("INSERT INTO `Upgrade` (`UpgradeCode`, `VersionMin`, `Attributes`, `ActionProperty`) VALUES "
-           f"('{{{family(96 - bits)}}}', '0.0.0', {FROM_THIS_VERSION_ON}, 'OTHERBITS')")
+           f"('{{{family(other)}}}', '{version}', {ONLY_DETECTED}, 'OTHERBITSNEWER')")
+    yield ("INSERT INTO `LaunchCondition` (`Condition`, `Description`) VALUES ('NOT OTHERBITSNEWER', "
+           f"'A newer Ornavel, for {other}-bit Outlook, is installed on this computer. Remove it first.')")
 
 
-def component_rows(bits, kept):
+def component_rows(bits, files):
     """A component of 64 bits has its files and keys where programs of 64 bits look."""
     own = OF_64_BITS if bits == 64 else 0
-    found = {"registration": BY_REGISTRY, "preset": BY_REGISTRY,
-             **{key: NEVER_OVERWRITTEN if is_kept else 0 for key, is_kept in kept.items()}}
+    found = {"registration": BY_REGISTRY + own, "preset": BY_REGISTRY + TRANSITIVE, **dict.fromkeys(files, own)}
     for name, value in found.items():
-        yield f"UPDATE `Component` SET `Attributes` = {value + own} WHERE `Component` = '{name}'"
+        yield f"UPDATE `Component` SET `Attributes` = {value} WHERE `Component` = '{name}'"
 
 
 def notes():
