@@ -548,20 +548,17 @@ TEST_F(SiteAssistant, TheSampleWritesNeitherSettingsNorFilesOfTheAddIn) {
     EXPECT_EQ(stage.files.contents.size(), files_before + 1);
 }
 
-TEST_F(SiteAssistant, ATemplateOfFiftyMegabytesIsNotPouredIntoTheSample) {
-    stage.files.contents[u"C:\\stationery\\huge.htm"] = std::string(50'000'000, 'x');
-    open();
-    go_to(u"fraLetterhead");
-    type(u"cboTemplates", u"huge.htm");
-    EXPECT_TRUE(contains(preview(), u"too large"));
-}
-
-TEST_F(SiteAssistant, ASignatureOfFiftyMegabytesIsNotPouredIntoTheSample) {
-    stage.files.contents[u"C:\\signatures\\huge.htm"] = std::string(50'000'000, 'x');
-    open();
-    go_to(u"fraLetterhead");
-    type(u"cboSignatures", u"huge.htm");
-    EXPECT_TRUE(contains(preview(), u"too large"));
+TEST_F(SiteAssistant, AFileOfFiftyMegabytesIsNotPouredIntoTheSample) {
+    const std::string huge(50'000'000, 'x');
+    stage.files.contents[u"C:\\stationery\\huge.htm"] = stage.files.contents[u"C:\\signatures\\huge.htm"] =
+        huge;
+    for (const auto& [list, what] :
+         {std::pair{u"cboTemplates", u"This template"}, {u"cboSignatures", u"This signature"}}) {
+        open();
+        go_to(u"fraLetterhead");
+        type(list, u"huge.htm");
+        EXPECT_TRUE(contains(preview(), Text(what) + u" is too large to be shown here. "));
+    }
 }
 
 TEST_F(SiteAssistant, AShareIsShownOnceItsListIsOpenedAndNotAtEveryLetter) {
