@@ -51,7 +51,6 @@ void frmOptionsAssistant::take_value(Text value) {
     Control& list = form_[u"lstSettings"];
     for (std::size_t i = 0; i < listed_.size(); ++i)
         if (is_same(listed_[i]->key, setting->key)) list.items[i] = line_of(*listed_[i]);
-    list.select(list.index);
     form_[u"cmdReset"].enabled = draft_.find(setting->key).has_value();
     form_[u"cmdSave"].enabled = !draft_.changes().empty();
 }

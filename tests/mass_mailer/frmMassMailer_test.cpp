@@ -269,6 +269,24 @@ TEST_F(SendToManyWindow, ClosedWhileItSendsItStops) {
     EXPECT_EQ(client.sent.size(), 1u);
 }
 
+TEST_F(SendToManyWindow, OfManyUnknownPeopleTheFirstTenAreToldByName) {
+    Text people = u"Name;Mail\r\n", first_ten;
+    for (int i = 10; i < 21; ++i) people += u"N;p" + to_text(i) + u"@x\r\n";
+    for (int i = 10; i < 20; ++i) first_ten += u"\r\np" + to_text(i) + u"@x";
+    const auto start = [&](Form&, FormUser user) {
+        user.set_text(u"txtList", people);
+        user.click(u"cmdStart");
+    };
+    show(start);
+    ASSERT_EQ(client.sent.size(), 11u);
+    std::string& journal = files.contents.at(u"C:\\data\\Brevant\\Ornavel\\pasted.sent.csv");
+    for (auto at = journal.find("sent p"); at != std::string::npos; at = journal.find("sent p"))
+        journal.erase(at, journal.find('\n', at) + 1 - at);
+    show(start);
+    EXPECT_TRUE(
+        is_told(u"Nobody knows whether 11 people have the message:" + first_ten + u"\r\n…\r\n\r\nSend it"));
+}
+
 TEST_F(SendToManyWindow, UnknownPeopleAreShownAndSentToOnlyWhenTheUserSaysSo) {
     const auto start = [&](Form& form, FormUser user) {
         user.set_text(u"txtList", list);

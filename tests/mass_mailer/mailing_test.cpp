@@ -316,6 +316,8 @@ TEST_F(SendingToMany, WarnsOfFieldsThatSomebodyHasNoValueFor) {
     EXPECT_EQ(empty_fields(table, people, *subject, *page), Texts{u"\"Name\" is empty for 2 people."});
     table.rows[1].cells[1] = u"x";
     EXPECT_EQ(empty_fields(table, people, *subject, *page), Texts{u"\"Name\" is empty for 1 person."});
+    table.rows[2].cells.push_back(u"y");
+    EXPECT_EQ(empty_fields(table, people, *subject, *page), Texts{});
 }
 
 } // namespace

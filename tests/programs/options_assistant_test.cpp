@@ -190,6 +190,17 @@ struct Dialog {
     PathQuestion::Kind kind;
 };
 
+TEST_F(Options, OneOfWhichIsAlwaysChosenWhileSomeAreListed) {
+    const Control& list = form()[u"lstSettings"];
+    choose(admin::SigFax.name);
+    user().set_text(u"lstGroups", u"usage log");
+    EXPECT_EQ(list.index, 0);
+    user().set_text(u"txtSearch", u"fullname name");
+    EXPECT_TRUE(contains(list.items.at(0), u"SigFullname"));
+    user().set_text(u"txtSearch", u"SigFullnameThe");
+    EXPECT_TRUE(list.items.empty()) << "the name and the meaning are texts of their own";
+}
+
 TEST_F(Options, AskForFilesInDialogsThatSayWhichTheyMean) {
     using enum PathQuestion::Kind;
     constexpr Dialog dialogs[] = {{u"cmdImport", u"Import", u"", u"*.reg", existing_file},

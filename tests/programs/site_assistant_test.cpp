@@ -268,6 +268,7 @@ TEST_F(SiteAssistant, EveryControlOfThePageAboutSendingWritesItsSetting) {
     stage.windows.path = u"C:\\cards\\jo.at.home.vcf";
     click(u"cmdBrowsevCard");
     EXPECT_EQ(stage.windows.last_question.kind, forms::PathQuestion::Kind::existing_file);
+    EXPECT_EQ(stage.windows.last_question.files, u"vCards");
     EXPECT_EQ(stage.windows.last_question.pattern, u"*.vcf");
     finish();
     EXPECT_EQ(stage.stored(user::SettingButtonBar), modes::on);
