@@ -278,7 +278,9 @@ TEST_F(SendingToMany, TheUsageLogHasARowForEachMessageWithTheFlagOfBulkMail) {
         if (member == u"Open") throw host::Error(u"no database");
     };
     usage.note(u"p1@x");
-    EXPECT_EQ(errors.entries.size(), 1u);
+    ASSERT_EQ(errors.entries.size(), 1u);
+    EXPECT_EQ(errors.entries[0].sub_function, u"MassMailer- error in the usage log");
+    EXPECT_EQ(errors.entries[0].section, u"eMarketing_Err");
 }
 
 TEST_F(SendingToMany, WithoutAUsageLogNoDatabaseIsAskedFor) {

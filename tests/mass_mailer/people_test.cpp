@@ -137,6 +137,14 @@ TEST(PastedLists, AddressesStandOneOrSeveralALine) {
     EXPECT_EQ(rejections(people), Texts{u"3: nobody: An address has an \"@\""});
 }
 
+TEST(PastedLists, ASeparatorInQuotesOrBracketsSeparatesNothing) {
+    const Table table = read_pasted(u"Ann <ann,lee@b.c>; \"Lee, <Bob\" <bob@b.c>, cy@b.c");
+    ASSERT_EQ(table.rows.size(), 3u);
+    EXPECT_EQ(trim(table.rows[0].cells[0]), u"Ann <ann,lee@b.c>");
+    EXPECT_EQ(trim(table.rows[1].cells[0]), u"\"Lee, <Bob\" <bob@b.c>");
+    EXPECT_EQ(trim(table.rows[2].cells[0]), u"cy@b.c");
+}
+
 TEST(PastedLists, ASignOfAnAddressInTheFirstLineTellsThatThereAreNoNames) {
     EXPECT_EQ(read_pasted(u"ann@b.c").rows.size(), 1u);
     EXPECT_EQ(read_pasted(u"Fax;E-mail\r\n1;ann@b.c").columns, (Texts{u"Fax", u"E-mail"}));
