@@ -79,17 +79,24 @@ TEST_F(SiteAssistant, LooksAsDrawn) {
     }
 }
 
+struct Page {
+    TextView frame, first;
+    std::size_t access_keys;
+};
+
 TEST_F(SiteAssistant, EachPageIsReachedByKeysOfItsOwnAndNothingOverlaps) {
     open();
     click(u"chkFrench");
-    for (const auto& [page, keys] : {std::pair{u"fraYou", 15u},
-                                     {u"fraFrench", 10u},
-                                     {u"fraLetterhead", 8u},
-                                     {u"fraSending", 10u},
-                                     {u"fraReady", 3u}}) {
-        go_to(page);
+    constexpr Page pages[] = {{u"fraYou", u"txtSigFullname", 15},
+                              {u"fraFrench", u"txtSigFullnameFR", 10},
+                              {u"fraLetterhead", u"cboTemplates", 8},
+                              {u"fraSending", u"cboMode", 10},
+                              {u"fraReady", u"cmdFinish", 3}};
+    for (const Page& page : pages) {
+        go_to(page.frame);
         expect_apart(form());
-        EXPECT_EQ(unique_access_keys(form()).size(), keys) << to_utf8(page);
+        EXPECT_EQ(unique_access_keys(form()).size(), page.access_keys) << to_utf8(page.frame);
+        EXPECT_EQ(form().next_focus, page.first);
     }
 }
 
