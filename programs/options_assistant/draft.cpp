@@ -1,5 +1,7 @@
 #include "programs/options_assistant/draft.h"
 
+#include "settings/modes.h"
+
 #include <algorithm>
 
 namespace ornavel::programs {
@@ -36,15 +38,18 @@ bool Draft::changes(const Key& key) const {
 
 Text Draft::value(const Key& key) const {
     const auto found = find(key);
-    return found ? found->text : Text(key.default_value);
+    return found ? found->text : Text(value_where_absent(key));
 }
 
-bool Draft::differs_from_default(const Key& key) const { return value(key) != key.default_value; }
+bool Draft::differs_from_default(const Key& key) const {
+    const auto found = find(key);
+    return found && found->text != key.default_value;
+}
 
 void Draft::set(const Key& key, const std::optional<Store::Stored>& value) {
     forget(key);
     const auto before = stored_in(store_, key);
-    const Text text_before = before ? before->text : Text(key.default_value);
+    const Text text_before = before ? before->text : Text(value_where_absent(key));
     if (value ? value->text == text_before : !before) return;
     changes_.push_back(change_to(key, value));
 }

@@ -21,12 +21,12 @@ public:
 
     /// Nothing where the setting is absent, or will be.
     std::optional<settings::Store::Stored> find(const settings::Key& key) const;
-    /// What it reads as: its default where it is absent. Variables stand as they are stored.
+    /// What it reads as, or counts as where it is absent. Variables stand as they are stored.
     Text value(const settings::Key& key) const;
     bool differs_from_default(const settings::Key& key) const;
 
-    /// Nothing makes the setting absent. The text that is stored already is no change, nor is the default of
-    /// one that is absent.
+    /// Nothing makes the setting absent. The text that is stored already is no change, nor is what one that
+    /// is absent counts as.
     void set(const settings::Key& key, const std::optional<settings::Store::Stored>& value);
     /// What lies over the store.
     const std::vector<settings::Change>& changes() const { return changes_; }

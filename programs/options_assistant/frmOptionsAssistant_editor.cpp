@@ -92,9 +92,9 @@ void frmOptionsAssistant::cmdBrowseValue_Click() {
 
 void frmOptionsAssistant::cmdSave_Click() {
     for (const Description& setting : descriptions()) {
-        if (!draft_.changes(setting.key)) continue;
-        if (const auto why_not = objection(setting, draft_.value(setting.key)))
-            return refuse(setting, *why_not);
+        const auto value = draft_.find(setting.key);
+        if (!draft_.changes(setting.key) || !value) continue;
+        if (const auto why_not = objection(setting, value->text)) return refuse(setting, *why_not);
     }
     if (save_or_tell(platform_, title, draft_.changes())) draft_.forget();
     list_settings();

@@ -113,8 +113,7 @@ void add_name_of_vcard(std::vector<Change>& changes, TextView path, const Store&
 std::span<const Field> setup_fields() { return fields; }
 
 Text stored_value(const Store& store, const Key& key) {
-    const TextView fallback = is_mode(key) ? TextView() : key.default_value;
-    return store.find(key.section, key.name).value_or(Text(fallback));
+    return store.find(key.section, key.name).value_or(Text(value_where_absent(key)));
 }
 
 void show_value(Form& form, const Field& field, TextView value) {

@@ -23,8 +23,7 @@ struct Beginning {
     Text shown;  ///< what the control said of it, or what it proposed
 };
 
-/// The stored value, or the setting's default. A mode that is not stored is empty: it dresses nothing,
-/// whatever its default.
+/// The stored value, or what the setting counts as without one.
 Text stored_value(const settings::Store& store, const settings::Key& key);
 
 /// Makes the control show a value of its setting.

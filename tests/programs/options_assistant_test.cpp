@@ -1,5 +1,6 @@
 #include "programs/options_assistant/options_assistant.h"
 #include "programs/options_assistant/values.h"
+#include "settings/modes.h"
 #include "tests/forms/drawing.h"
 #include "tests/forms/overlap.h"
 #include "tests/programs/options_stage.h"
@@ -91,7 +92,7 @@ TEST_F(Options, AreAbsentAfterReset) {
     stage.set(user::SettingButtonBar, u"off");
     choose(user::SettingButtonBar.name);
     user().click(u"cmdReset");
-    EXPECT_EQ(form()[u"cboValue"].text, u"auto");
+    EXPECT_EQ(form()[u"cboValue"].text, u"") << "what is not set dresses nothing";
     EXPECT_FALSE(form()[u"cmdReset"].enabled);
     EXPECT_EQ(stored(user::SettingButtonBar), u"off");
     user().click(u"cmdSave");
@@ -189,6 +190,21 @@ struct Dialog {
     TextView button, title, proposed, pattern;
     PathQuestion::Kind kind;
 };
+
+TEST_F(Options, AModeThatIsNotStoredIsNoneAndCanBeSetToItsDefault) {
+    choose(user::SettingButtonBar.name);
+    EXPECT_EQ(form()[u"cboValue"].text, u"");
+    EXPECT_FALSE(form()[u"cmdReset"].enabled);
+    user().set_text(u"cboValue", modes::automatic);
+    user().click(u"cmdSave");
+    EXPECT_EQ(stored(user::SettingButtonBar), modes::automatic);
+    user().click(u"cmdReset");
+    user().click(u"cmdSave");
+    EXPECT_EQ(stored(user::SettingButtonBar), std::nullopt);
+    EXPECT_TRUE(stage.windows.boxes.empty());
+    user().set_text(u"lstGroups", u"changed");
+    EXPECT_TRUE(form()[u"lstSettings"].items.empty());
+}
 
 TEST_F(Options, OneOfWhichIsAlwaysChosenWhileSomeAreListed) {
     const Control& list = form()[u"lstSettings"];
